@@ -1,0 +1,34 @@
+# The few functions by which every room, program and test program is declared.
+
+add_library(quill_flags INTERFACE)
+target_compile_options(quill_flags INTERFACE
+  -Wall -Wextra -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+  $<$<BOOL:${QUILL_WARNINGS_AS_ERRORS}>:-Werror>)
+target_compile_definitions(quill_flags INTERFACE
+  QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_CAST_FROM_ASCII QUILL_VERSION="${PROJECT_VERSION}")
+target_include_directories(quill_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
+if(QUILL_SANITIZE)
+  set(quill_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_compile_options(quill_flags INTERFACE ${quill_sanitizers})
+  target_link_options(quill_flags INTERFACE ${quill_sanitizers})
+endif()
+
+# quill_precompile(TARGET core|ui): the Qt headers that nearly every file of such a target includes.
+function(quill_precompile target kind)
+  if(NOT QUILL_PRECOMPILED_HEADERS)
+    return()
+  endif()
+  if(kind STREQUAL "ui")
+    target_precompile_headers(${target} PRIVATE <QtWidgets> <functional> <memory> <optional> <vector>)
+  else()
+    target_precompile_headers(${target} PRIVATE <QtCore> <functional> <memory> <optional> <vector>)
+  endif()
+endfunction()
+
+# quill_add_room(NAME core|ui SOURCES ... LINKS ...): one folder, one static library.
+function(quill_add_room name kind)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${ROOM_SOURCES})
+  target_link_libraries(${name} PUBLIC ${ROOM_LINKS} PRIVATE quill_flags)
+  quill_precompile(${name} ${kind})
+endfunction()

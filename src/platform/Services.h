@@ -1,0 +1,23 @@
+// The device as the program sees it. Implementations are installed from outside (the program, the
+// driver, the tests) and owned there; a pointer is null before they are.
+#pragma once
+
+namespace quill {
+
+class Clock;
+class InputPanel;
+class Prompt;
+class RegistryStore;
+class Timers;
+
+struct Services {
+  quill::Clock* Clock = nullptr;
+  quill::Timers* Timers = nullptr;
+  RegistryStore* Registry = nullptr;
+  quill::InputPanel* InputPanel = nullptr;
+  quill::Prompt* Prompt = nullptr;
+};
+
+extern Services g_services;
+
+}  // namespace quill

@@ -1,0 +1,59 @@
+// Command and control identifiers: the only place where they stand as numbers.
+//
+// Command ids are global. Control ids repeat between windows, so each window has its namespace.
+#pragma once
+
+namespace quill {
+
+// Main menu and menu bar.
+inline constexpr int ID_FILE_NEW = 57600;
+inline constexpr int ID_BEAM_CONTACTS = 40015;
+inline constexpr int ID_DELETE_ITEMS = 40017;
+inline constexpr int ID_RECEIVE_INFRARED = 32831;
+inline constexpr int ID_DELETE_ALL = 40002;
+inline constexpr int ID_CONFIGURATION = 32830;
+inline constexpr int ID_VIEW_BY_NAME = 59413;
+inline constexpr int ID_VIEW_BY_COMPANY = 32823;
+inline constexpr int ID_VIEW_BY_MEMO = 32825;
+inline constexpr int ID_APP_ABOUT = 57664;
+
+// The shell's own commands: the button for the input panel and the menu behind the title bar.
+inline constexpr int ID_SHELL_INPUT_PANEL = 60000;
+inline constexpr int ID_SHELL_LARGER = 60001;
+inline constexpr int ID_SHELL_SMALLER = 60002;
+inline constexpr int ID_SHELL_FULL_SCREEN = 60003;
+
+// The contact list view.
+namespace ContactsViewIds {
+inline constexpr int kScrollBar = 1024;
+inline constexpr int kSearchEdit = 1028;
+inline constexpr int kSearchButton = 1035;
+inline constexpr int kListControl = 1036;
+}  // namespace ContactsViewIds
+
+// Buttons that end a dialog or a message box: their ids are the results that DoModal returns.
+inline constexpr int kResultOK = 1;
+inline constexpr int kResultCancel = 2;
+inline constexpr int kResultYes = 6;
+inline constexpr int kResultNo = 7;
+
+namespace MessageBoxIds {
+inline constexpr int kIcon = 20;
+inline constexpr int kText = 65535;
+}  // namespace MessageBoxIds
+
+namespace AboutDialogIds {
+inline constexpr int kDialog = 100;
+inline constexpr int kTitle = 1001;
+inline constexpr int kVersion = 1002;
+inline constexpr int kMaker = 1003;
+inline constexpr int kLicence = 1004;
+}  // namespace AboutDialogIds
+
+// The messages that tell the main frame of changes in the store, and the one it hands to the view.
+inline constexpr int kMessageItemWritten = 1025;
+inline constexpr int kMessageItemDeleted = 1027;
+inline constexpr int kMessageStoreChanged = 1030;
+inline constexpr int kMessageStoreNotice = 10024;
+
+}  // namespace quill

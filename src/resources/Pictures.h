@@ -1,0 +1,69 @@
+// Small pictures as vector data, crisp at every scale. Coordinates are in a grid of Size x Size
+// logical pixels.
+#pragma once
+
+#include <array>
+#include <span>
+
+namespace quill::resources {
+
+struct PicturePoint {
+  float X;
+  float Y;
+};
+
+enum class PictureShape { Line, Fill };  // an open line of one pixel, a filled polygon
+
+struct PicturePath {
+  PictureShape Shape;
+  std::span<const PicturePoint> Points;
+};
+
+struct Picture {
+  int Size;
+  std::span<const PicturePath> Paths;
+};
+
+// The close cross of the title bar.
+inline constexpr std::array kCrossDown = {PicturePoint{4, 4}, PicturePoint{10, 10}};
+inline constexpr std::array kCrossUp = {PicturePoint{4, 10}, PicturePoint{10, 4}};
+inline constexpr std::array kClosePaths = {PicturePath{PictureShape::Line, kCrossDown},
+                                           PicturePath{PictureShape::Line, kCrossUp}};
+inline constexpr Picture kClosePicture = {14, kClosePaths};
+
+// The check mark of a menu item.
+inline constexpr std::array kCheckLine = {PicturePoint{3, 7}, PicturePoint{6, 10},
+                                          PicturePoint{11, 4}};
+inline constexpr std::array kCheckPaths = {PicturePath{PictureShape::Line, kCheckLine}};
+inline constexpr Picture kCheckPicture = {14, kCheckPaths};
+
+// The arrows of submenus and scroll strips.
+inline constexpr std::array kRightTriangle = {PicturePoint{5, 3}, PicturePoint{9, 7},
+                                              PicturePoint{5, 11}};
+inline constexpr std::array kRightPaths = {PicturePath{PictureShape::Fill, kRightTriangle}};
+inline constexpr Picture kRightPicture = {14, kRightPaths};
+
+inline constexpr std::array kUpTriangle = {PicturePoint{3, 9}, PicturePoint{7, 5},
+                                           PicturePoint{11, 9}};
+inline constexpr std::array kUpPaths = {PicturePath{PictureShape::Fill, kUpTriangle}};
+inline constexpr Picture kUpPicture = {14, kUpPaths};
+
+inline constexpr std::array kDownTriangle = {PicturePoint{3, 5}, PicturePoint{7, 9},
+                                             PicturePoint{11, 5}};
+inline constexpr std::array kDownPaths = {PicturePath{PictureShape::Fill, kDownTriangle}};
+inline constexpr Picture kDownPicture = {14, kDownPaths};
+
+// The input panel's button: a keyboard.
+inline constexpr std::array kKeyboardFrame = {PicturePoint{1, 3}, PicturePoint{13, 3},
+                                              PicturePoint{13, 11}, PicturePoint{1, 11},
+                                              PicturePoint{1, 3}};
+inline constexpr std::array kKeyboardRow1 = {PicturePoint{3, 5.5F}, PicturePoint{11, 5.5F}};
+inline constexpr std::array kKeyboardRow2 = {PicturePoint{3, 7.5F}, PicturePoint{11, 7.5F}};
+inline constexpr std::array kKeyboardSpace = {PicturePoint{5, 9.5F}, PicturePoint{9, 9.5F}};
+inline constexpr std::array kKeyboardPaths = {PicturePath{PictureShape::Line, kKeyboardFrame},
+                                              PicturePath{PictureShape::Line, kKeyboardRow1},
+                                              PicturePath{PictureShape::Line, kKeyboardRow2},
+                                              PicturePath{PictureShape::Line, kKeyboardSpace}};
+inline constexpr Picture kKeyboardPicture = {14, kKeyboardPaths};
+
+}  // namespace quill::resources

@@ -1,0 +1,98 @@
+// The personal-information store as the program sees it: a provider, its folders, their items.
+// Implementations: store/pim (SQLite), and decorators of the driver and the tests.
+//
+// Single-threaded. Nothing throws; what a failure looks like stands at each operation.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "store/ContactCollection.h"
+#include "store/ContactRecord.h"
+
+namespace quill {
+
+enum class FolderKind { Calendar = 9, Contacts = 10 };
+
+// A contact with all the store keeps of it: the record, the ink notes, and what an imported card
+// held beyond the record. CarriedLines are unfolded vCard lines, each ended by LF.
+struct ContactItem {
+  ContactRecord Record;
+  QByteArray BodyInk = {};
+  QString Uid = {};
+  QString CarriedLines = {};
+};
+
+class ContactsFolder {
+ public:
+  virtual ~ContactsFolder() = default;
+
+  // Every contact, in the order of FileAs.
+  virtual ContactCollection Items() = 0;
+  virtual void Sort(ContactCollection& collection, ContactOrder order) = 0;
+  // The contacts of the collection that satisfy the restriction text, in the same order; nothing
+  // when the text cannot be parsed or the store fails.
+  virtual std::optional<ContactCollection> Restrict(const ContactCollection& collection,
+                                                    const QString& restriction) = 0;
+  virtual int Count(const ContactCollection& collection) = 0;
+  // The item at a position, 1-based; 0 when there is none.
+  virtual Oid OidAt(const ContactCollection& collection, int position) = 0;
+
+  // Each fills what it reads and returns true, or leaves it untouched and returns false.
+  virtual bool ReadListRow(Oid oid, ContactRecord& record) = 0;
+  virtual bool Read(Oid oid, ContactItem& item) = 0;
+
+  // Writes the fields that an edit writes back, and the ink notes; the rest of an existing contact
+  // stays as it is. Oid 0 makes a new contact. Returns its Oid, 0 on failure (nothing written).
+  virtual Oid Save(Oid oid, const ContactRecord& record, const QByteArray& bodyInk) = 0;
+  // Writes every field, as an import does.
+  virtual Oid SaveWhole(Oid oid, const ContactItem& item) = 0;
+  // True when the contact existed and is gone now.
+  virtual bool Remove(Oid oid) = 0;
+
+  // Contacts with this UID, and contacts with exactly this FileAs, in Oid order.
+  virtual std::vector<Oid> FindByUid(const QString& uid) = 0;
+  virtual std::vector<Oid> FindByFileAs(const QString& fileAs) = 0;
+};
+
+// Appointments: so far the folder can only be opened.
+class CalendarFolder {
+ public:
+  virtual ~CalendarFolder() = default;
+};
+
+// One durable unit of work: rolled back when it goes without a Commit.
+class StoreTransaction {
+ public:
+  virtual ~StoreTransaction() = default;
+  virtual bool Commit() = 0;
+};
+
+class StoreProvider {
+ public:
+  virtual ~StoreProvider() = default;
+
+  // The four steps of a start-up. Each returns 0 or the platform's error code.
+  virtual int Create() = 0;
+  virtual int Logon() = 0;
+  virtual int OpenFolder(FolderKind kind) = 0;
+
+  virtual void Close() = 0;
+
+  // Null before the folder is open. Owned by the provider, gone after Close.
+  virtual ContactsFolder* Contacts() = 0;
+  virtual CalendarFolder* Calendar() = 0;
+
+  // Null when no transaction can be begun.
+  virtual std::unique_ptr<StoreTransaction> Begin() = 0;
+  // A number that differs from the last answer when another program has written meanwhile.
+  virtual qint64 Changes() = 0;
+  // Why the last operation failed, for the log and for commands; empty when none has.
+  virtual QString LastError() const = 0;
+};
+
+}  // namespace quill
