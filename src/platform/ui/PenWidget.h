@@ -1,0 +1,33 @@
+// A widget that a pen works on. Mouse, tablet and touch events arrive as one press, moves and one
+// release, in logical pixels of the widget; the release comes to the widget of its press.
+#pragma once
+
+#include <QWidget>
+
+namespace quill {
+
+class CPenWidget : public QWidget {
+  Q_OBJECT
+ public:
+  explicit CPenWidget(QWidget* parent);
+
+ protected:
+  virtual void PenPress(QPoint at);
+  virtual void PenMove(QPoint at);
+  virtual void PenRelease(QPoint at);
+  // The second press of a double tap, instead of PenPress.
+  virtual void PenDoubleTap(QPoint at);
+  // The pen moves above the widget without touching it.
+  virtual void PenHover(QPoint at);
+
+  bool event(QEvent* event) override;
+
+ private:
+  bool HandleMouse(QEvent* event);
+  bool HandleTablet(QEvent* event);
+  bool HandleTouch(QEvent* event);
+
+  bool m_touching = false;
+};
+
+}  // namespace quill
