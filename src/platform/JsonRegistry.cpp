@@ -1,0 +1,112 @@
+#include "platform/JsonRegistry.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QSaveFile>
+
+#include <algorithm>
+
+namespace quill {
+
+namespace {
+
+Q_LOGGING_CATEGORY(logRegistry, "quill.registry")
+
+// Moves the file out of the way under a name that nothing has yet.
+bool SetAside(const QString& file) {
+  QString aside = file + QStringLiteral(".damaged");
+  for (int number = 2; QFileInfo::exists(aside); ++number)
+    aside = file + QStringLiteral(".damaged-%1").arg(number);
+  const bool done = QFile::rename(file, aside);
+  if (done) qCWarning(logRegistry) << "damaged settings are kept as" << aside;
+  return done;
+}
+
+}  // namespace
+
+JsonRegistry::JsonRegistry(const QString& file) : m_file(file) { Load(); }
+
+void JsonRegistry::Load() {
+  if (!QFileInfo::exists(m_file)) return;
+  QFile file(m_file);
+  if (!file.open(QIODevice::ReadOnly)) {
+    qCWarning(logRegistry) << "cannot read" << m_file << file.errorString();
+    m_writable = false;
+    return;
+  }
+  if (auto keys = RegistryFromJson(file.readAll())) {
+    m_keys = std::move(*keys);
+    return;
+  }
+  file.close();
+  m_writable = SetAside(m_file);
+  if (!m_writable) qCWarning(logRegistry) << "damaged settings cannot be set aside:" << m_file;
+}
+
+RegistryKeyState JsonRegistry::Create(const QString& key) {
+  if (m_keys.contains(RegistryFold(key))) return RegistryKeyState::Opened;
+  RegistryKeys keys = m_keys;
+  RegistryKeyIn(keys, key);
+  return Replace(std::move(keys)) ? RegistryKeyState::Created : RegistryKeyState::Failed;
+}
+
+bool JsonRegistry::PutNumber(const QString& key, const QString& name, quint32 value) {
+  return Put(key, name, value);
+}
+
+bool JsonRegistry::PutText(const QString& key, const QString& name, const QByteArray& block) {
+  return Put(key, name, block);
+}
+
+bool JsonRegistry::Put(const QString& key, const QString& name, const RegistryValue& value) {
+  const RegistryValue* old = Find(key, name);
+  if (old && *old == value) return true;
+  RegistryKeys keys = m_keys;
+  RegistryValueIn(RegistryKeyIn(keys, key), name) = value;
+  return Replace(std::move(keys));
+}
+
+bool JsonRegistry::Replace(RegistryKeys keys) {
+  if (!m_writable) {
+    qCWarning(logRegistry) << "settings are not written over" << m_file;
+    return false;
+  }
+  QDir().mkpath(QFileInfo(m_file).absolutePath());  // a failure shows when the file is opened
+  QSaveFile file(m_file);
+  if (file.open(QIODevice::WriteOnly)) file.write(JsonFromRegistry(keys));
+  if (file.error() != QFileDevice::NoError || !file.commit()) {
+    qCWarning(logRegistry) << "cannot write" << m_file << file.errorString();
+    return false;
+  }
+  m_keys = std::move(keys);
+  return true;
+}
+
+std::optional<quint32> JsonRegistry::QueryNumber(const QString& key, const QString& name) const {
+  const RegistryValue* value = Find(key, name);
+  const auto* number = value ? std::get_if<quint32>(value) : nullptr;
+  return number ? std::optional(*number) : std::nullopt;
+}
+
+RegistryTextRead JsonRegistry::QueryText(const QString& key, const QString& name,
+                                         std::span<char> buffer) const {
+  const RegistryValue* value = Find(key, name);
+  const auto* block = value ? std::get_if<QByteArray>(value) : nullptr;
+  if (!block) return {};
+  const int size = static_cast<int>(block->size());
+  if (static_cast<std::size_t>(size) > buffer.size()) return {RegistryStatus::MoreData, size};
+  std::ranges::copy(*block, buffer.begin());
+  return {RegistryStatus::Done, size};
+}
+
+const RegistryValue* JsonRegistry::Find(const QString& key, const QString& name) const {
+  const auto found = m_keys.find(RegistryFold(key));
+  if (found == m_keys.end()) return nullptr;
+  const auto& values = found->second.Values;
+  const auto value = values.find(RegistryFold(name));
+  return value == values.end() ? nullptr : &value->second.Content;
+}
+
+}  // namespace quill

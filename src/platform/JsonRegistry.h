@@ -1,0 +1,36 @@
+// The registry on a desktop: one JSON file (RegistryJson.h), written anew as a whole at each
+// change.
+//
+// A file that cannot be understood is renamed to NAME.damaged, NAME.damaged-2, ... and the registry
+// begins empty. A file that can be neither read nor renamed stays, and every change fails.
+#pragma once
+
+#include "platform/RegistryJson.h"
+#include "platform/RegistryStore.h"
+
+namespace quill {
+
+class JsonRegistry : public RegistryStore {
+ public:
+  explicit JsonRegistry(const QString& file);
+
+  RegistryKeyState Create(const QString& key) override;
+  bool PutNumber(const QString& key, const QString& name, quint32 value) override;
+  bool PutText(const QString& key, const QString& name, const QByteArray& block) override;
+  std::optional<quint32> QueryNumber(const QString& key, const QString& name) const override;
+  RegistryTextRead QueryText(const QString& key, const QString& name,
+                             std::span<char> buffer) const override;
+
+ private:
+  void Load();
+  bool Put(const QString& key, const QString& name, const RegistryValue& value);
+  // Stores these as the file's and the registry's content; on failure both stay as they were.
+  bool Replace(RegistryKeys keys);
+  const RegistryValue* Find(const QString& key, const QString& name) const;
+
+  QString m_file;
+  RegistryKeys m_keys;
+  bool m_writable = true;
+};
+
+}  // namespace quill

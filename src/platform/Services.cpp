@@ -1,0 +1,7 @@
+#include "platform/Services.h"
+
+namespace quill {
+
+Services g_services;
+
+}  // namespace quill

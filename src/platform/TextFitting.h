@@ -1,0 +1,20 @@
+// Fitting a text into a column.
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+#include <functional>
+
+namespace quill {
+
+// The width of a text in logical pixels in the font that the painter uses.
+using TextWidth = std::function<double(QStringView)>;
+
+// The text as a column of this width shows it. A text that is wider ends at its first line break,
+// or with "..." after the first beginning that is not narrower than the limit; what it returns is
+// therefore somewhat wider than the limit, which is intended: painters clip. A surrogate pair
+// counts as one character. A text that is not wider is returned unchanged, line breaks included.
+QString ShortenText(const QString& text, double limit, const TextWidth& width);
+
+}  // namespace quill
