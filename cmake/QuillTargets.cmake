@@ -32,3 +32,27 @@ function(quill_add_room name kind)
   target_link_libraries(${name} PUBLIC ${ROOM_LINKS} PRIVATE quill_flags)
   quill_precompile(${name} ${kind})
 endfunction()
+
+# quill_add_tests(NAME core|ui SOURCES ... LINKS ...): one test program; every test in it is a test of
+# ctest. A core program runs under QCoreApplication and is checked not to load Widgets; an ui program
+# runs under an offscreen QApplication.
+function(quill_add_tests name kind)
+  cmake_parse_arguments(TESTS "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${TESTS_SOURCES})
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_link_libraries(${name} PRIVATE
+    ${TESTS_LINKS} quill_test_support quill_test_main_${kind} GTest::gmock GTest::gtest quill_flags)
+  quill_precompile(${name} ${kind})
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES LABELS unit TIMEOUT 120)
+  if(kind STREQUAL "core")
+    quill_add_no_widgets_check(${name})
+  endif()
+endfunction()
+
+# A test that this program does not load Qt's Widgets.
+function(quill_add_no_widgets_check target)
+  add_test(NAME NoWidgets.${target}
+    COMMAND ${CMAKE_COMMAND} -DPROGRAM=$<TARGET_FILE:${target}>
+            -P ${CMAKE_SOURCE_DIR}/tests/support/NoWidgets.cmake)
+  set_tests_properties(NoWidgets.${target} PROPERTIES LABELS check)
+endfunction()

@@ -1,0 +1,27 @@
+// A fixture whose every test begins and ends with the process-wide state as at the program's start.
+// Its programs link quill_list.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "list/ListState.h"
+#include "platform/Services.h"
+#include "store/ContactStore.h"
+
+namespace quill::test {
+
+inline void ResetProcessState() {
+  CloseSession();
+  g_store = {};
+  g_contactInk = {};
+  g_list = {};
+  g_services = {};
+}
+
+class FreshState : public testing::Test {
+ protected:
+  FreshState() { ResetProcessState(); }
+  ~FreshState() override { ResetProcessState(); }
+};
+
+}  // namespace quill::test
