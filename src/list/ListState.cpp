@@ -1,0 +1,7 @@
+#include "list/ListState.h"
+
+namespace quill {
+
+ListState g_list;
+
+}  // namespace quill
