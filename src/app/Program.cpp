@@ -1,0 +1,56 @@
+#include "app/Program.h"
+
+#include <QLoggingCategory>
+
+#include <utility>
+
+#include "platform/Clock.h"
+#include "platform/DesktopInputPanel.h"
+#include "platform/JsonRegistry.h"
+#include "platform/Services.h"
+#include "store/pim/PimStore.h"
+
+namespace quill {
+namespace {
+
+Q_LOGGING_CATEGORY(logProgram, "quill.program")
+
+}  // namespace
+
+struct Program::Services {
+  explicit Services(const Places& places) : Registry(places.SettingsFile) {}
+
+  SystemClock Clock;
+  JsonRegistry Registry;
+  DesktopInputPanel InputPanel;
+};
+
+Program::Program(ProgramOptions options)
+    : m_options(std::move(options)), m_services(std::make_unique<Services>(m_options.Where)) {
+  if (!m_options.Store) m_options.Store = std::make_unique<PimStore>(m_options.Where.StoreFile);
+  g_services.Clock = &m_services->Clock;
+  g_services.Registry = &m_services->Registry;
+  g_services.InputPanel = &m_services->InputPanel;
+}
+
+Program::~Program() {
+  g_services.Clock = nullptr;
+  g_services.Registry = nullptr;
+  g_services.InputPanel = nullptr;
+}
+
+bool Program::TakeFirstStart() { return !std::exchange(m_started, true); }
+
+bool Program::HandleFirstRequest(const RequestHandler& handler) {
+  const auto request = std::exchange(m_options.FirstRequest, std::nullopt);
+  if (!request || handler(*request)) return true;
+  m_refused = true;
+  qCWarning(logProgram) << "the window could not do what the command line asked for";
+  return false;
+}
+
+int Program::ExitCode(int windowCode) const {
+  return windowCode == 0 && m_refused ? 1 : windowCode;
+}
+
+}  // namespace quill
