@@ -19,7 +19,7 @@ struct MenuItem {
   bool Enabled = true;
   bool Checked = false;
   bool Separator = false;
-  std::vector<MenuItem> Items;
+  std::vector<MenuItem> Items = {};
 };
 
 struct Menu {

@@ -3,6 +3,8 @@
 
 #include <QEventLoop>
 
+#include <optional>
+
 #include "platform/ui/Window.h"
 #include "resources/Ids.h"
 
@@ -16,7 +18,7 @@ class CModalWindow : public CWindow {
   // Shows the window on top and waits for EndDialog; then focus is back where it was. While the
   // program closes it returns kResultCancel at once and shows nothing.
   int DoModal();
-  // Leaves DoModal with this result. Nothing happens when it is not running.
+  // Leaves DoModal with this result, also from within OnInitDialog.
   void EndDialog(int result);
 
   bool HasOK() const override { return true; }
@@ -26,15 +28,15 @@ class CModalWindow : public CWindow {
  protected:
   // Called in DoModal, when the window is on the stack and not yet shown.
   virtual void OnInitDialog() {}
-  bool focusNextPrevChild(bool next) override;
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void WaitForEnd();
   void FocusFirstControl();
 
-  QEventLoop* m_loop = nullptr;  // while DoModal runs
-  int m_result = kResultCancel;
+  QEventLoop* m_loop = nullptr;  // while DoModal waits
+  std::optional<int> m_result;   // once EndDialog was called
 };
 
 }  // namespace quill

@@ -2,7 +2,8 @@
 // from them; neither reads anything but the rows.
 #pragma once
 
-#include <functional>
+#include <QAccessible>
+
 #include <vector>
 
 #include "platform/PaintedRow.h"
@@ -13,7 +14,10 @@ namespace quill {
 class CPaintedWindow : public CPenWidget {
   Q_OBJECT
  public:
-  explicit CPaintedWindow(QWidget* parent);
+  // role: what the window as a whole is to assistive technology.
+  CPaintedWindow(QWidget* parent, QAccessible::Role role);
+
+  QAccessible::Role Role() const { return m_role; }
 
   const std::vector<PaintedRow>& Rows() const { return m_rows; }
   // The row at a point, -1 when there is none.
@@ -28,6 +32,7 @@ class CPaintedWindow : public CPenWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  const QAccessible::Role m_role;
   std::vector<PaintedRow> m_rows;
   Rgb m_background = 0xFFFFFF;
 };

@@ -2,14 +2,12 @@
 // windows. A child of the outer desktop window, centred in it.
 #pragma once
 
-#include <QRect>
-#include <QString>
 #include <QWidget>
 
 #include <functional>
 #include <vector>
 
-#include "platform/MenuModel.h"
+#include "platform/ScreenLayout.h"
 #include "platform/ui/Window.h"
 
 namespace quill {
@@ -18,10 +16,9 @@ class CMenuBar;
 class CMenuPopup;
 class CTitleBar;
 
-inline constexpr QSize kScreenSize = {240, 320};
-inline constexpr QRect kTitleBarArea = {0, 0, 240, 26};
-inline constexpr QRect kClientArea = {0, 26, 240, 270};
-inline constexpr QRect kMenuBarArea = {0, 296, 240, 24};
+inline constexpr QRect kTitleBarArea{0, 0, kScreenWidth, kTitleBarHeight};
+inline constexpr QRect kClientArea{0, kTitleBarHeight, kScreenWidth, kClientHeight};
+inline constexpr QRect kMenuBarArea{0, kScreenHeight - kMenuBarHeight, kScreenWidth, kMenuBarHeight};
 
 class CScreen : public QWidget {
   Q_OBJECT
@@ -29,50 +26,59 @@ class CScreen : public QWidget {
   explicit CScreen(QWidget* outer);
   ~CScreen() override;
 
-  // The window stack, bottom to top. Windows enter and leave it by themselves.
+  // The window stack, bottom to top. Windows enter and leave it by Push and Remove; the screen owns
+  // none of them.
   const std::vector<CWindow*>& Windows() const { return m_windows; }
-  // The uppermost window that takes commands: the card never does. Null while there is none.
-  CWindow* Topmost() const;
   void Push(CWindow& window);
   void Remove(CWindow& window);
+  // The uppermost window that takes commands: the card never does. Null while there is none.
+  CWindow* Topmost() const;
 
-  // The innermost open popup menu, or null.
+  // The open popup menu (its root, when a submenu is open), or null.
   CMenuPopup* Popup() const { return m_popup; }
-  void SetPopup(CMenuPopup* popup);
+  void SetPopup(CMenuPopup* popup) { m_popup = popup; }
   // Opens a popup at a point of the screen and returns the chosen id, 0 when dismissed.
   int TrackMenu(QPoint at, const std::vector<MenuItem>& items);
 
-  // The commands behind a tap-and-hold on the title bar, run by the topmost window's route and then
-  // by the application's.
-  void SetApplicationRoute(const CommandRoute& route);
-  const CommandRoute& ApplicationRoute() const { return m_applicationRoute; }
+  // Runs a command in the topmost window, as its menu does.
+  void RunCommand(int id);
+  // The commands that every window has: the input panel's button and the application's own.
+  const CommandTarget& ScreenCommands() const { return m_screenCommands; }
+  MenuItem InputPanelButton() const;
+  // The application's commands behind a tap-and-hold on the title bar. Not owned; may be null.
+  void SetShellCommands(const CommandTarget* commands) { m_shellCommands = commands; }
   void ShowShellMenu(QPoint at);
 
-  // Title bar and menu bar follow the topmost window again.
+  // Title bar and menu bar show the topmost full-screen window and stand above its shade.
   void UpdateChrome();
 
-  // Ends popups and modal windows from the top with Cancel, then calls Closed.
+  // True when no modal window and no popup is open: the only time at which the scale may change.
+  bool IsIdle() const;
+  // Ends popup and modal windows from the top with Cancel, then calls Closed.
   void CloseAll();
   bool IsClosing() const { return m_closing; }
   std::function<void()> Closed;
-
-  // True when nothing modal is open: the only time at which the scale may change.
-  bool IsIdle() const;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
-  bool focusNextPrevChild(bool next) override;
 
  private:
+  bool HandleKey(QKeyEvent* event);
+  void ShowContextMenu();
+  void RunShellCommand(int id);
+  CWindow* ChromeOwner() const;
+  void TellVisibleArea();
+
   std::vector<CWindow*> m_windows;
   CTitleBar* m_titleBar;
   CMenuBar* m_menuBar;
   CMenuPopup* m_popup = nullptr;
-  CommandRoute m_applicationRoute;
+  CommandTarget m_screenCommands;
+  const CommandTarget* m_shellCommands = nullptr;
   bool m_closing = false;
-  bool m_altAlone = false;
+  bool m_altAlone = false;  // Alt is down and no other key came since
 };
 
 }  // namespace quill

@@ -52,6 +52,9 @@ class CWindow : public QWidget, public TimerTarget {
   // The input panel came or went; area is what is left of the screen.
   virtual void OnVisibleAreaChanged(QRect) {}
 
+ protected:
+  bool focusNextPrevChild(bool next) override;
+
  private:
   CScreen& m_screen;
   QString m_caption;

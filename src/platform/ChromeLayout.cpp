@@ -1,0 +1,143 @@
+#include "platform/ChromeLayout.h"
+
+#include <cmath>
+
+#include "resources/Ids.h"
+
+namespace quill {
+
+namespace {
+
+constexpr Rgb kTitleText = 0xFFFFFF;
+constexpr Rgb kTitleButton = 0x5B7F95;
+constexpr Rgb kTitleButtonPressed = 0x8FB0C4;
+constexpr Rgb kBarText = 0x000000;
+constexpr Rgb kBarDisabled = 0x8C8C8C;
+constexpr Rgb kBarPressed = 0xD6EDBA;
+constexpr int kTitleMargin = 5;
+constexpr int kOKWidth = 30;
+constexpr int kCloseWidth = 22;
+constexpr int kBarPadding = 7;  // left and right of a menu's title
+constexpr int kPictureSize = 14;
+constexpr int kPanelWidth = 26;
+
+QRect PictureArea(QRect area) {
+  return {area.left() + (area.width() - kPictureSize) / 2,
+          area.top() + (area.height() - kPictureSize) / 2, kPictureSize, kPictureSize};
+}
+
+PaintedRow TitleButton(int key, QRect area, const QString& spoken, bool pressed) {
+  PaintedRow row{
+      .Rectangle = area, .Key = key, .SpokenName = spoken, .Role = PaintedRole::Button};
+  row.Items.push_back({.Rectangle = area.adjusted(1, 4, -1, -4),
+                       .Fill = pressed ? kTitleButtonPressed : kTitleButton});
+  return row;
+}
+
+PaintedRow CloseButton(QRect area, bool pressed) {
+  PaintedRow row = TitleButton(kTitleCloseKey, area, QStringLiteral("Close"), pressed);
+  row.Items.push_back({.Rectangle = PictureArea(area),
+                       .Color = kTitleText,
+                       .Picture = &resources::kClosePicture});
+  return row;
+}
+
+PaintedRow OKButton(QRect area, bool pressed) {
+  PaintedRow row = TitleButton(kTitleOKKey, area, QStringLiteral("OK"), pressed);
+  row.Items.push_back({.Rectangle = area,
+                       .Text = QStringLiteral("OK"),
+                       .Alignment = TextAlign::Centre,
+                       .Weight = TextWeight::Bold,
+                       .Color = kTitleText});
+  return row;
+}
+
+PaintedRow BarRow(QRect area, int key, const MenuItem& button, bool pressed) {
+  PaintedRow row{
+      .Rectangle = area, .Key = key, .SpokenName = button.Text, .Role = PaintedRole::Button};
+  row.State.setFlag(PaintedStateFlag::Current, pressed);
+  row.State.setFlag(PaintedStateFlag::Disabled, !button.Enabled);
+  row.State.setFlag(PaintedStateFlag::Checked, button.Checked);
+  if (pressed || button.Checked)
+    row.Items.push_back({.Rectangle = area.adjusted(1, 2, -1, -2), .Fill = kBarPressed});
+  return row;
+}
+
+void AddPanelButton(PaintedRow& row, Rgb color) {
+  row.Items.push_back({.Rectangle = PictureArea(row.Rectangle),
+                       .Color = color,
+                       .Picture = &resources::kKeyboardPicture});
+}
+
+void AddBarText(PaintedRow& row, const QString& text, Rgb color) {
+  row.Items.push_back({.Rectangle = row.Rectangle,
+                       .Text = text,
+                       .Alignment = TextAlign::Centre,
+                       .Color = color});
+}
+
+int TextCellWidth(const QString& text, const TextWidth& width) {
+  return static_cast<int>(std::ceil(width(text))) + 2 * kBarPadding;
+}
+
+}  // namespace
+
+std::vector<PaintedRow> LayOutTitleBar(const TitleBarModel& model, QSize size) {
+  std::vector<PaintedRow> rows;
+  int right = size.width() - 2;
+  std::vector<PaintedRow> buttons;
+  if (model.HasClose) {
+    right -= kCloseWidth;
+    buttons.push_back(CloseButton({right, 0, kCloseWidth, size.height()},
+                                  model.Pressed == kTitleCloseKey));
+  }
+  if (model.HasOK) {
+    right -= kOKWidth;
+    buttons.push_back(
+        OKButton({right, 0, kOKWidth, size.height()}, model.Pressed == kTitleOKKey));
+  }
+  const QRect textArea{kTitleMargin, 0, right - 2 * kTitleMargin, size.height()};
+  PaintedRow text{.Rectangle = textArea,
+                  .Key = kTitleTextKey,
+                  .SpokenName = model.Caption,
+                  .Role = PaintedRole::Text,
+                  .State = PaintedStateFlag::HasPopup};
+  text.Items.push_back({.Rectangle = textArea,
+                        .Text = model.Caption,
+                        .Weight = TextWeight::Bold,
+                        .Color = kTitleText});
+  rows.push_back(std::move(text));
+  rows.insert(rows.end(), buttons.begin(), buttons.end());
+  return rows;
+}
+
+std::vector<PaintedRow> LayOutMenuBar(const MenuBarModel& model, QSize size, int open,
+                                      const TextWidth& width) {
+  std::vector<PaintedRow> rows;
+  int x = 2;
+  const auto nextCell = [&](const QString& text) {
+    const QRect cell{x, 0, TextCellWidth(text, width), size.height()};
+    x += cell.width();
+    return cell;
+  };
+  for (const MenuItem& button : model.Buttons) {
+    const int key = static_cast<int>(rows.size());
+    const bool isPanel = button.Id == ID_SHELL_INPUT_PANEL;
+    const QRect area = isPanel ? QRect{size.width() - kPanelWidth - 2, 0, kPanelWidth, size.height()}
+                               : nextCell(button.Text);
+    PaintedRow& row = rows.emplace_back(BarRow(area, key, button, key == open));
+    const Rgb color = button.Enabled ? kBarText : kBarDisabled;
+    isPanel ? AddPanelButton(row, color) : AddBarText(row, button.Text, color);
+  }
+  for (const Menu& menu : model.Menus) {
+    const int key = static_cast<int>(rows.size());
+    const MenuItem title{.Text = menu.Text};
+    PaintedRow& row = rows.emplace_back(BarRow(nextCell(menu.Text), key, title, key == open));
+    row.Role = PaintedRole::MenuItem;
+    row.State.setFlag(PaintedStateFlag::HasPopup);
+    AddBarText(row, menu.Text, kBarText);
+  }
+  return rows;
+}
+
+}  // namespace quill

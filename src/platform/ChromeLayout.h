@@ -1,0 +1,34 @@
+// The title bar and the menu bar as painted rows: pure layout, in logical pixels of each bar.
+#pragma once
+
+#include <QSize>
+#include <QString>
+
+#include <vector>
+
+#include "platform/MenuModel.h"
+#include "platform/PaintedRow.h"
+#include "platform/TextFitting.h"
+
+namespace quill {
+
+// Keys of the title bar's rows.
+inline constexpr int kTitleTextKey = 0;
+inline constexpr int kTitleOKKey = 1;
+inline constexpr int kTitleCloseKey = 2;
+
+struct TitleBarModel {
+  QString Caption;
+  bool HasOK = false;
+  bool HasClose = true;
+  int Pressed = -1;  // the key under the pen, -1 none
+};
+
+std::vector<PaintedRow> LayOutTitleBar(const TitleBarModel& model, QSize size);
+
+// A row's key is its position in the model: the buttons first, then the menus. `open` is the one
+// shown pressed, -1 none. The input panel's button stands at the right end.
+std::vector<PaintedRow> LayOutMenuBar(const MenuBarModel& model, QSize size, int open,
+                                      const TextWidth& width);
+
+}  // namespace quill

@@ -1,0 +1,143 @@
+#include "platform/ui/AccessibleRows.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QPointer>
+
+#include <vector>
+
+#include "platform/ui/PaintedWindow.h"
+
+namespace quill {
+
+namespace {
+
+QAccessible::Role RoleOf(PaintedRole role) {
+  switch (role) {
+    case PaintedRole::ListItem:
+      return QAccessible::ListItem;
+    case PaintedRole::Button:
+      return QAccessible::PushButton;
+    case PaintedRole::MenuItem:
+      return QAccessible::MenuItem;
+    case PaintedRole::Separator:
+      return QAccessible::Separator;
+    case PaintedRole::Text:
+      return QAccessible::StaticText;
+  }
+  Q_UNREACHABLE();
+}
+
+// A row of a painted window, by its index. Outlives neither the window's interface nor, as a valid
+// object, its row.
+class AccessibleRow : public QAccessibleInterface, public QAccessibleActionInterface {
+ public:
+  AccessibleRow(CPaintedWindow& window, int row) : m_window(&window), m_row(row) {}
+
+  bool isValid() const override { return Row() != nullptr; }
+  QObject* object() const override { return nullptr; }
+  QWindow* window() const override {
+    return m_window ? m_window->window()->windowHandle() : nullptr;
+  }
+  QAccessibleInterface* parent() const override {
+    return QAccessible::queryAccessibleInterface(m_window);
+  }
+  QAccessibleInterface* child(int) const override { return nullptr; }
+  QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+  int childCount() const override { return 0; }
+  int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+
+  QString text(QAccessible::Text text) const override {
+    return text == QAccessible::Name && Row() ? Row()->SpokenName : QString();
+  }
+  void setText(QAccessible::Text, const QString&) override {}
+  QRect rect() const override {
+    if (!Row()) return {};
+    const QRect area = Row()->Rectangle;
+    return {m_window->mapToGlobal(area.topLeft()), area.size()};
+  }
+  QAccessible::Role role() const override {
+    return Row() ? RoleOf(Row()->Role) : QAccessible::NoRole;
+  }
+  QAccessible::State state() const override;
+
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
+                                                : nullptr;
+  }
+  QStringList actionNames() const override { return {pressAction(), showMenuAction()}; }
+  void doAction(const QString& action) override {
+    if (!Row()) return;
+    if (action == pressAction()) m_window->ActivateRow(m_row);
+    if (action == showMenuAction()) m_window->ShowRowMenu(m_row);
+  }
+  QStringList keyBindingsForAction(const QString&) const override { return {}; }
+
+ private:
+  const PaintedRow* Row() const {
+    const bool exists = m_window && m_row < static_cast<int>(m_window->Rows().size());
+    return exists ? &m_window->Rows()[static_cast<std::size_t>(m_row)] : nullptr;
+  }
+
+  QPointer<CPaintedWindow> m_window;
+  int m_row;
+};
+
+QAccessible::State AccessibleRow::state() const {
+  QAccessible::State state;
+  const PaintedRow* const row = Row();
+  if (!row || !m_window->isVisible()) {
+    state.invisible = true;
+    return state;
+  }
+  state.disabled = row->State.testFlag(PaintedStateFlag::Disabled);
+  state.selected = row->State.testFlag(PaintedStateFlag::Selected);
+  state.selectable = row->State.testFlag(PaintedStateFlag::Selectable);
+  state.focused = row->State.testFlag(PaintedStateFlag::Current);
+  state.checked = row->State.testFlag(PaintedStateFlag::Checked);
+  state.checkable = state.checked;
+  state.hasPopup = row->State.testFlag(PaintedStateFlag::HasPopup);
+  return state;
+}
+
+class AccessiblePaintedWindow : public QAccessibleWidget {
+ public:
+  explicit AccessiblePaintedWindow(CPaintedWindow& window)
+      : QAccessibleWidget(&window, window.Role()), m_window(window) {}
+  ~AccessiblePaintedWindow() override {
+    for (const QAccessible::Id id : m_children) QAccessible::deleteAccessibleInterface(id);
+  }
+
+  int childCount() const override { return static_cast<int>(m_window.Rows().size()); }
+  QAccessibleInterface* child(int index) const override {
+    if (index < 0 || index >= childCount()) return nullptr;
+    while (static_cast<int>(m_children.size()) <= index)
+      m_children.push_back(QAccessible::registerAccessibleInterface(
+          new AccessibleRow(m_window, static_cast<int>(m_children.size()))));
+    return QAccessible::accessibleInterface(m_children[static_cast<std::size_t>(index)]);
+  }
+  QAccessibleInterface* childAt(int x, int y) const override {
+    return child(m_window.RowAt(m_window.mapFromGlobal(QPoint(x, y))));
+  }
+  int indexOfChild(const QAccessibleInterface* child) const override {
+    const auto id = QAccessible::uniqueId(const_cast<QAccessibleInterface*>(child));
+    for (std::size_t i = 0; i < m_children.size(); ++i)
+      if (m_children[i] == id) return static_cast<int>(i);
+    return -1;
+  }
+
+ private:
+  CPaintedWindow& m_window;
+  mutable std::vector<QAccessible::Id> m_children;  // made when asked for
+};
+
+QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
+  auto* const window = qobject_cast<CPaintedWindow*>(object);
+  return window ? new AccessiblePaintedWindow(*window) : nullptr;
+}
+
+}  // namespace
+
+void InstallAccessibleRows() { QAccessible::installFactory(MakeInterface); }
+
+}  // namespace quill

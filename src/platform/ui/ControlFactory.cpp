@@ -1,0 +1,49 @@
+#include "platform/ui/ControlFactory.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "platform/ui/Dialog.h"
+#include "platform/ui/DropDown.h"
+
+namespace quill {
+
+namespace {
+
+QLabel* MakeLabel(const QString& text, Qt::Alignment alignment, QWidget* parent) {
+  auto* const label = new QLabel(text, parent);
+  label->setTextFormat(Qt::PlainText);
+  label->setAlignment(alignment | Qt::AlignVCenter);
+  return label;
+}
+
+QWidget* MakeWidget(const resources::DialogControl& control, CDialog& dialog) {
+  const QString text = control.Text.toString();
+  switch (control.Kind) {
+    case resources::ControlKind::Label:
+      return MakeLabel(text, Qt::AlignLeft, &dialog);
+    case resources::ControlKind::CentredLabel:
+      return MakeLabel(text, Qt::AlignHCenter, &dialog);
+    case resources::ControlKind::Edit:
+      return new QLineEdit(text, &dialog);
+    case resources::ControlKind::Button:
+      return new QPushButton(text, &dialog);
+    case resources::ControlKind::Check:
+      return new QCheckBox(text, &dialog);
+    case resources::ControlKind::DropDown:
+      return new CDropDown(dialog.Screen(), &dialog);
+  }
+  Q_UNREACHABLE();
+}
+
+}  // namespace
+
+QWidget* MakeControl(const resources::DialogControl& control, CDialog& dialog) {
+  QWidget* const widget = MakeWidget(control, dialog);
+  widget->setVisible(control.State == resources::ControlState::Visible);
+  return widget;
+}
+
+}  // namespace quill

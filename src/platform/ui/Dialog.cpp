@@ -1,0 +1,67 @@
+#include "platform/ui/Dialog.h"
+
+#include <QAbstractButton>
+#include <QPainter>
+#include <QPushButton>
+
+#include "platform/ui/ControlFactory.h"
+#include "platform/ui/RowPainter.h"
+#include "platform/ui/Screen.h"
+
+namespace quill {
+
+namespace {
+
+constexpr Rgb kCaptionBackground = 0x2F5568;
+constexpr Rgb kCaptionText = 0xFFFFFF;
+constexpr Rgb kDialogBorder = 0x2F5568;
+
+QRect ToRect(const resources::Rectangle& place) {
+  return {place.X, place.Y, place.Width, place.Height};
+}
+
+}  // namespace
+
+CDialog::CDialog(CScreen& screen, const resources::DialogResource& resource)
+    : CModalWindow(screen),
+      m_size(resource.Place.Width == 0 ? WindowSize::FullScreen : WindowSize::Small) {
+  if (m_size == WindowSize::Small) PlaceOnScreen(ToRect(resource.Place));
+  SetCaption(resource.Caption.toString());
+  for (const resources::DialogControl& control : resource.Controls) AddDialogControl(control);
+}
+
+void CDialog::PlaceOnScreen(QRect place) { setGeometry(place); }
+
+QWidget* CDialog::AddDialogControl(const resources::DialogControl& control) {
+  QWidget* const widget = MakeControl(control, *this);
+  const int top = m_size == WindowSize::Small ? kSmallCaptionHeight : 0;
+  widget->setGeometry(ToRect(control.Place).translated(0, top));
+  AddControl(control.Id, widget);
+  FollowButton(control.Id, widget);
+  return widget;
+}
+
+void CDialog::FollowButton(int id, QWidget* control) {
+  auto* const button = qobject_cast<QAbstractButton*>(control);
+  if (!button) return;
+  if (id == kResultOK) connect(button, &QAbstractButton::clicked, this, [this] { OnOK(); });
+  if (id == kResultCancel) connect(button, &QAbstractButton::clicked, this, [this] { OnCancel(); });
+}
+
+void CDialog::paintEvent(QPaintEvent* event) {
+  CModalWindow::paintEvent(event);
+  if (m_size == WindowSize::FullScreen) return;
+  QPainter painter(this);
+  const QRect bar(0, 0, width(), kSmallCaptionHeight);
+  PaintedRow caption{.Rectangle = bar};
+  caption.Items.push_back({.Rectangle = bar, .Fill = kCaptionBackground});
+  caption.Items.push_back({.Rectangle = bar.adjusted(5, 0, -5, 0),
+                           .Text = Caption(),
+                           .Weight = TextWeight::Bold,
+                           .Color = kCaptionText});
+  DrawRow(painter, caption);
+  painter.setPen(QColor::fromRgb(kDialogBorder));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+}  // namespace quill

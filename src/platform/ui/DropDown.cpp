@@ -1,0 +1,33 @@
+#include "platform/ui/DropDown.h"
+
+#include "platform/ui/MenuPopup.h"
+#include "platform/ui/Screen.h"
+
+namespace quill {
+
+namespace {
+
+// A list entry's command is its index, one up: 0 means that nothing was chosen.
+std::vector<MenuItem> ListItems(const QComboBox& list) {
+  std::vector<MenuItem> items;
+  for (int i = 0; i < list.count(); ++i)
+    items.push_back(
+        {.Text = list.itemText(i), .Id = i + 1, .Checked = i == list.currentIndex()});
+  return items;
+}
+
+}  // namespace
+
+CDropDown::CDropDown(CScreen& screen, QWidget* parent) : QComboBox(parent), m_screen(screen) {}
+
+void CDropDown::showPopup() {
+  const QRect place(mapTo(&m_screen, QPoint(0, 0)), size());
+  CMenuPopup popup(m_screen, ListItems(*this), place);
+  popup.StartAt(currentIndex());
+  const int chosen = popup.Track() - 1;
+  if (chosen < 0) return;
+  setCurrentIndex(chosen);
+  Q_EMIT activated(chosen);
+}
+
+}  // namespace quill

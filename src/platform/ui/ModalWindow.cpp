@@ -1,0 +1,70 @@
+#include "platform/ui/ModalWindow.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPointer>
+
+#include "platform/ui/InputCommit.h"
+#include "platform/ui/Screen.h"
+#include "platform/ui/Shade.h"
+
+namespace quill {
+
+int CModalWindow::DoModal() {
+  if (Screen().IsClosing()) return kResultCancel;
+  CommitInput();
+  const QPointer<QWidget> focusBefore = QApplication::focusWidget();
+  CShade shade(Screen());
+  m_result.reset();
+  Screen().Push(*this);
+  OnInitDialog();
+  show();
+  raise();
+  Screen().UpdateChrome();
+  WaitForEnd();
+  CommitInput();
+  hide();
+  Screen().Remove(*this);
+  if (focusBefore) focusBefore->setFocus(Qt::ActiveWindowFocusReason);
+  return m_result.value_or(kResultCancel);
+}
+
+void CModalWindow::WaitForEnd() {
+  if (m_result) return;
+  FocusFirstControl();
+  QEventLoop loop;
+  m_loop = &loop;
+  loop.exec(QEventLoop::DialogExec);
+  m_loop = nullptr;
+}
+
+void CModalWindow::EndDialog(int result) {
+  m_result = result;
+  if (m_loop) m_loop->quit();
+}
+
+void CModalWindow::FocusFirstControl() {
+  setFocusPolicy(Qt::ClickFocus);
+  setFocus(Qt::ActiveWindowFocusReason);
+  focusNextPrevChild(true);
+}
+
+void CModalWindow::keyPressEvent(QKeyEvent* event) {
+  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (event->key() == Qt::Key_Escape) {
+    OnCancel();
+  } else if (isReturn) {
+    auto* button = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
+    button ? button->click() : OnOK();
+  } else {
+    CWindow::keyPressEvent(event);
+  }
+}
+
+void CModalWindow::paintEvent(QPaintEvent* event) {
+  QPainter(this).fillRect(event->rect(), palette().color(QPalette::Window));
+}
+
+}  // namespace quill

@@ -1,0 +1,91 @@
+#include "platform/ui/PenWidget.h"
+
+#include <QMouseEvent>
+#include <QTabletEvent>
+#include <QTouchEvent>
+
+namespace quill {
+
+CPenWidget::CPenWidget(QWidget* parent) : QWidget(parent) {
+  setAttribute(Qt::WA_AcceptTouchEvents);
+  setMouseTracking(true);
+  setTabletTracking(true);
+}
+
+void CPenWidget::PenPress(QPoint) {}
+void CPenWidget::PenMove(QPoint) {}
+void CPenWidget::PenRelease(QPoint) {}
+void CPenWidget::PenDoubleTap(QPoint at) { PenPress(at); }
+void CPenWidget::PenHover(QPoint) {}
+
+bool CPenWidget::event(QEvent* event) {
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+      return HandleMouse(event);
+    case QEvent::TabletPress:
+    case QEvent::TabletMove:
+    case QEvent::TabletRelease:
+      return HandleTablet(event);
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+      return HandleTouch(event);
+    default:
+      return QWidget::event(event);
+  }
+}
+
+bool CPenWidget::HandleMouse(QEvent* event) {
+  const auto* mouse = static_cast<QMouseEvent*>(event);
+  const QPoint at = mouse->position().toPoint();
+  const bool isLeft = mouse->button() == Qt::LeftButton;
+  if (mouse->type() == QEvent::MouseButtonPress && isLeft) {
+    PenPress(at);
+  } else if (mouse->type() == QEvent::MouseButtonDblClick && isLeft) {
+    PenDoubleTap(at);
+  } else if (mouse->type() == QEvent::MouseButtonRelease && isLeft) {
+    PenRelease(at);
+  } else if (mouse->type() == QEvent::MouseMove) {
+    mouse->buttons().testFlag(Qt::LeftButton) ? PenMove(at) : PenHover(at);
+  }
+  event->accept();
+  return true;
+}
+
+bool CPenWidget::HandleTablet(QEvent* event) {
+  const auto* pen = static_cast<QTabletEvent*>(event);
+  const QPoint at = pen->position().toPoint();
+  if (pen->type() == QEvent::TabletPress) {
+    PenPress(at);
+  } else if (pen->type() == QEvent::TabletRelease) {
+    PenRelease(at);
+  } else {
+    pen->buttons() == Qt::NoButton ? PenHover(at) : PenMove(at);
+  }
+  event->accept();  // or the window system makes a second, mouse event of it
+  return true;
+}
+
+// One finger is a pen; further fingers are nothing.
+bool CPenWidget::HandleTouch(QEvent* event) {
+  const auto* touch = static_cast<QTouchEvent*>(event);
+  event->accept();
+  if (touch->points().isEmpty()) return true;
+  const QPoint at = touch->points().first().position().toPoint();
+  if (touch->type() == QEvent::TouchBegin) {
+    m_touching = true;
+    PenPress(at);
+  } else if (m_touching && touch->type() == QEvent::TouchUpdate) {
+    PenMove(at);
+  } else if (m_touching) {
+    m_touching = false;
+    PenRelease(at);
+  }
+  return true;
+}
+
+}  // namespace quill

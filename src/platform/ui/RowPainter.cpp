@@ -1,0 +1,78 @@
+#include "platform/ui/RowPainter.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPolygonF>
+
+#include "platform/ScreenLayout.h"
+#include "platform/ui/Look.h"
+
+namespace quill {
+
+namespace {
+
+QPolygonF PathPolygon(const resources::PicturePath& path) {
+  QPolygonF polygon;
+  for (const resources::PicturePoint& point : path.Points) polygon << QPointF(point.X, point.Y);
+  return polygon;
+}
+
+void DrawPath(QPainter& painter, const resources::PicturePath& path, const QColor& color) {
+  if (path.Shape == resources::PictureShape::Fill) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawPolygon(PathPolygon(path));
+  } else {
+    painter.setPen(QPen(color, 1.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPolyline(PathPolygon(path));
+  }
+}
+
+void DrawPicture(QPainter& painter, const PaintedItem& item) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.translate(item.Rectangle.topLeft());
+  const qreal scale = qreal(item.Rectangle.width()) / item.Picture->Size;
+  painter.scale(scale, scale);
+  for (const resources::PicturePath& path : item.Picture->Paths)
+    DrawPath(painter, path, QColor::fromRgb(item.Color));
+  painter.restore();
+}
+
+qreal TextLeft(const QRect& area, TextAlign alignment, qreal width) {
+  if (alignment == TextAlign::Right) return area.left() + area.width() - width;
+  if (alignment == TextAlign::Centre) return area.left() + (area.width() - width) / 2;
+  return area.left();
+}
+
+// Placed by the cell's own height and base line: the metrics of the font differ between platforms.
+void DrawText(QPainter& painter, const PaintedItem& item) {
+  const QRect& area = item.Rectangle;
+  painter.save();
+  painter.setClipRect(area, Qt::IntersectClip);
+  painter.setFont(item.Weight == TextWeight::Bold ? BoldFont() : NormalFont());
+  painter.setPen(QColor::fromRgb(item.Color));
+  const qreal width = QFontMetricsF(painter.font()).horizontalAdvance(item.Text);
+  const int baseLine = area.top() + (area.height() - kCellHeight) / 2 + kCellAscent;
+  painter.drawText(QPointF(TextLeft(area, item.Alignment, width), baseLine), item.Text);
+  painter.restore();
+}
+
+}  // namespace
+
+TextWidth NormalTextWidth() {
+  return [metrics = QFontMetricsF(NormalFont())](QStringView text) {
+    return metrics.horizontalAdvance(text.toString());
+  };
+}
+
+void DrawRow(QPainter& painter, const PaintedRow& row) {
+  for (const PaintedItem& item : row.Items) {
+    if (item.Fill) painter.fillRect(item.Rectangle, QColor::fromRgb(*item.Fill));
+    if (item.Picture) DrawPicture(painter, item);
+    if (!item.Text.isEmpty()) DrawText(painter, item);
+  }
+}
+
+}  // namespace quill

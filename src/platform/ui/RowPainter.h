@@ -1,0 +1,16 @@
+// Draws painted rows, and measures text for their layout.
+#pragma once
+
+#include "platform/PaintedRow.h"
+#include "platform/TextFitting.h"
+
+class QPainter;
+
+namespace quill {
+
+// The width of a text in the normal font, in logical pixels: the same at every scale.
+TextWidth NormalTextWidth();
+
+void DrawRow(QPainter& painter, const PaintedRow& row);
+
+}  // namespace quill

@@ -1,0 +1,167 @@
+#include "platform/ui/Screen.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <ranges>
+
+#include "platform/InputPanel.h"
+#include "platform/Services.h"
+#include "platform/ui/MenuBar.h"
+#include "platform/ui/MenuPopup.h"
+#include "platform/ui/ModalWindow.h"
+#include "platform/ui/TitleBar.h"
+#include "resources/Menus.h"
+
+namespace quill {
+
+namespace {
+
+void ToggleInputPanel() {
+  InputPanel* const panel = g_services.InputPanel;
+  if (!panel) return;
+  panel->IsUp() ? panel->Lower() : panel->Raise();
+}
+
+}  // namespace
+
+CScreen::CScreen(QWidget* outer)
+    : QWidget(outer),
+      m_titleBar(new CTitleBar(*this)),
+      m_menuBar(new CMenuBar(*this)),
+      m_screenCommands({{ID_SHELL_INPUT_PANEL, ID_SHELL_INPUT_PANEL,
+                         [](int) { ToggleInputPanel(); },
+                         [](int, CommandState& state) {
+                           state.Enabled = g_services.InputPanel != nullptr;
+                           state.Checked = state.Enabled && g_services.InputPanel->IsUp();
+                         }}}) {
+  setFixedSize(kScreenWidth, kScreenHeight);
+  if (g_services.InputPanel) g_services.InputPanel->Changed = [this] { TellVisibleArea(); };
+  UpdateChrome();
+}
+
+CScreen::~CScreen() {
+  if (g_services.InputPanel) g_services.InputPanel->Changed = nullptr;
+}
+
+void CScreen::Push(CWindow& window) {
+  m_windows.push_back(&window);
+  UpdateChrome();
+}
+
+void CScreen::Remove(CWindow& window) {
+  std::erase(m_windows, &window);
+  UpdateChrome();
+}
+
+CWindow* CScreen::Topmost() const {
+  for (CWindow* window : m_windows | std::views::reverse)
+    if (window->Kind() != WindowKind::Card) return window;
+  return nullptr;
+}
+
+CWindow* CScreen::ChromeOwner() const {
+  for (CWindow* window : m_windows | std::views::reverse)
+    if (window->Size() == WindowSize::FullScreen) return window;
+  return nullptr;
+}
+
+void CScreen::UpdateChrome() {
+  CWindow* const owner = ChromeOwner();
+  m_titleBar->ShowFor(owner);
+  m_menuBar->ShowFor(owner);
+  if (owner != Topmost()) return;
+  m_titleBar->raise();
+  m_menuBar->raise();
+}
+
+int CScreen::TrackMenu(QPoint at, const std::vector<MenuItem>& items) {
+  CMenuPopup popup(*this, items, QRect(at, QSize(0, 0)));
+  return popup.Track();
+}
+
+void CScreen::RunCommand(int id) {
+  if (CWindow* const window = Topmost()) window->RunCommand(id);
+}
+
+MenuItem CScreen::InputPanelButton() const {
+  CommandRoute route;
+  route.Add(m_screenCommands);
+  const CommandState state = route.State(ID_SHELL_INPUT_PANEL);
+  return {.Text = QStringLiteral("Input panel"),
+          .Id = ID_SHELL_INPUT_PANEL,
+          .Enabled = state.Enabled,
+          .Checked = state.Checked};
+}
+
+void CScreen::ShowShellMenu(QPoint at) {
+  if (!m_shellCommands) return;
+  CommandRoute route;
+  route.Add(*m_shellCommands);
+  const int id = TrackMenu(at, BuildMenuItems(resources::kShellMenu, route));
+  if (id != 0) RunShellCommand(id);
+}
+
+void CScreen::TellVisibleArea() {
+  UpdateChrome();
+  const QRect area = g_services.InputPanel->VisibleArea();
+  for (CWindow* window : m_windows) window->OnVisibleAreaChanged(area);
+}
+
+bool CScreen::IsIdle() const { return !m_popup && m_windows.size() <= 1; }
+
+void CScreen::CloseAll() {
+  m_closing = true;
+  if (m_popup) m_popup->Dismiss();
+  for (CWindow* window : m_windows | std::views::reverse)
+    if (auto* const modal = qobject_cast<CModalWindow*>(window)) modal->EndDialog(kResultCancel);
+  if (Closed) Closed();
+}
+
+void CScreen::keyPressEvent(QKeyEvent* event) {
+  m_altAlone = event->key() == Qt::Key_Alt && !event->isAutoRepeat();
+  if (!HandleKey(event)) QWidget::keyPressEvent(event);
+}
+
+bool CScreen::HandleKey(QKeyEvent* event) {
+  const bool control = event->modifiers().testFlag(Qt::ControlModifier);
+  const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
+  const bool larger = event->key() == Qt::Key_Plus || event->key() == Qt::Key_Equal;
+  if (control && larger) {
+    RunShellCommand(ID_SHELL_LARGER);
+  } else if (control && event->key() == Qt::Key_Minus) {
+    RunShellCommand(ID_SHELL_SMALLER);
+  } else if (event->key() == Qt::Key_Menu || (shift && event->key() == Qt::Key_F10)) {
+    ShowContextMenu();
+  } else if (event->key() == Qt::Key_F10) {
+    m_menuBar->OpenFirstMenu();
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void CScreen::keyReleaseEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Alt && m_altAlone) m_menuBar->OpenFirstMenu();
+  m_altAlone = false;
+}
+
+// The menu key opens the window's own popup; where it has none, the shell's menu.
+void CScreen::ShowContextMenu() {
+  CWindow* const window = Topmost();
+  if (!window || !window->ShowContextMenu()) ShowShellMenu(kTitleBarArea.bottomLeft());
+}
+
+void CScreen::RunShellCommand(int id) {
+  if (!m_shellCommands) return;
+  CommandRoute route;
+  route.Add(*m_shellCommands);
+  route.Run(id, CommandCheck::AsMenu);
+}
+
+void CScreen::paintEvent(QPaintEvent*) {
+  QPainter(this).fillRect(rect(), palette().color(QPalette::Window));
+}
+
+}  // namespace quill
