@@ -1,5 +1,5 @@
-// A collection of contacts as a value: an order and a restriction, no items. It stays valid whatever
-// happens to the store; what it holds is asked of the contacts folder.
+// A collection of contacts as a value: an order and a restriction, no items. It stays valid
+// whatever happens to the store; what it holds is asked of the contacts folder.
 #pragma once
 
 #include <memory>

@@ -32,8 +32,8 @@ struct StoreState {
 };
 extern StoreState g_store;
 
-// Opens the provider in four steps. Only a failing first step is shown to the user; the texts of the
-// others stay in g_store.Message. After a failure the session is closed.
+// Opens the provider in four steps. Only a failing first step is shown to the user; the texts of
+// the others stay in g_store.Message. After a failure the session is closed.
 StartupCode OpenSession(StoreProvider& provider);
 void CloseSession();
 
@@ -54,7 +54,8 @@ struct ContactSelector {
 };
 
 // Each returns the contact's Oid, or 0 and the record untouched. ReadContact also replaces
-// g_contactInk; ReadListRow fills the list-row fields only, clears the others and leaves the ink be.
+// g_contactInk; ReadListRow fills the list-row fields only, clears the others and leaves the ink
+// be.
 Oid ReadContact(const ContactSelector& selector, ContactRecord& record);
 Oid ReadListRow(const ContactSelector& selector, ContactRecord& record);
 void ReadNewContactDefaults(ContactRecord& record);

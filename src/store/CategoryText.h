@@ -1,0 +1,19 @@
+// The text of the Categories property: names separated by commas, a blank after each comma when the
+// store writes it. "No Categories" is never stored: a contact without any has an empty text.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace quill {
+
+// The pieces between the commas, leading blanks skipped, trailing ones kept. Empty pieces name no
+// category and are left out.
+QStringList SplitCategories(QStringView categories);
+QString JoinCategories(const QStringList& names);
+
+// True when any name in chosen equals any name in categories exactly. An empty choice matches only
+// an empty text.
+bool CategoriesMatch(QStringView chosen, QStringView categories);
+
+}  // namespace quill
