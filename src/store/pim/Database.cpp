@@ -1,0 +1,114 @@
+#include "store/pim/Database.h"
+
+#include <sqlite3.h>
+
+#include <QFile>
+
+#include "store/StoreLog.h"
+
+namespace quill {
+
+namespace {
+
+constexpr int kBusyTimeoutMs = 5000;
+// The program's own statements are far fewer; beyond these, statements for odd restrictions are not
+// kept.
+constexpr qsizetype kKeptStatementsLimit = 100;
+
+constexpr int PrimaryCode(int code) { return code & 0xFF; }
+
+void CountRollback(void* rollbacks) { ++*static_cast<qint64*>(rollbacks); }
+
+}  // namespace
+
+Database::~Database() { Close(); }
+
+int Database::Open(const QString& path) {
+  Close();
+  const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
+  int code = sqlite3_open_v2(QFile::encodeName(path).constData(), &m_handle, flags, nullptr);
+  if (code == SQLITE_OK && sqlite3_db_readonly(m_handle, "main") == 1) {
+    code = Fail(SQLITE_READONLY, QStringLiteral("the file can only be read"));
+  } else if (code != SQLITE_OK) {
+    code = Fail(code);
+  }
+  if (code != SQLITE_OK) {
+    Close();
+    return code;
+  }
+  sqlite3_busy_timeout(m_handle, kBusyTimeoutMs);
+  sqlite3_rollback_hook(m_handle, CountRollback, &m_rollbacks);
+  return SQLITE_OK;
+}
+
+void Database::Close() {
+  for (sqlite3_stmt* statement : std::as_const(m_statements)) sqlite3_finalize(statement);
+  m_statements.clear();
+  m_transaction = false;
+  const int code = sqlite3_close(m_handle);
+  if (code != SQLITE_OK) qCCritical(storeLog) << "The store does not close, code" << code;
+  m_handle = nullptr;
+}
+
+int Database::Execute(const QByteArray& sql) {
+  const int code = sqlite3_exec(m_handle, sql.constData(), nullptr, nullptr, nullptr);
+  return code == SQLITE_OK ? SQLITE_OK : Fail(code);
+}
+
+Query Database::Prepare(const QByteArray& sql) {
+  if (sqlite3_stmt* kept = m_statements.value(sql)) return {*this, kept, StatementLife::Kept};
+  sqlite3_stmt* statement = nullptr;
+  const int code = sqlite3_prepare_v3(m_handle, sql.constData(), static_cast<int>(sql.size()),
+                                      SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
+  if (code != SQLITE_OK) Fail(code);
+  if (!statement || m_statements.size() >= kKeptStatementsLimit) {
+    return {*this, statement, StatementLife::Once};
+  }
+  m_statements.insert(sql, statement);
+  return {*this, statement, StatementLife::Kept};
+}
+
+std::optional<qint64> Database::Number(const QByteArray& sql) {
+  Query query = Prepare(sql);
+  return query.Next() ? std::optional(query.Number(0)) : std::nullopt;
+}
+
+qint64 Database::LastRowId() const { return sqlite3_last_insert_rowid(m_handle); }
+
+int Database::ChangedRows() const { return sqlite3_changes(m_handle); }
+
+DataStamp Database::Stamp() {
+  return {.OwnChanges = sqlite3_total_changes(m_handle),
+          .OthersVersion = Number("PRAGMA data_version").value_or(-1),
+          .Rollbacks = m_rollbacks};
+}
+
+bool Database::AutoCommits() const { return sqlite3_get_autocommit(m_handle) != 0; }
+
+bool Database::Begin() {
+  if (m_transaction || Execute("BEGIN IMMEDIATE") != SQLITE_OK) return false;
+  m_transaction = true;
+  return true;
+}
+
+bool Database::Commit() {
+  if (!m_transaction || TransactionLost() || Execute("COMMIT") != SQLITE_OK) return false;
+  m_transaction = false;
+  return true;
+}
+
+void Database::Rollback() {
+  if (m_transaction && !AutoCommits()) Execute("ROLLBACK");
+  m_transaction = false;
+}
+
+bool Database::TransactionLost() const { return m_transaction && AutoCommits(); }
+
+int Database::Fail(int code, const QString& text) {
+  m_failureCode = PrimaryCode(code);
+  m_failureText = text.isEmpty() ? QString::fromUtf8(sqlite3_errmsg(m_handle)) : text;
+  qCWarning(storeLog).noquote() << "Store failure" << code << m_failureText;
+  return m_failureCode;
+}
+
+}  // namespace quill

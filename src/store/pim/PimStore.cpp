@@ -1,0 +1,114 @@
+#include "store/pim/PimStore.h"
+
+#include <sqlite3.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <utility>
+
+#include "store/StoreLog.h"
+#include "store/pim/Database.h"
+#include "store/pim/PimContacts.h"
+#include "store/pim/Schema.h"
+#include "store/pim/SqlFunctions.h"
+#include "store/pim/StoreFile.h"
+
+namespace quill {
+
+namespace {
+
+constexpr QLatin1String kWithoutFile(":memory:");
+
+class PimCalendar : public CalendarFolder {};
+
+class PimTransaction : public StoreTransaction {
+ public:
+  explicit PimTransaction(std::weak_ptr<Database> database) : m_database(std::move(database)) {}
+  ~PimTransaction() override {
+    if (const auto database = m_database.lock()) database->Rollback();
+  }
+  Q_DISABLE_COPY_MOVE(PimTransaction)
+
+  bool Commit() override {
+    const auto database = m_database.lock();
+    if (!database || !database->Commit()) return false;
+    m_database.reset();
+    return true;
+  }
+
+ private:
+  std::weak_ptr<Database> m_database;
+};
+
+}  // namespace
+
+PimStore::PimStore(QString path) : m_path(std::move(path)) {}
+
+PimStore::~PimStore() { Close(); }
+
+int PimStore::Create() {
+  Close();
+  m_lastError.clear();
+  if (m_path != kWithoutFile) {
+    m_path = QFileInfo(m_path).absoluteFilePath();
+    const QString folder = QFileInfo(m_path).path();
+    if (!QDir().mkpath(folder)) {
+      return Refuse(SQLITE_CANTOPEN, QStringLiteral("no folder %1").arg(folder));
+    }
+    if (const auto fault = ExamineStoreFile(m_path)) return Refuse(fault->Code, fault->Reason);
+  }
+  m_database = std::make_shared<Database>();
+  const int code = m_database->Open(m_path);
+  if (code != 0) Close();
+  return code;
+}
+
+int PimStore::Refuse(int code, const QString& reason) {
+  m_lastError = reason;
+  qCWarning(storeLog).noquote() << "Store refused" << code << reason;
+  return code;
+}
+
+int PimStore::Logon() {
+  if (!m_database) return Refuse(SQLITE_MISUSE, QStringLiteral("the store is not open"));
+  if (const int code = RegisterFunctions(*m_database)) return code;
+  return PrepareSchema(*m_database);
+}
+
+int PimStore::OpenFolder(FolderKind kind) {
+  if (!m_database) return Refuse(SQLITE_MISUSE, QStringLiteral("the store is not open"));
+  if (kind == FolderKind::Contacts) return OpenContacts();
+  m_calendar = std::make_unique<PimCalendar>();
+  return SQLITE_OK;
+}
+
+int PimStore::OpenContacts() {
+  auto contacts = std::make_unique<PimContacts>(*m_database);
+  const int code = contacts->Check();
+  if (code == SQLITE_OK) m_contacts = std::move(contacts);
+  return code;
+}
+
+void PimStore::Close() {
+  if (!m_database) return;
+  m_lastError = m_database->FailureText();
+  m_contacts.reset();
+  m_calendar.reset();
+  m_database.reset();
+}
+
+ContactsFolder* PimStore::Contacts() { return m_contacts.get(); }
+
+CalendarFolder* PimStore::Calendar() { return m_calendar.get(); }
+
+std::unique_ptr<StoreTransaction> PimStore::Begin() {
+  if (!m_database || !m_database->Begin()) return nullptr;
+  return std::make_unique<PimTransaction>(m_database);
+}
+
+qint64 PimStore::Changes() { return m_database ? m_database->Stamp().OthersVersion : 0; }
+
+QString PimStore::LastError() const { return m_database ? m_database->FailureText() : m_lastError; }
+
+}  // namespace quill

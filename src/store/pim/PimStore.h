@@ -1,0 +1,48 @@
+// The embedded personal-information store: one SQLite file for contacts and calendar, which several
+// programs may use at once. Its error codes are SQLite's.
+//
+// A file that is damaged, foreign, newer or not to be written makes a step of the start-up fail and
+// is left as it is; LastError has the plain reason.
+#pragma once
+
+#include "store/StoreProvider.h"
+
+namespace quill {
+
+class Database;
+class PimContacts;
+
+class PimStore : public StoreProvider {
+ public:
+  // A file's path, made at the first start with the folders above it; ":memory:" for a store
+  // without a file.
+  explicit PimStore(QString path);
+  ~PimStore() override;
+  Q_DISABLE_COPY_MOVE(PimStore)
+
+  int Create() override;  // finds the file fit and opens it
+  int Logon() override;   // finds the tables or makes them
+  int OpenFolder(FolderKind kind) override;
+  void Close() override;
+
+  ContactsFolder* Contacts() override;
+  CalendarFolder* Calendar() override;
+
+  // One transaction at a time: null while another one is open. One that outlives Close does
+  // nothing.
+  std::unique_ptr<StoreTransaction> Begin() override;
+  qint64 Changes() override;
+  QString LastError() const override;
+
+ private:
+  int Refuse(int code, const QString& reason);
+  int OpenContacts();
+
+  QString m_path;
+  QString m_lastError;  // of a file that did not open, and of a store that is closed
+  std::shared_ptr<Database> m_database;
+  std::unique_ptr<PimContacts> m_contacts;
+  std::unique_ptr<CalendarFolder> m_calendar;
+};
+
+}  // namespace quill

@@ -1,0 +1,88 @@
+#include "store/pim/Schema.h"
+
+#include <sqlite3.h>
+
+#include "store/pim/ContactRows.h"
+#include "store/pim/Database.h"
+#include "store/pim/StoreFile.h"
+
+namespace quill {
+
+namespace {
+
+QByteArray ContactTable() {
+  return "CREATE TABLE contact ("
+         "Oid INTEGER PRIMARY KEY AUTOINCREMENT CHECK (Oid BETWEEN 1 AND 2147483647), " +
+         ContactColumnDeclarations().join(", ") +
+         ", FileAsKey BLOB NOT NULL, CompanyKey BLOB NOT NULL);"
+         "CREATE INDEX contact_by_file_as ON contact (FileAsKey);"
+         "CREATE INDEX contact_by_company ON contact (CompanyKey, FileAsKey);"
+         "CREATE INDEX contact_by_uid ON contact (Uid) WHERE Uid <> '';";
+}
+
+QByteArray JournalTable() {
+  const QByteArrayList names = ContactColumnNames();
+  return "CREATE TABLE contact_journal ("
+         "JournalId INTEGER PRIMARY KEY, DeletedAt INTEGER NOT NULL, Oid INTEGER NOT NULL, " +
+         ContactColumnDeclarations().join(", ") +
+         ");"
+         "CREATE TRIGGER contact_deleted AFTER DELETE ON contact BEGIN "
+         "INSERT INTO contact_journal (DeletedAt, Oid, " +
+         names.join(", ") + ") VALUES (CAST(strftime('%s', 'now') AS INTEGER), OLD.Oid, OLD." +
+         names.join(", OLD.") + "); END;";
+}
+
+QByteArray Identity() {
+  return "PRAGMA application_id = " + QByteArray::number(kStoreApplicationId) +
+         "; PRAGMA user_version = " + QByteArray::number(kStoreVersion) + ';';
+}
+
+enum class SchemaState { Empty, Current, Refused };
+
+SchemaState Refuse(Database& database, const StoreFileFault& fault) {
+  database.Fail(fault.Code, fault.Reason);
+  return SchemaState::Refused;
+}
+
+SchemaState Examine(Database& database) {
+  const auto applicationId = database.Number("PRAGMA application_id");
+  const auto version = database.Number("PRAGMA user_version");
+  const auto objects = database.Number("SELECT count(*) FROM sqlite_master");
+  if (!applicationId || !version || !objects) return SchemaState::Refused;
+  if (*applicationId == 0 && *version == 0 && *objects == 0) return SchemaState::Empty;
+  if (*applicationId != kStoreApplicationId) return Refuse(database, ForeignStoreFault());
+  if (*version > kStoreVersion) return Refuse(database, NewerStoreFault(*version));
+  return SchemaState::Current;
+}
+
+// Another program may be making the same file: the second look, under the lock, is the one that
+// counts.
+int MakeTables(Database& database) {
+  if (!database.Begin()) return database.FailureCode();
+  const SchemaState state = Examine(database);
+  bool done = state == SchemaState::Current;
+  if (state == SchemaState::Empty) {
+    done = database.Execute(ContactTable() + JournalTable() + Identity()) == SQLITE_OK;
+  }
+  if (done && database.Commit()) return SQLITE_OK;
+  const int code = database.FailureCode();
+  database.Rollback();
+  return code;
+}
+
+}  // namespace
+
+int PrepareSchema(Database& database) {
+  // Has an effect on a new file only, and only before anything else is done with it.
+  if (const int code = database.Execute("PRAGMA encoding = 'UTF-16le'")) return code;
+  const SchemaState state = Examine(database);
+  if (state == SchemaState::Refused) return database.FailureCode();
+  if (state == SchemaState::Empty) {
+    if (const int code = MakeTables(database)) return code;
+  }
+  // Only now, so that the identity of a new file stands in the file itself and not in its log.
+  return database.Execute(
+      "PRAGMA journal_mode = WAL; PRAGMA synchronous = FULL; PRAGMA cache_size = -8000");
+}
+
+}  // namespace quill

@@ -1,0 +1,14 @@
+// The functions that the store's SQL calls, over Collation.h and CategoryText.h:
+//   fold_key(text), unit_key(text)        blobs in the order of the store's comparisons
+//   categories_match(chosen, categories)  1 or 0
+// NULL counts as the empty text.
+#pragma once
+
+namespace quill {
+
+class Database;
+
+// Returns 0 or the failure. Needed once for each connection, before its first statement.
+int RegisterFunctions(Database& database);
+
+}  // namespace quill
