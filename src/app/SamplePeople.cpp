@@ -1,0 +1,99 @@
+#include "app/SamplePeople.h"
+
+#include <QDate>
+
+#include <algorithm>
+#include <array>
+
+#include "app/SamplePerson.h"
+#include "app/StoreOpening.h"
+#include "store/FileAsName.h"
+
+namespace quill {
+namespace {
+
+struct TextRow {
+  QStringView SamplePerson::*Text;
+  ContactField Field;
+};
+constexpr auto kTexts = std::to_array<TextRow>({
+    {&SamplePerson::Title, ContactField::Title},
+    {&SamplePerson::First, ContactField::FirstName},
+    {&SamplePerson::Middle, ContactField::MiddleName},
+    {&SamplePerson::Last, ContactField::LastName},
+    {&SamplePerson::Suffix, ContactField::Suffix},
+    {&SamplePerson::JobTitle, ContactField::JobTitle},
+    {&SamplePerson::Department, ContactField::Department},
+    {&SamplePerson::Company, ContactField::CompanyName},
+    {&SamplePerson::Business, ContactField::BusinessTelephoneNumber},
+    {&SamplePerson::Business2, ContactField::Business2TelephoneNumber},
+    {&SamplePerson::BusinessFax, ContactField::BusinessFaxNumber},
+    {&SamplePerson::Home, ContactField::HomeTelephoneNumber},
+    {&SamplePerson::Home2, ContactField::Home2TelephoneNumber},
+    {&SamplePerson::HomeFax, ContactField::HomeFaxNumber},
+    {&SamplePerson::Mobile, ContactField::MobileTelephoneNumber},
+    {&SamplePerson::Pager, ContactField::PagerNumber},
+    {&SamplePerson::Email, ContactField::Email1Address},
+    {&SamplePerson::Email2, ContactField::Email2Address},
+    {&SamplePerson::WebPage, ContactField::WebPage},
+    {&SamplePerson::Street, ContactField::BusinessAddressStreet},
+    {&SamplePerson::City, ContactField::BusinessAddressCity},
+    {&SamplePerson::State, ContactField::BusinessAddressState},
+    {&SamplePerson::PostalCode, ContactField::BusinessAddressPostalCode},
+    {&SamplePerson::Country, ContactField::BusinessAddressCountry},
+    {&SamplePerson::HomeStreet, ContactField::HomeAddressStreet},
+    {&SamplePerson::HomeCity, ContactField::HomeAddressCity},
+    {&SamplePerson::HomeState, ContactField::HomeAddressState},
+    {&SamplePerson::HomePostalCode, ContactField::HomeAddressPostalCode},
+    {&SamplePerson::Categories, ContactField::Categories},
+    {&SamplePerson::Spouse, ContactField::Spouse},
+    {&SamplePerson::Children, ContactField::Children},
+});
+
+CalendarDate DateOf(QStringView text) {
+  const QDate date = QDate::fromString(text.toString(), Qt::ISODate);
+  if (!date.isValid()) return {};
+  CalendarDate answer;
+  answer.Year = static_cast<quint16>(date.year());
+  answer.Month = static_cast<quint16>(date.month());
+  answer.DayOfWeek = static_cast<quint16>(date.dayOfWeek() % 7);
+  answer.Day = static_cast<quint16>(date.day());
+  return answer;
+}
+
+bool IsHangul(QStringView text) {
+  return !text.isEmpty() && text.front().script() == QChar::Script_Hangul;
+}
+
+ContactItem ItemOf(const SamplePerson& person) {
+  ContactItem item;
+  for (const TextRow& row : kTexts) item.Record[row.Field] = (person.*row.Text).toString();
+  // Korean names are written in one, the family's name first.
+  item.Record[ContactField::FileAs] = IsHangul(person.Last)
+                                          ? person.Last.toString() + person.First.toString()
+                                          : MakeFileAs(item.Record);
+  item.Record.Birthday = DateOf(person.Birthday);
+  item.Record.Anniversary = DateOf(person.Anniversary);
+  return item;
+}
+
+bool SavePeople(StoreProvider& store) {
+  ContactsFolder& contacts = *store.Contacts();
+  if (contacts.Count(contacts.Items()) > 0) return true;
+  const auto transaction = store.Begin();
+  if (!transaction) return false;
+  for (const SamplePerson& person : SamplePersons()) {
+    if (contacts.SaveWhole(0, ItemOf(person)) == 0) return false;
+  }
+  return transaction->Commit();
+}
+
+}  // namespace
+
+QString FillWithSamplePeople(StoreProvider& store) {
+  const StoreOpening opening(store);
+  if (!opening.Succeeded()) return opening.Problem();
+  return SavePeople(store) ? QString() : store.LastError();
+}
+
+}  // namespace quill
