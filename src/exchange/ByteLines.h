@@ -1,0 +1,51 @@
+// The physical lines of a text file of unknown origin: ended by CRLF, LF or CR in any mixture, in
+// UTF-8, UTF-16 or some 8-bit character set.
+#pragma once
+
+#include <QByteArray>
+#include <QIODevice>
+#include <QStringDecoder>
+
+#include <optional>
+
+namespace quill {
+
+struct ByteLine {
+  QByteArray Bytes;    // without the line end, byte order mark and NUL bytes
+  qint64 Number = 0;   // 1-based
+  bool IsCut = false;  // longer than the limit: only the beginning is here
+};
+
+// Streams: holds one line and one block of the file. UTF-16 is told by its byte order mark or by
+// its NUL bytes, and comes out as UTF-8.
+class ByteLines {
+ public:
+  static constexpr qsizetype kMaxLine = 8 * 1024 * 1024;  // bytes
+
+  // The device is open for reading and outlives this.
+  explicit ByteLines(QIODevice& device) : m_device(device) {}
+
+  // False at the end of the file and when the device fails.
+  bool Next(ByteLine& line);
+
+  bool IsUnicode() const { return m_wide.has_value(); }  // known once a line was read
+  bool HasFailed() const { return m_hasFailed; }
+  qint64 BytesRead() const { return m_bytesRead; }
+
+ private:
+  bool Fill();
+  QByteArray ReadBlock();
+  void DetectWide(const QByteArray& beginning);
+  void Append(ByteLine& line, qsizetype end) const;
+  void SkipLineEnd();
+
+  QIODevice& m_device;
+  std::optional<QStringDecoder> m_wide;  // set for UTF-16
+  QByteArray m_block;
+  qsizetype m_position = 0;  // in m_block
+  qint64 m_lines = 0;
+  qint64 m_bytesRead = 0;
+  bool m_hasFailed = false;
+};
+
+}  // namespace quill

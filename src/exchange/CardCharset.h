@@ -1,0 +1,24 @@
+// How the bytes of a card become text.
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QLocale>
+#include <QString>
+
+namespace quill {
+
+// What is known of a file's bytes before a card says more.
+struct CardCharset {
+  QByteArray Fallback = "windows-1252";  // for text that is not UTF-8 and does not say what it is
+  bool IsUnicode = false;  // the file was UTF-16: its bytes are UTF-8 now, whatever a card declares
+};
+
+// The fallback for cards written where the locale is spoken.
+QByteArray FallbackCharset(const QLocale& locale);
+
+// The declared character set when it is one we know, else UTF-8 when the bytes are valid, else the
+// fallback. Never fails: what cannot be decoded becomes U+FFFD.
+QString DecodeText(QByteArrayView bytes, const QByteArray& declared, const QByteArray& fallback);
+
+}  // namespace quill

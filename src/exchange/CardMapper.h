@@ -1,0 +1,21 @@
+// What a card means: the contact that is made from its properties.
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+#include "exchange/CardReader.h"
+#include "store/StoreProvider.h"
+
+namespace quill {
+
+// Every field of the record that the card has something for, the UID and the ink notes; what has no
+// field is carried as it came. Nothing when the card holds no field at all.
+std::optional<ContactItem> ContactFromCard(const Card& card);
+
+// The name as it is spoken: "Title First Middle Last Suffix" of what exists, else the company, else
+// FileAs. This is what a card made from the record calls its person.
+QString FormattedName(const ContactRecord& record);
+
+}  // namespace quill

@@ -1,0 +1,78 @@
+#include "exchange/CardPool.h"
+
+#include <algorithm>
+
+namespace quill {
+
+namespace {
+
+constexpr int kNotPreferred = 101;  // one more than the least preference that can be written
+
+int PreferenceOf(const CardProperty& property) {
+  if (TypesOf(property).contains(u"PREF"_qs)) return 1;
+  const int preference = ParameterOf(property, u"PREF").toInt();
+  return preference > 0 ? preference : kNotPreferred;
+}
+
+}  // namespace
+
+CardPool::CardPool(const Card& card)
+    : m_properties(card.Properties), m_taken(card.Properties.size()) {}
+
+std::vector<const CardProperty*> CardPool::All(QStringView name) const {
+  std::vector<const CardProperty*> found;
+  for (std::size_t i = 0; i < m_properties.size(); ++i) {
+    const CardProperty& property = m_properties[i];
+    if (!m_taken[i] && !property.IsNested && property.Name == name) found.push_back(&property);
+  }
+  return found;
+}
+
+std::vector<const CardProperty*> CardPool::Preferred(QStringView name) const {
+  auto found = All(name);
+  const auto before = [](const CardProperty* a, const CardProperty* b) {
+    return PreferenceOf(*a) < PreferenceOf(*b);
+  };
+  std::stable_sort(found.begin(), found.end(), before);
+  return found;
+}
+
+const CardProperty* CardPool::First(QStringView name) const {
+  const auto found = All(name);
+  return found.empty() ? nullptr : found.front();
+}
+
+void CardPool::Take(const CardProperty& property) {
+  m_taken[static_cast<std::size_t>(&property - m_properties.data())] = true;
+}
+
+const CardProperty* CardPool::LabelOf(const CardProperty& property) const {
+  if (property.Group.isEmpty()) return nullptr;
+  for (const CardProperty* label : All(u"X-ABLABEL")) {
+    if (label->Group.compare(property.Group, Qt::CaseInsensitive) == 0) return label;
+  }
+  return nullptr;
+}
+
+QString CardPool::Label(const CardProperty& property) const {
+  const CardProperty* label = LabelOf(property);
+  if (!label) return {};
+  QString text = TextOf(*label).trimmed();
+  // Built-in labels are written as _$!<Spouse>!$_ to tell them from the user's own.
+  if (text.startsWith(u"_$!<") && text.endsWith(u">!$_")) text = text.sliced(4).chopped(4);
+  return text;
+}
+
+void CardPool::TakeLabel(const CardProperty& property) {
+  if (const CardProperty* label = LabelOf(property)) Take(*label);
+}
+
+QString CardPool::Rest() const {
+  QString lines;
+  for (std::size_t i = 0; i < m_properties.size(); ++i) {
+    if (!m_taken[i]) lines += CarriedLine(m_properties[i]) + u'\n';
+  }
+  return lines;
+}
+
+}  // namespace quill

@@ -1,0 +1,104 @@
+#include "exchange/CardReader.h"
+
+#include <utility>
+
+namespace quill {
+
+namespace {
+
+bool IsMark(const QByteArray& line, QByteArrayView mark) {
+  return line.size() >= mark.size() && line.size() < 64 &&
+         line.trimmed().compare(mark, Qt::CaseInsensitive) == 0;
+}
+
+bool IsBegin(const QByteArray& line) { return IsMark(line, "BEGIN:VCARD"); }
+bool IsEnd(const QByteArray& line) { return IsMark(line, "END:VCARD"); }
+
+}  // namespace
+
+CardReader::CardReader(QIODevice& device, CardCharset charset)
+    : m_lines(device), m_charset(std::move(charset)) {}
+
+bool CardReader::Next(Card& card) {
+  card = {};
+  if (!FindBeginning(card)) return false;
+  while (m_lines.Next(m_line)) {
+    if (Take(card) == Place::After) break;
+  }
+  if (card.Fault != CardFault::None) card.Properties.clear();
+  return true;
+}
+
+bool CardReader::FindBeginning(Card& card) {
+  while (m_isPending || m_lines.Next(m_line)) {
+    m_isPending = false;
+    m_charset.IsUnicode = m_lines.Source().IsUnicode();
+    if (IsBegin(m_line.Bytes)) {
+      Begin(card);
+      return true;
+    }
+    const auto property = ParseProperty(m_line.Bytes, m_charset);
+    // A card whose BEGIN was lost still starts like one.
+    if (property &&
+        (property->Name == u"VERSION" || property->Name == u"N" || property->Name == u"FN")) {
+      Begin(card);
+      TakeProperty(card);
+      return true;
+    }
+    ++m_strayLines;
+  }
+  return false;
+}
+
+void CardReader::Begin(Card& card) {
+  card.Ordinal = ++m_ordinal;
+  card.Line = m_line.Number;
+  m_depth = 0;
+  m_bytes = 0;
+  m_afterAgent = false;
+}
+
+CardReader::Place CardReader::Take(Card& card) {
+  if (IsBegin(m_line.Bytes) && !m_afterAgent) {
+    // The card before was never closed.
+    m_isPending = true;
+    return Place::After;
+  }
+  if (IsBegin(m_line.Bytes)) {
+    if (++m_depth > kMaxDepth) SetFault(card, CardFault::NestedTooDeep);
+  }
+  if (IsEnd(m_line.Bytes) && m_depth == 0) return Place::After;
+  TakeProperty(card);
+  if (IsEnd(m_line.Bytes)) --m_depth;
+  return Place::Within;
+}
+
+void CardReader::TakeProperty(Card& card) {
+  m_bytes += m_line.Bytes.size();
+  if (m_line.IsCut) SetFault(card, CardFault::LineTooLong);
+  if (m_bytes > kMaxCard) SetFault(card, CardFault::CardTooLarge);
+  if (card.Properties.size() >= kMaxProperties) SetFault(card, CardFault::TooManyLines);
+  auto property = ParseProperty(m_line.Bytes, m_charset);
+  m_afterAgent = m_lines.IsVersion21() && property && property->Name == u"AGENT" &&
+                 property->Value.trimmed().isEmpty();
+  if (!property) {
+    ++card.LinesNotUnderstood;
+  } else if (card.Fault == CardFault::None) {
+    Keep(card, std::move(*property));
+  }
+}
+
+void CardReader::Keep(Card& card, CardProperty property) {
+  property.LineNumber = m_line.Number;
+  property.IsNested = m_depth > 0;
+  card.Properties.push_back(std::move(property));
+}
+
+void CardReader::SetFault(Card& card, CardFault fault) const {
+  if (card.Fault != CardFault::None) return;
+  card.Fault = fault;
+  card.FaultLine = m_line.Number;
+  card.Properties = {};
+}
+
+}  // namespace quill

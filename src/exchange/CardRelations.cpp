@@ -1,0 +1,128 @@
+#include "exchange/CardRelations.h"
+
+#include <array>
+#include <span>
+
+#include "exchange/CardDate.h"
+
+namespace quill {
+
+namespace {
+
+using Properties = std::vector<const CardProperty*>;
+
+constexpr std::array<QStringView, 5> kSpouseNames{u"X-SPOUSE", u"X-EVOLUTION-SPOUSE",
+                                                  u"X-MS-SPOUSE", u"X-KADDRESSBOOK-X-SPOUSESNAME",
+                                                  u"X-WAB-SPOUSE_NAME"};
+constexpr std::array<QStringView, 3> kChildrenNames{u"X-QUILL-CHILDREN", u"X-CHILDREN",
+                                                    u"X-MS-CHILD"};
+constexpr std::array<QStringView, 1> kBirthdayNames{u"BDAY"};
+constexpr std::array<QStringView, 6> kAnniversaryNames{u"ANNIVERSARY",
+                                                       u"X-ANNIVERSARY",
+                                                       u"X-EVOLUTION-ANNIVERSARY",
+                                                       u"X-MS-ANNIVERSARY",
+                                                       u"X-KADDRESSBOOK-X-ANNIVERSARY",
+                                                       u"X-WAB-WEDDING_ANNIVERSARY"};
+
+constexpr QStringView kAndroidEvent = u"vnd.android.cursor.item/contact_event";
+constexpr QStringView kAndroidAnniversary = u"1";
+
+void Append(Properties& properties, const Properties& more) {
+  properties.insert(properties.end(), more.begin(), more.end());
+}
+
+Properties Named(const CardPool& pool, std::span<const QStringView> names) {
+  Properties found;
+  for (const QStringView name : names) Append(found, pool.All(name));
+  return found;
+}
+
+Properties Labelled(const CardPool& pool, QStringView name, QStringView label) {
+  Properties found;
+  for (const CardProperty* property : pool.All(name)) {
+    if (pool.Label(*property).compare(label, Qt::CaseInsensitive) == 0) found.push_back(property);
+  }
+  return found;
+}
+
+// Relatives that are named; one that is only a reference to another card has no name to show.
+Properties Related(const CardPool& pool, const QString& type) {
+  Properties found;
+  for (const CardProperty* property : pool.All(u"RELATED")) {
+    const bool isReference = property->Value.startsWith(u"urn:", Qt::CaseInsensitive);
+    if (!isReference && TypesOf(*property).contains(type)) found.push_back(property);
+  }
+  return found;
+}
+
+void TakeWithLabel(CardPool& pool, const CardProperty& property) {
+  pool.TakeLabel(property);
+  pool.Take(property);
+}
+
+void PlaceSpouse(CardPool& pool, QString& spouse) {
+  Properties sources = Named(pool, kSpouseNames);
+  Append(sources, Labelled(pool, u"X-ABRELATEDNAMES", u"Spouse"));
+  Append(sources, Related(pool, u"SPOUSE"_qs));
+  for (const CardProperty* source : sources) {
+    const QString name = TextOf(*source);
+    if (spouse.isEmpty()) spouse = name;
+    // Programs write the same name under several properties.
+    if (name == spouse || name.isEmpty()) TakeWithLabel(pool, *source);
+  }
+}
+
+void PlaceChildren(CardPool& pool, QString& children) {
+  Properties sources = Named(pool, kChildrenNames);
+  Append(sources, Labelled(pool, u"X-ABRELATEDNAMES", u"Child"));
+  Append(sources, Related(pool, u"CHILD"_qs));
+  QStringList names;
+  for (const CardProperty* source : sources) {
+    for (const QString& name : TextOf(*source).split(u", "_qs)) {
+      if (!name.isEmpty() && !names.contains(name)) names.append(name);
+    }
+    TakeWithLabel(pool, *source);
+  }
+  children = names.join(u", "_qs);
+}
+
+Properties AndroidAnniversaries(const CardPool& pool) {
+  Properties found;
+  for (const CardProperty* property : pool.All(u"X-ANDROID-CUSTOM")) {
+    const QStringList parts = PartsOf(*property, u';');
+    if (parts.value(0) == kAndroidEvent && parts.value(2) == kAndroidAnniversary) {
+      found.push_back(property);
+    }
+  }
+  return found;
+}
+
+QString DayText(const CardProperty& property) {
+  return property.Name == u"X-ANDROID-CUSTOM" ? PartsOf(property, u';').value(1) : TextOf(property);
+}
+
+void PlaceDay(CardPool& pool, const Properties& sources, CalendarDate& day) {
+  for (const CardProperty* source : sources) {
+    const std::optional<CalendarDate> date = DateFromCard(DayText(*source));
+    if (!date) continue;
+    if (day.Year == 0) day = *date;
+    if (*date == day) TakeWithLabel(pool, *source);
+  }
+}
+
+}  // namespace
+
+void PlaceRelatives(CardPool& pool, ContactRecord& record) {
+  PlaceSpouse(pool, record[ContactField::Spouse]);
+  PlaceChildren(pool, record[ContactField::Children]);
+}
+
+void PlaceDays(CardPool& pool, ContactRecord& record) {
+  PlaceDay(pool, Named(pool, kBirthdayNames), record.Birthday);
+  Properties anniversaries = Named(pool, kAnniversaryNames);
+  Append(anniversaries, Labelled(pool, u"X-ABDATE", u"Anniversary"));
+  Append(anniversaries, AndroidAnniversaries(pool));
+  PlaceDay(pool, anniversaries, record.Anniversary);
+}
+
+}  // namespace quill

@@ -1,0 +1,185 @@
+#include "exchange/CardSlots.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "store/ContactFields.h"
+
+namespace quill {
+
+namespace {
+
+using Field = ContactField;
+
+// In which turn a number chooses its field: those with a claim of their own before those that take
+// what is left.
+enum class Turn { Typed, Remainder, Untyped, Never };
+
+struct NumberClaim {
+  Turn When = Turn::Untyped;
+  std::vector<Field> Fields;  // the first free one is taken
+};
+
+bool HasAny(const QStringList& types, std::initializer_list<QStringView> words) {
+  return std::any_of(words.begin(), words.end(),
+                     [&types](QStringView word) { return types.contains(word); });
+}
+
+NumberClaim FaxClaim(const QStringList& types) {
+  if (HasAny(types, {u"HOMEFAX", u"HOME"})) return {Turn::Typed, {Field::HomeFaxNumber}};
+  if (HasAny(types, {u"WORKFAX", u"WORK"})) return {Turn::Typed, {Field::BusinessFaxNumber}};
+  return {Turn::Remainder, {Field::BusinessFaxNumber, Field::HomeFaxNumber}};
+}
+
+// The mobile numbers of Korea: 010 and its elders, with or without the country.
+bool IsKoreanMobile(const QString& number) {
+  QString digits = number;
+  digits.removeIf([](QChar c) { return !c.isDigit() && c != u'+'; });
+  if (digits.startsWith(u"+82")) {
+    digits = digits.sliced(3);
+    if (!digits.startsWith(u'0')) digits.prepend(u'0');
+  }
+  if (digits.size() < 10 || digits.size() > 11 || !digits.startsWith(u"01")) return false;
+  return QStringView(u"016789").contains(digits.at(2));
+}
+
+NumberClaim UntypedClaim(const QString& number) {
+  std::vector<Field> fields{Field::HomeTelephoneNumber,     Field::Home2TelephoneNumber,
+                            Field::BusinessTelephoneNumber, Field::Business2TelephoneNumber,
+                            Field::MobileTelephoneNumber,   Field::PagerNumber};
+  // A mobile number looks for the two mobile fields first.
+  if (IsKoreanMobile(number)) std::rotate(fields.begin(), fields.begin() + 4, fields.end());
+  return {Turn::Untyped, fields};
+}
+
+NumberClaim ClaimOf(const QStringList& types, const QString& number) {
+  if (HasAny(types, {u"MODEM", u"ISDN", u"BBS"})) return {Turn::Never, {}};
+  if (HasAny(types, {u"FAX", u"WORKFAX", u"HOMEFAX"})) return FaxClaim(types);
+  if (HasAny(types, {u"CELL", u"MOBILE"})) {
+    return {Turn::Typed, {Field::MobileTelephoneNumber, Field::PagerNumber}};
+  }
+  if (HasAny(types, {u"CAR"})) return {Turn::Typed, {Field::CarTelephoneNumber}};
+  if (HasAny(types, {u"PAGER"})) return {Turn::Remainder, {Field::PagerNumber}};
+  if (HasAny(types, {u"WORK"})) {
+    return {Turn::Typed, {Field::BusinessTelephoneNumber, Field::Business2TelephoneNumber}};
+  }
+  if (HasAny(types, {u"HOME"})) {
+    return {Turn::Typed, {Field::HomeTelephoneNumber, Field::Home2TelephoneNumber}};
+  }
+  return UntypedClaim(number);
+}
+
+// The number of a "tel:" URI is what follows the scheme.
+QString NumberOf(const CardProperty& property) {
+  const QString text = TextOf(property);
+  return text.startsWith(u"tel:", Qt::CaseInsensitive) ? text.sliced(4) : text;
+}
+
+bool Put(ContactRecord& record, Field field, const QString& text) {
+  if (!record[field].isEmpty()) return false;
+  record[field] = text;
+  return true;
+}
+
+// The field that the property names itself: written where an earlier field of its kind was empty.
+template <typename Fields>
+bool PutWhereNamed(const CardProperty& property, const Fields& fields, const QString& text,
+                   ContactRecord& record) {
+  const QString name = ParameterOf(property, u"X-QUILL-FIELD");
+  const auto isNamed = [&name](Field field) { return FieldRow(field).Property == name; };
+  const auto found = std::find_if(fields.begin(), fields.end(), isNamed);
+  return found != fields.end() && Put(record, *found, text);
+}
+
+template <typename Fields>
+bool PutInFirstFree(const Fields& fields, const QString& text, ContactRecord& record) {
+  return std::any_of(fields.begin(), fields.end(),
+                     [&](Field field) { return Put(record, field, text); });
+}
+
+void TakeEmpty(CardPool& pool, QStringView name) {
+  for (const CardProperty* property : pool.All(name)) {
+    if (TextOf(*property).trimmed().isEmpty()) pool.Take(*property);
+  }
+}
+
+constexpr int kAddressParts = 7;  // box, extension, street, city, state, postal code, country
+
+struct AddressFields {
+  Field Street;
+  Field City;
+  Field State;
+  Field PostalCode;
+  Field Country;
+};
+constexpr AddressFields kBusinessAddress{
+    Field::BusinessAddressStreet, Field::BusinessAddressCity, Field::BusinessAddressState,
+    Field::BusinessAddressPostalCode, Field::BusinessAddressCountry};
+constexpr AddressFields kHomeAddress{Field::HomeAddressStreet, Field::HomeAddressCity,
+                                     Field::HomeAddressState, Field::HomeAddressPostalCode,
+                                     Field::HomeAddressCountry};
+constexpr AddressFields kOtherAddress{Field::OtherAddressStreet, Field::OtherAddressCity,
+                                      Field::OtherAddressState, Field::OtherAddressPostalCode,
+                                      Field::OtherAddressCountry};
+
+bool IsFree(const ContactRecord& record, const AddressFields& fields) {
+  return record[fields.Street].isEmpty() && record[fields.City].isEmpty() &&
+         record[fields.State].isEmpty() && record[fields.PostalCode].isEmpty() &&
+         record[fields.Country].isEmpty();
+}
+
+const AddressFields& AddressFieldsFor(const CardProperty& address, const ContactRecord& record) {
+  const QStringList types = TypesOf(address);
+  if (HasAny(types, {u"WORK"}) && IsFree(record, kBusinessAddress)) return kBusinessAddress;
+  if (HasAny(types, {u"HOME"}) && IsFree(record, kHomeAddress)) return kHomeAddress;
+  return kOtherAddress;
+}
+
+void PutAddress(const QStringList& parts, const AddressFields& fields, ContactRecord& record) {
+  QStringList street = parts.first(3);
+  street.removeAll(QString());
+  record[fields.Street] = street.join(u'\n');
+  record[fields.City] = parts.at(3);
+  record[fields.State] = parts.at(4);
+  record[fields.PostalCode] = parts.at(5);
+  record[fields.Country] = parts.at(6);
+}
+
+}  // namespace
+
+void PlaceNumbers(CardPool& pool, ContactRecord& record) {
+  TakeEmpty(pool, u"TEL");
+  for (const CardProperty* tel : pool.All(u"TEL")) {
+    if (PutWhereNamed(*tel, kNumberFields, NumberOf(*tel), record)) pool.Take(*tel);
+  }
+  for (const Turn turn : {Turn::Typed, Turn::Remainder, Turn::Untyped}) {
+    for (const CardProperty* tel : pool.Preferred(u"TEL")) {
+      const QString number = NumberOf(*tel);
+      const NumberClaim claim = ClaimOf(TypesOf(*tel), number);
+      if (claim.When == turn && PutInFirstFree(claim.Fields, number, record)) pool.Take(*tel);
+    }
+  }
+}
+
+void PlaceEmails(CardPool& pool, ContactRecord& record) {
+  TakeEmpty(pool, u"EMAIL");
+  for (const CardProperty* email : pool.All(u"EMAIL")) {
+    if (PutWhereNamed(*email, kEmailFields, TextOf(*email), record)) pool.Take(*email);
+  }
+  for (const CardProperty* email : pool.Preferred(u"EMAIL")) {
+    if (PutInFirstFree(kEmailFields, TextOf(*email), record)) pool.Take(*email);
+  }
+}
+
+void PlaceAddresses(CardPool& pool, ContactRecord& record) {
+  for (const CardProperty* address : pool.All(u"ADR")) {
+    const QStringList parts = PartsOf(*address, kAddressParts);
+    const AddressFields& fields = AddressFieldsFor(*address, record);
+    const bool isEmpty = parts.join(QString()).trimmed().isEmpty();
+    if (!isEmpty && !IsFree(record, fields)) continue;
+    if (!isEmpty) PutAddress(parts, fields, record);
+    pool.Take(*address);
+  }
+}
+
+}  // namespace quill
