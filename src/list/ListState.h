@@ -14,8 +14,8 @@ enum class ViewMode { ByName = 0, ByCompany = 1, ByMemo = 2 };
 enum class FilterKind { None = 0, Category = 1, Range = 2 };
 enum class FilterSubKind { None = 0, IndexRange = 1, SearchText = 3 };
 
-inline constexpr int kRowsWithIndex = 14;     // rows per page with the index strip
-inline constexpr int kRowsWithoutIndex = 15;  // and without it
+inline constexpr int kRowsWithIndex = 14;      // rows per page with the index strip
+inline constexpr int kRowsWithoutIndex = 15;   // and without it
 inline constexpr int kListRowTextLimit = 127;  // UTF-16 units of a page row's text
 
 // Which picture stands at a row's right end; the kinds share pictures in pairs.
@@ -36,9 +36,9 @@ enum class RowIconKind {
 
 // A row of the page buffer.
 struct ListRow {
-  QString Name;     // each at most kListRowTextLimit units
+  QString Name;  // each at most kListRowTextLimit units
   QString Company;
-  QString Text;     // the second column by name
+  QString Text;  // the second column by name
   RowIconKind Icon = RowIconKind::None;
   quill::Oid Oid = 0;
   int Position = 0;  // on the page, 0-based

@@ -1,0 +1,24 @@
+// The chosen category as the filters use it.
+#pragma once
+
+#include <QString>
+
+#include "list/ListState.h"
+
+namespace quill {
+
+inline constexpr QStringView kShowAllCategories = u"Show All";  // no category is chosen
+inline constexpr QStringView kNoCategories = u"No Categories";  // contacts without a category
+
+inline constexpr int kSeveralCategoriesLimit = 1023;  // UTF-16 units of either list of names
+
+bool IsCategoryChosen(const ListState& list);
+
+// The names asked of the store: empty for kNoCategories.
+QString CategoryToMatch(const ListState& list);
+
+// True when no category is chosen or the contact's category text satisfies the choice. Nothing
+// satisfies a choice of several names when either text is longer than kSeveralCategoriesLimit.
+bool PassesCategoryFilter(const ListState& list, const QString& categories);
+
+}  // namespace quill

@@ -1,0 +1,86 @@
+#include "list/RestrictionText.h"
+
+#include "list/CategoryFilter.h"
+#include "store/ContactFields.h"
+#include "store/Restriction.h"
+
+namespace quill {
+
+namespace {
+
+QString Comparison(ContactField field, QStringView comparison, const QString& value) {
+  return QStringLiteral("[%1] %2 ").arg(FieldRow(field).Property, comparison) +
+         QuoteRestrictionValue(value);
+}
+
+QString AtLeast(ContactField field, const QString& value) {
+  return Comparison(field, u">=", value);
+}
+
+QString Below(ContactField field, const QString& value) { return Comparison(field, u"<", value); }
+
+QString And(const QString& left, const QString& right) {
+  return left + QStringLiteral(" AND ") + right;
+}
+
+QString CategoryText(const ListState& list) {
+  return Comparison(ContactField::Categories, u"=", CategoryToMatch(list));
+}
+
+ContactField OrderField(const ListState& list) {
+  return list.Mode == ViewMode::ByCompany ? ContactField::CompanyName : ContactField::FileAs;
+}
+
+QString WithCategory(const ListState& list, const QString& text) {
+  return IsCategoryChosen(list) ? And(text, CategoryText(list)) : text;
+}
+
+QString IndexRangeText(const ListState& list) {
+  const ContactField field = OrderField(list);
+  const QString lower = AtLeast(field, list.IndexLower);
+  const QString upper = Below(field, list.IndexUpper);
+  if (list.IndexLower < list.IndexUpper) return WithCategory(list, And(lower, upper));
+  const QString wrapped = lower + QStringLiteral(" OR ") + upper;
+  if (!IsCategoryChosen(list)) return wrapped;
+  return And(QStringLiteral("(%1)").arg(wrapped), CategoryText(list));
+}
+
+QString SearchRangeText(const ListState& list) {
+  const ContactField field = OrderField(list);
+  const QString from = AtLeast(field, list.SearchText);
+  if (list.SearchText.isEmpty()) return WithCategory(list, from);
+  return WithCategory(list, And(from, Below(field, PrefixEnd(list.SearchText))));
+}
+
+QString RangeText(const ListState& list) {
+  switch (list.SubFilter) {
+    case FilterSubKind::IndexRange:
+      return IndexRangeText(list);
+    case FilterSubKind::SearchText:
+      return SearchRangeText(list);
+    case FilterSubKind::None:
+      break;
+  }
+  return {};
+}
+
+}  // namespace
+
+QString RestrictionText(const ListState& list) {
+  switch (list.Filter) {
+    case FilterKind::Category:
+      return IsCategoryChosen(list) ? CategoryText(list) : QString();
+    case FilterKind::Range:
+      return RangeText(list);
+    case FilterKind::None:
+      break;
+  }
+  return {};
+}
+
+QString PrefixEnd(QString prefix) {
+  if (!prefix.isEmpty()) prefix.back() = QChar(static_cast<char16_t>(prefix.back().unicode() + 1));
+  return prefix;
+}
+
+}  // namespace quill

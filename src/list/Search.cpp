@@ -1,0 +1,17 @@
+#include "list/Search.h"
+
+#include "list/CategoryFilter.h"
+
+namespace quill {
+
+void SearchList(ListState& list, const QString& text) {
+  list.SearchText = text;
+  list.Filter = text.isEmpty() ? FilterKind::None : FilterKind::Range;
+  list.SubFilter = text.isEmpty() ? FilterSubKind::None : FilterSubKind::SearchText;
+  list.CategoryName = kShowAllCategories.toString();
+  list.CategoryCount = 1;
+  list.IndexButton = 0;
+  list.Top = 0;
+}
+
+}  // namespace quill

@@ -1,0 +1,17 @@
+#include "list/ViewModes.h"
+
+#include "list/CategoryFilter.h"
+
+namespace quill {
+
+void SwitchViewMode(ListState& list, ViewMode mode) {
+  list.Mode = mode;
+  list.Filter = FilterKind::None;
+  list.SubFilter = FilterSubKind::None;
+  list.CategoryName = kShowAllCategories.toString();
+  list.CategoryCount = 1;
+  list.Top = 0;
+  list.IndexButton = 0;
+}
+
+}  // namespace quill

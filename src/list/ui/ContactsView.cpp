@@ -1,0 +1,166 @@
+#include "list/ui/ContactsView.h"
+
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollBar>
+
+#include "list/IndexRanges.h"
+#include "list/PageBuilding.h"
+#include "list/Search.h"
+#include "list/ViewModes.h"
+#include "list/ui/ContactCommands.h"
+#include "list/ui/ContactListCtrl.h"
+#include "list/ui/IndexStrip.h"
+#include "list/ui/ViewModeCommands.h"
+#include "platform/Services.h"
+#include "platform/ui/InputCommit.h"
+#include "resources/Ids.h"
+#include "store/ContactStore.h"
+
+namespace quill {
+
+namespace {
+
+constexpr int kNoticeTimer = 3;
+constexpr int kNoticeDelay = 500;  // milliseconds after the last notice
+
+constexpr QRect kSearchEditArea{2, 3, 95, 19};
+constexpr QRect kSearchButtonArea{100, 2, 48, 21};
+constexpr QRect kIndexStripArea{0, 26, 240, 19};
+constexpr QRect kListArea{0, 45, 225, 225};
+constexpr QRect kScrollBarArea{225, 45, 15, 222};
+
+}  // namespace
+
+CContactsView::CContactsView(QWidget* frame)
+    : QWidget(frame),
+      m_searchEdit(new QLineEdit(this)),
+      m_indexStrip(new CIndexStrip(this)),
+      m_list(new CContactListCtrl(this)),
+      m_scrollBar(new QScrollBar(Qt::Vertical, this)),
+      m_contactCommands(MakeContactCommands(*this)),
+      m_modeCommands(MakeViewModeCommands(*this)) {
+  MakeControls();
+  PlaceControls();
+}
+
+CContactsView::~CContactsView() {
+  if (g_services.Timers) g_services.Timers->KillAll(*this);
+}
+
+void CContactsView::MakeControls() {
+  auto* const button = new QPushButton(QStringLiteral("Search"), this);
+  button->setGeometry(kSearchButtonArea);
+  button->setFocusPolicy(Qt::NoFocus);
+  connect(button, &QPushButton::clicked, this, &CContactsView::Search);
+  m_searchEdit->setAccessibleName(QStringLiteral("Search for"));
+  connect(m_searchEdit, &QLineEdit::returnPressed, this, &CContactsView::Search);
+  m_scrollBar->setFocusPolicy(Qt::NoFocus);
+  connect(m_scrollBar, &QScrollBar::actionTriggered, this, &CContactsView::RunScrollAction);
+  m_list->ScrollAsked = [this](ScrollRequest request, int thumb) { Scroll(request, thumb); };
+  m_indexStrip->Tapped = [this](int index) { ChooseIndex(index); };
+  m_controls = {{ContactsViewIds::kSearchEdit, m_searchEdit},
+                {ContactsViewIds::kSearchButton, button},
+                {ContactsViewIds::kListControl, m_list},
+                {ContactsViewIds::kScrollBar, m_scrollBar}};
+}
+
+void CContactsView::PlaceControls() {
+  m_searchEdit->setGeometry(kSearchEditArea);
+  m_indexStrip->setGeometry(kIndexStripArea);
+  m_list->setGeometry(kListArea);
+  m_scrollBar->setGeometry(kScrollBarArea);
+}
+
+void CContactsView::OnInitialUpdate(StoreProvider& provider) {
+  if (OpenSession(provider) == StartupCode::Opened) BuildPage(g_list);
+  ShowState();
+}
+
+void CContactsView::ShowState() {
+  m_searchEdit->setText(g_list.SearchText);
+  ShowPage();
+}
+
+CommandRoute CContactsView::Route() const {
+  CommandRoute route;
+  route.Add(*m_contactCommands);
+  route.Add(*m_modeCommands);
+  return route;
+}
+
+void CContactsView::OnStoreNotice(int first, int) {
+  if (first == 1) return;
+  if (!QGuiApplication::overrideCursor()) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  g_services.Timers->Set(*this, kNoticeTimer, kNoticeDelay);
+}
+
+void CContactsView::OnTimer(int id) {
+  if (id != kNoticeTimer) return;
+  g_services.Timers->Kill(*this, kNoticeTimer);
+  QGuiApplication::restoreOverrideCursor();
+  if (g_list.Mode != ViewMode::ByMemo) Rebuild();
+}
+
+bool CContactsView::OnCopyData(int, const QString&) { return false; }
+
+void CContactsView::Rebuild() {
+  BuildPage(g_list);
+  ShowPage();
+}
+
+void CContactsView::Search() {
+  SearchList(g_list, EditorText(*m_searchEdit));
+  Rebuild();
+}
+
+void CContactsView::ShowByName() {
+  SwitchViewMode(g_list, ViewMode::ByName);
+  m_searchEdit->clear();
+  Rebuild();
+}
+
+void CContactsView::ChooseIndex(int button) {
+  ChooseIndexButton(g_list, button);
+  Rebuild();
+}
+
+void CContactsView::FocusList() { m_list->setFocus(); }
+
+void CContactsView::RunScrollAction(int action) {
+  switch (action) {
+    case QAbstractSlider::SliderSingleStepSub:
+      return Scroll(ScrollRequest::LineUp, 0);
+    case QAbstractSlider::SliderSingleStepAdd:
+      return Scroll(ScrollRequest::LineDown, 0);
+    case QAbstractSlider::SliderPageStepSub:
+      return Scroll(ScrollRequest::PageUp, 0);
+    case QAbstractSlider::SliderPageStepAdd:
+      return Scroll(ScrollRequest::PageDown, 0);
+    case QAbstractSlider::SliderMove:
+      return Scroll(ScrollRequest::ThumbTrack, m_scrollBar->sliderPosition());
+    default:
+      m_scrollBar->setSliderPosition(g_list.Top);  // the other requests are ignored
+  }
+}
+
+void CContactsView::Scroll(ScrollRequest request, int thumb) {
+  if (ScrollList(g_list, request, thumb)) m_list->ShowPage();
+  m_scrollBar->setSliderPosition(g_list.Top);
+}
+
+void CContactsView::ShowPage() {
+  m_indexStrip->ShowChosen();
+  m_list->ShowPage();
+  m_scrollBar->setRange(0, LargestTop(g_list));
+  m_scrollBar->setPageStep(g_list.RowsPerPage);
+  m_scrollBar->setValue(g_list.Top);
+}
+
+void CContactsView::paintEvent(QPaintEvent* event) {
+  QPainter(this).fillRect(event->rect(), palette().color(QPalette::Window));
+}
+
+}  // namespace quill

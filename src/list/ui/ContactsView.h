@@ -1,0 +1,69 @@
+// The contact list view: search box, index strip, list and scroll bar in the main frame's client
+// area. It opens the store session and fills the page; everything shown stands in g_list.
+#pragma once
+
+#include <QWidget>
+
+#include "list/Scrolling.h"
+#include "platform/CommandTarget.h"
+#include "platform/Timers.h"
+#include "platform/ui/Window.h"
+#include "store/StoreProvider.h"
+
+class QLineEdit;
+class QScrollBar;
+
+namespace quill {
+
+class CContactListCtrl;
+class CIndexStrip;
+
+class CContactsView : public QWidget, public TimerTarget {
+  Q_OBJECT
+ public:
+  explicit CContactsView(QWidget* frame);
+  ~CContactsView() override;
+
+  // The first time in this process: opens the session and builds the first page. After a session
+  // that failed the view stays empty.
+  void OnInitialUpdate(StoreProvider& provider);
+  // A new shell over a list that is there already: lays out what g_list holds.
+  void ShowState();
+
+  CommandRoute Route() const;
+  const ControlMap& Controls() const { return m_controls; }
+
+  // The store's change notice. first is 1 for a change of this program itself; any other rebuilds
+  // the list half a second after the last notice.
+  void OnStoreNotice(int first, int second);
+  // A request by another program. True when it was taken: nothing is, so far.
+  bool OnCopyData(int kind, const QString& text);
+  void OnTimer(int id) override;
+
+  // Fills the page again with the filter in force.
+  void Rebuild();
+  void Search();
+  void ShowByName();
+  void ChooseIndex(int button);
+  void FocusList();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void MakeControls();
+  void PlaceControls();
+  void RunScrollAction(int action);
+  void Scroll(ScrollRequest request, int thumb);
+  void ShowPage();
+
+  QLineEdit* m_searchEdit;
+  CIndexStrip* m_indexStrip;
+  CContactListCtrl* m_list;
+  QScrollBar* m_scrollBar;
+  ControlMap m_controls;
+  std::unique_ptr<CommandTarget> m_contactCommands;
+  std::unique_ptr<CommandTarget> m_modeCommands;
+};
+
+}  // namespace quill
