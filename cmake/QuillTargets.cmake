@@ -43,7 +43,8 @@ function(quill_add_tests name kind)
   target_link_libraries(${name} PRIVATE
     ${TESTS_LINKS} quill_test_support quill_test_main_${kind} GTest::gmock GTest::gtest quill_flags)
   quill_precompile(${name} ${kind})
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES LABELS unit TIMEOUT 120)
+  gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60
+    PROPERTIES LABELS unit TIMEOUT 120)
   if(kind STREQUAL "core")
     quill_add_no_widgets_check(${name})
   endif()

@@ -17,8 +17,8 @@ struct CommandState {
 struct CommandRow {
   int First = 0;
   int Last = 0;
-  std::function<void(int id)> Run;
-  std::function<void(int id, CommandState& state)> Update;
+  std::function<void(int id)> Run = {};
+  std::function<void(int id, CommandState& state)> Update = {};
 };
 
 // A class with commands of its own derives from this and hands its table over.

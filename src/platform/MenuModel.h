@@ -14,7 +14,7 @@ class CommandRoute;
 
 // A line of a menu. With Items it opens a submenu and its id runs nothing.
 struct MenuItem {
-  QString Text;
+  QString Text = {};
   int Id = 0;
   bool Enabled = true;
   bool Checked = false;

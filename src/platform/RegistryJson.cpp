@@ -30,7 +30,9 @@ QByteArray BlockOfUnits(const QString& units) {
 std::optional<QString> TextOfBlock(const QByteArray& block) {
   QString text = UnitsOfBlock(block);
   while (text.endsWith(QChar::Null)) text.chop(1);
-  const bool plain = text.isValidUtf16() && !text.contains(QChar::Null);
+  // A reader of JSON may swallow a byte-order mark at a text's begin.
+  const bool marked = text.startsWith(QChar::ByteOrderMark);
+  const bool plain = text.isValidUtf16() && !marked && !text.contains(QChar::Null);
   const bool whole = BlockOfUnits(text).leftJustified(block.size(), '\0') == block;
   return plain && whole ? std::optional(text) : std::nullopt;
 }
