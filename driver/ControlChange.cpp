@@ -1,0 +1,96 @@
+#include "driver/ControlChange.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+
+#include "driver/Arguments.h"
+
+namespace quill::driver {
+
+namespace {
+
+using Change = std::optional<std::function<void()>>;
+
+void TypeOver(QLineEdit& edit, const QString& text) {
+  edit.setFocus(Qt::MouseFocusReason);
+  edit.selectAll();
+  text.isEmpty() ? edit.del() : edit.insert(text);
+}
+
+Change ChangeText(QWidget& control, const QString& text) {
+  auto* edit = qobject_cast<QLineEdit*>(&control);
+  if (auto* list = qobject_cast<QComboBox*>(&control)) edit = list->lineEdit();
+  if (edit && !edit->isReadOnly()) return [edit, text] { TypeOver(*edit, text); };
+  auto* page = qobject_cast<QPlainTextEdit*>(&control);
+  if (page == nullptr || page->isReadOnly()) return std::nullopt;
+  return [page, text] {
+    page->setFocus(Qt::MouseFocusReason);
+    page->selectAll();
+    page->insertPlainText(text);
+  };
+}
+
+// An entry that is selected already is activated all the same, as a user may do.
+Change ChangeIndex(QWidget& control, int index) {
+  auto* list = qobject_cast<QComboBox*>(&control);
+  if (list == nullptr || index < 0 || index >= list->count()) return std::nullopt;
+  return [list, index] {
+    list->setFocus(Qt::MouseFocusReason);
+    list->setCurrentIndex(index);
+    Q_EMIT list->activated(index);
+  };
+}
+
+Change ChangeChecked(QWidget& control, bool checked) {
+  auto* button = qobject_cast<QAbstractButton*>(&control);
+  if (button == nullptr || !button->isCheckable()) return std::nullopt;
+  return [button, checked] {
+    if (button->isChecked() != checked) button->click();
+  };
+}
+
+Change ChangeListItem(QWidget& control, int index, bool checked) {
+  auto* list = qobject_cast<QListWidget*>(&control);
+  if (list == nullptr || index < 0 || index >= list->count()) return std::nullopt;
+  return [list, index, checked] {
+    list->setCurrentRow(index);
+    list->item(index)->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
+  };
+}
+
+Change ChangeDate(QWidget& control, const QString& text) {
+  auto* edit = qobject_cast<QDateTimeEdit*>(&control);
+  const QDate date = QDate::fromString(text, Qt::ISODate);
+  if (edit == nullptr || !date.isValid()) return std::nullopt;
+  return [edit, date] { edit->setDate(date); };
+}
+
+Change ChangeTime(QWidget& control, const QString& text) {
+  auto* edit = qobject_cast<QDateTimeEdit*>(&control);
+  const QTime time = QTime::fromString(text, Qt::ISODate);
+  if (edit == nullptr || !time.isValid()) return std::nullopt;
+  return [edit, time] { edit->setTime(time); };
+}
+
+}  // namespace
+
+std::optional<std::function<void()>> PrepareChange(QWidget& control, const QJsonObject& arguments) {
+  const auto text = Text(arguments, u"text");
+  const auto index = WholeNumber(arguments, u"index");
+  const auto checked = Truth(arguments, u"checked");
+  const auto date = Text(arguments, u"date");
+  const auto time = Text(arguments, u"time");
+  if (text) return ChangeText(control, *text);
+  if (index && checked) return ChangeListItem(control, *index, *checked);
+  if (index) return ChangeIndex(control, *index);
+  if (checked) return ChangeChecked(control, *checked);
+  if (date) return ChangeDate(control, *date);
+  if (time) return ChangeTime(control, *time);
+  return std::nullopt;
+}
+
+}  // namespace quill::driver

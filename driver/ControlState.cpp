@@ -1,0 +1,93 @@
+#include "driver/ControlState.h"
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QJsonArray>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+
+#include <optional>
+
+#include "driver/ClassName.h"
+#include "driver/Geometry.h"
+
+namespace quill::driver {
+
+namespace {
+
+std::optional<QString> TextOf(const QWidget& control) {
+  if (const auto* label = qobject_cast<const QLabel*>(&control)) return label->text();
+  if (const auto* edit = qobject_cast<const QLineEdit*>(&control)) return edit->text();
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&control)) return button->text();
+  if (const auto* list = qobject_cast<const QComboBox*>(&control)) return list->currentText();
+  if (const auto* spin = qobject_cast<const QAbstractSpinBox*>(&control)) return spin->text();
+  if (const auto* text = qobject_cast<const QPlainTextEdit*>(&control)) return text->toPlainText();
+  return std::nullopt;
+}
+
+void AddDropDown(QJsonObject& object, const QComboBox& list) {
+  QJsonArray items;
+  for (int i = 0; i < list.count(); ++i) items.append(list.itemText(i));
+  object.insert(u"items", items);
+  object.insert(u"index", list.currentIndex());
+}
+
+void AddCheckList(QJsonObject& object, const QListWidget& list) {
+  QJsonArray items;
+  for (int i = 0; i < list.count(); ++i) {
+    const QListWidgetItem& item = *list.item(i);
+    items.append(QJsonObject{{QStringLiteral("text"), item.text()},
+                             {QStringLiteral("checked"), item.checkState() == Qt::Checked}});
+  }
+  object.insert(u"items", items);
+  object.insert(u"index", list.currentRow());
+}
+
+void AddDateAndTime(QJsonObject& object, const QDateTimeEdit& edit) {
+  const auto sections = edit.displayedSections();
+  if (sections & QDateTimeEdit::DateSections_Mask)
+    object.insert(u"date", edit.date().toString(Qt::ISODate));
+  if (sections & QDateTimeEdit::TimeSections_Mask)
+    object.insert(u"time", edit.time().toString(QStringLiteral("HH:mm")));
+}
+
+void AddRange(QJsonObject& object, const QAbstractSlider& slider) {
+  object.insert(u"min", slider.minimum());
+  object.insert(u"max", slider.maximum());
+  object.insert(u"value", slider.value());
+}
+
+}  // namespace
+
+QJsonObject ControlJson(int id, const QWidget& control, const QRect& place) {
+  QJsonObject object = RectangleJson(place);
+  object.insert(u"id", id);
+  object.insert(u"class", ClassName(control));
+  object.insert(u"visible", control.isVisible());
+  object.insert(u"enabled", control.isEnabled());
+  if (const auto text = TextOf(control)) object.insert(u"text", *text);
+  const auto* button = qobject_cast<const QAbstractButton*>(&control);
+  if (button && button->isCheckable()) object.insert(u"checked", button->isChecked());
+  if (const auto* list = qobject_cast<const QComboBox*>(&control)) AddDropDown(object, *list);
+  if (const auto* list = qobject_cast<const QListWidget*>(&control)) AddCheckList(object, *list);
+  if (const auto* edit = qobject_cast<const QDateTimeEdit*>(&control))
+    AddDateAndTime(object, *edit);
+  if (const auto* slider = qobject_cast<const QAbstractSlider*>(&control))
+    AddRange(object, *slider);
+  return object;
+}
+
+QString SelectedText(const QWidget& control) {
+  if (const auto* edit = qobject_cast<const QLineEdit*>(&control)) return edit->selectedText();
+  if (const auto* list = qobject_cast<const QComboBox*>(&control))
+    return list->lineEdit() ? list->lineEdit()->selectedText() : QString();
+  if (const auto* text = qobject_cast<const QPlainTextEdit*>(&control))
+    return text->textCursor().selectedText();
+  return {};
+}
+
+}  // namespace quill::driver

@@ -1,0 +1,83 @@
+#include "driver/FaultyStore.h"
+
+namespace quill::driver {
+
+class FaultyContactsFolder : public ContactsFolder {
+ public:
+  FaultyContactsFolder(StoreProvider& store, const FaultTable& faults)
+      : m_store(store), m_faults(faults) {}
+
+  ContactCollection Items() override { return Inner().Items(); }
+  void Sort(ContactCollection& collection, ContactOrder order) override {
+    Inner().Sort(collection, order);
+  }
+  std::optional<ContactCollection> Restrict(const ContactCollection& collection,
+                                            const QString& restriction) override {
+    if (m_faults.CodeOf(u"restrict") != 0) return std::nullopt;
+    return Inner().Restrict(collection, restriction);
+  }
+  int Count(const ContactCollection& collection) override { return Inner().Count(collection); }
+  Oid OidAt(const ContactCollection& collection, int position) override {
+    return Inner().OidAt(collection, position);
+  }
+  bool ReadListRow(Oid oid, ContactRecord& record) override {
+    return !m_faults.Fails(u"read", oid) && Inner().ReadListRow(oid, record);
+  }
+  bool Read(Oid oid, ContactItem& item) override {
+    return !m_faults.Fails(u"read", oid) && Inner().Read(oid, item);
+  }
+  Oid Save(Oid oid, const ContactRecord& record, const QByteArray& bodyInk) override {
+    return m_faults.Fails(u"write", oid) ? 0 : Inner().Save(oid, record, bodyInk);
+  }
+  Oid SaveWhole(Oid oid, const ContactItem& item) override {
+    return m_faults.Fails(u"write", oid) ? 0 : Inner().SaveWhole(oid, item);
+  }
+  bool Remove(Oid oid) override { return !m_faults.Fails(u"delete", oid) && Inner().Remove(oid); }
+  std::vector<Oid> FindByUid(const QString& uid) override { return Inner().FindByUid(uid); }
+  std::vector<Oid> FindByFileAs(const QString& fileAs) override {
+    return Inner().FindByFileAs(fileAs);
+  }
+
+ private:
+  ContactsFolder& Inner() { return *m_store.Contacts(); }
+
+  StoreProvider& m_store;
+  const FaultTable& m_faults;
+};
+
+FaultyStore::FaultyStore(StoreProvider& inner, const FaultTable& faults)
+    : m_inner(inner),
+      m_faults(faults),
+      m_contacts(std::make_unique<FaultyContactsFolder>(inner, faults)) {}
+
+FaultyStore::~FaultyStore() = default;
+
+int FaultyStore::Create() {
+  const int code = m_faults.CodeOf(u"store-create");
+  return code != 0 ? code : m_inner.Create();
+}
+
+int FaultyStore::Logon() {
+  const int code = m_faults.CodeOf(u"store-logon");
+  return code != 0 ? code : m_inner.Logon();
+}
+
+int FaultyStore::OpenFolder(FolderKind kind) {
+  const int code =
+      m_faults.CodeOf(kind == FolderKind::Contacts ? u"contacts-folder" : u"calendar-folder");
+  return code != 0 ? code : m_inner.OpenFolder(kind);
+}
+
+void FaultyStore::Close() { m_inner.Close(); }
+
+ContactsFolder* FaultyStore::Contacts() { return m_inner.Contacts() ? m_contacts.get() : nullptr; }
+
+CalendarFolder* FaultyStore::Calendar() { return m_inner.Calendar(); }
+
+std::unique_ptr<StoreTransaction> FaultyStore::Begin() { return m_inner.Begin(); }
+
+qint64 FaultyStore::Changes() { return m_inner.Changes(); }
+
+QString FaultyStore::LastError() const { return m_inner.LastError(); }
+
+}  // namespace quill::driver

@@ -1,0 +1,39 @@
+#include "driver/Operations.h"
+
+#include <algorithm>
+
+namespace quill::driver {
+
+namespace {
+
+void Append(OperationTable& table, OperationTable group) {
+  std::move(group.begin(), group.end(), std::back_inserter(table));
+}
+
+}  // namespace
+
+OperationTable AllOperations() {
+  OperationTable table;
+  Append(table, PenOperations());
+  Append(table, KeyOperations());
+  Append(table, CommandOperations());
+  Append(table, PopupOperations());
+  Append(table, WindowOperations());
+  Append(table, ControlOperations());
+  Append(table, PaintOperations());
+  Append(table, ListOperations());
+  Append(table, StoreOperations());
+  Append(table, DeviceOperations());
+  return table;
+}
+
+Answer RunOperation(const OperationTable& table, const Request& request,
+                    OperationContext& context) {
+  const auto found = std::find_if(table.begin(), table.end(), [&](const Operation& operation) {
+    return operation.Name == request.Operation;
+  });
+  if (found == table.end()) return Refusal(kUnknownOperation);
+  return found->Run(request.Arguments, context);
+}
+
+}  // namespace quill::driver

@@ -1,0 +1,36 @@
+// The driver's command line.
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+#include "driver/FaultTable.h"
+#include "platform/Scale.h"
+
+namespace quill::driver {
+
+struct NamedFault {
+  QString Name;
+  Fault What;
+};
+
+struct Options {
+  QString Home;  // empty: a fresh temporary one
+  std::optional<QDateTime> Now;
+  quill::Scale Scale{4};
+  std::vector<NamedFault> Faults;
+};
+
+struct ParsedOptions {
+  driver::Options Options;
+  QString Problem;  // empty: none
+};
+
+// arguments: without the program's own name.
+ParsedOptions ParseOptions(const QStringList& arguments);
+
+}  // namespace quill::driver

@@ -1,0 +1,110 @@
+// contacts, contact, put, drop-contact, notify: the store's back door, and the notice that the
+// program gets of it.
+#include <QJsonArray>
+
+#include "app/ui/MainFrame.h"
+#include "driver/Arguments.h"
+#include "driver/ContactJson.h"
+#include "driver/Operations.h"
+#include "driver/RawDates.h"
+#include "driver/Steps.h"
+#include "driver/Targets.h"
+#include "resources/Ids.h"
+
+namespace quill::driver {
+
+namespace {
+
+constexpr int kOthersChange = 0;  // a notice's first parameter: not the program's own change
+
+using FolderAction = Answer (*)(const QJsonObject& arguments, ContactsFolder& folder,
+                                OperationContext& context);
+
+// An operation on the open contacts folder.
+Handler OnFolder(FolderAction action) {
+  return [action](const QJsonObject& arguments, OperationContext& context) {
+    ContactsFolder* folder = context.Store.Contacts();
+    return folder ? action(arguments, *folder, context) : Refusal(u"no store");
+  };
+}
+
+void Notify(OperationContext& context, int message, int first) {
+  context.Steps.Add([message, first] {
+    if (CMainFrame* frame = FindMainFrame()) frame->PostStoreMessage(message, first, 0);
+  });
+}
+
+void NotifyUnlessQuiet(const QJsonObject& arguments, OperationContext& context) {
+  if (!IsSet(arguments, u"quiet")) Notify(context, kMessageItemWritten, kOthersChange);
+}
+
+Answer Contacts(const QJsonObject&, ContactsFolder& folder, OperationContext&) {
+  QJsonArray array;
+  const ContactCollection all = folder.Items();
+  const int count = folder.Count(all);
+  for (int position = 1; position <= count; ++position) {
+    const Oid oid = folder.OidAt(all, position);
+    ContactItem item;
+    if (!folder.Read(oid, item)) return Refusal(u"not read");
+    array.append(
+        QJsonObject{{QStringLiteral("oid"), oid}, {QStringLiteral("fields"), FieldsJson(item)}});
+  }
+  return Result(u"contacts", array);
+}
+
+Answer Contact(const QJsonObject& arguments, ContactsFolder& folder, OperationContext& context) {
+  const std::optional<int> oid = WholeNumber(arguments, u"oid");
+  if (!oid) return Refusal(kMalformed);
+  ContactItem item;
+  if (!folder.Read(*oid, item)) return Refusal(kUnknown);
+  QJsonObject fields = FieldsJson(item);
+  if (IsSet(arguments, u"raw")) {
+    const QJsonObject dates = ReadRawDates(context.StoreFile, *oid);
+    for (auto date = dates.begin(); date != dates.end(); ++date)
+      fields.insert(date.key(), date.value());
+  }
+  return Result(u"fields", fields);
+}
+
+Answer Put(const QJsonObject& arguments, ContactsFolder& folder, OperationContext& context) {
+  const Oid oid = WholeNumber(arguments, u"oid").value_or(0);
+  const QJsonObject fields = arguments.value(u"fields").toObject();
+  ContactItem item;
+  if (oid != 0) {
+    if (!folder.Read(oid, item)) return Refusal(kUnknown);
+    KeepStoredDates(fields, item.Record);
+  }
+  if (!PutFields(fields, item)) return Refusal(kMalformed);
+  const Oid written = folder.SaveWhole(oid, item);
+  if (written == 0) return Refusal(u"not written");
+  NotifyUnlessQuiet(arguments, context);
+  return Result(u"oid", written);
+}
+
+Answer DropContact(const QJsonObject& arguments, ContactsFolder& folder,
+                   OperationContext& context) {
+  const std::optional<int> oid = WholeNumber(arguments, u"oid");
+  if (!oid) return Refusal(kMalformed);
+  if (!folder.Remove(*oid)) return Refusal(kUnknown);
+  NotifyUnlessQuiet(arguments, context);
+  return Done();
+}
+
+Answer SendNotice(const QJsonObject& arguments, OperationContext& context) {
+  const std::optional<int> first = WholeNumber(arguments, u"param");
+  if (!first) return Refusal(kMalformed);
+  Notify(context, WholeNumber(arguments, u"message").value_or(kMessageItemWritten), *first);
+  return Done();
+}
+
+}  // namespace
+
+OperationTable StoreOperations() {
+  return {
+      {u"contacts", OnFolder(Contacts)}, {u"contact", OnFolder(Contact)},
+      {u"put", OnFolder(Put)},           {u"drop-contact", OnFolder(DropContact)},
+      {u"notify", SendNotice},
+  };
+}
+
+}  // namespace quill::driver

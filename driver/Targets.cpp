@@ -1,0 +1,96 @@
+#include "driver/Targets.h"
+
+#include <QApplication>
+
+#include "app/ui/MainFrame.h"
+#include "driver/Arguments.h"
+#include "list/ui/ContactListCtrl.h"
+#include "list/ui/ContactsView.h"
+#include "platform/ui/Dialog.h"
+#include "platform/ui/MenuPopup.h"
+#include "platform/ui/Screen.h"
+
+namespace quill::driver {
+
+namespace {
+
+template <typename Found>
+Found* FindBelowScreen() {
+  const CScreen* screen = FindScreen();
+  return screen ? screen->findChild<Found*>() : nullptr;
+}
+
+std::optional<Target> Whole(QWidget* window) {
+  if (window == nullptr) return std::nullopt;
+  return Target{window, window->rect()};
+}
+
+std::optional<Target> FindControl(int id) {
+  const CWindow* topmost = FindTopmost();
+  return Whole(topmost ? topmost->Control(id) : nullptr);
+}
+
+// The uppermost window above the frame, the card included.
+std::optional<Target> FindTop() {
+  const CScreen* screen = FindScreen();
+  if (screen == nullptr || screen->Windows().empty()) return std::nullopt;
+  CWindow* top = screen->Windows().back();
+  if (top->Kind() == WindowKind::Frame) return std::nullopt;
+  return ClientOf(*top);
+}
+
+}  // namespace
+
+CScreen* FindScreen() {
+  for (const QWidget* window : QApplication::topLevelWidgets())
+    if (auto* screen = window->findChild<CScreen*>()) return screen;
+  return nullptr;
+}
+
+CMainFrame* FindMainFrame() { return FindBelowScreen<CMainFrame>(); }
+
+QWidget* FindView() { return FindBelowScreen<CContactsView>(); }
+
+CContactListCtrl* FindList() { return FindBelowScreen<CContactListCtrl>(); }
+
+CWindow* FindTopmost() {
+  const CScreen* screen = FindScreen();
+  return screen ? screen->Topmost() : nullptr;
+}
+
+CMenuPopup* FindPopup() {
+  const CScreen* screen = FindScreen();
+  return screen ? screen->Popup() : nullptr;
+}
+
+Target ClientOf(CWindow& window) {
+  const bool captioned = window.Size() == WindowSize::Small && qobject_cast<CDialog*>(&window);
+  return {&window, window.rect().adjusted(0, captioned ? kSmallCaptionHeight : 0, 0, 0)};
+}
+
+std::optional<Target> FindTarget(const QJsonValue& on) {
+  if (const std::optional<int> id = WholeNumber(on)) return FindControl(*id);
+  const QString name = on.toString(QStringLiteral("screen"));
+  if (name == u"screen") return Whole(FindScreen());
+  if (name == u"view") return Whole(FindView());
+  if (name == u"list") return Whole(FindList());
+  if (name == u"top") return FindTop();
+  return std::nullopt;
+}
+
+QRect OnScreen(const Target& target) {
+  return {OnScreen(target, QPoint(0, 0)), target.Client.size()};
+}
+
+QPoint OnScreen(const Target& target, QPoint inClient) {
+  return target.Window->mapTo(FindScreen(), target.Client.topLeft() + inClient);
+}
+
+void CloseOuterWindow() {
+  if (const CScreen* screen = FindScreen())
+    screen->window()->close();
+  else
+    QCoreApplication::quit();
+}
+
+}  // namespace quill::driver

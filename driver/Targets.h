@@ -1,0 +1,47 @@
+// Finds the program's windows from outside: the screen among the top-level widgets, everything else
+// below it. A pointer is null while there is no such window.
+#pragma once
+
+#include <QJsonValue>
+#include <QPoint>
+#include <QRect>
+#include <QWidget>
+
+#include <optional>
+
+namespace quill {
+class CContactListCtrl;
+class CMainFrame;
+class CMenuPopup;
+class CScreen;
+class CWindow;
+}  // namespace quill
+
+namespace quill::driver {
+
+CScreen* FindScreen();
+CMainFrame* FindMainFrame();
+QWidget* FindView();
+CContactListCtrl* FindList();
+// The window that commands, keys and controls mean.
+CWindow* FindTopmost();
+// The popup menu that was opened first, when submenus of it are open.
+CMenuPopup* FindPopup();
+
+// A window and the part of it that is its client area, in logical pixels of the window.
+struct Target {
+  QWidget* Window = nullptr;
+  QRect Client = {};
+};
+Target ClientOf(CWindow& window);
+// What "on" names; the screen without it. Nothing when there is no such window just now.
+std::optional<Target> FindTarget(const QJsonValue& on);
+
+// Rectangles and points of the screen, in logical pixels.
+QRect OnScreen(const Target& target);
+QPoint OnScreen(const Target& target, QPoint inClient);
+
+// What the desktop's close button does.
+void CloseOuterWindow();
+
+}  // namespace quill::driver
