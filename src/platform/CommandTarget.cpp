@@ -16,9 +16,10 @@ std::vector<const CommandRow*> CommandRoute::Rows(int id) const {
 
 CommandState CommandRoute::State(int id) const {
   const auto rows = Rows(id);
+  if (rows.empty()) return {.Enabled = false};
   CommandState state;
-  state.Enabled = !rows.empty() && rows.front()->Run;
-  if (state.Enabled && rows.front()->Update) rows.front()->Update(id, state);
+  if (rows.front()->Update) rows.front()->Update(id, state);
+  state.Enabled = state.Enabled && rows.front()->Run;
   return state;
 }
 

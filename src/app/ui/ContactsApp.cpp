@@ -1,0 +1,170 @@
+#include "app/ui/ContactsApp.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QScreen>
+#include <QTimer>
+
+#include "app/RequestBus.h"
+#include "app/RequestChannel.h"
+#include "app/ui/AboutDialog.h"
+#include "app/ui/ContactsDoc.h"
+#include "app/ui/MainFrame.h"
+#include "app/ui/ShellCommands.h"
+#include "list/ui/ContactsView.h"
+#include "platform/Services.h"
+#include "platform/ui/AccessibleRows.h"
+#include "platform/ui/Look.h"
+#include "platform/ui/OuterWindow.h"
+#include "platform/ui/Screen.h"
+#include "platform/ui/ScreenPrompt.h"
+#include "resources/Strings.h"
+#include "store/ContactStore.h"
+
+namespace quill {
+
+namespace {
+
+// Kinds of a request by another program.
+constexpr int kShowContact = 1;
+constexpr int kNewContact = 2;
+
+// In desktop pixels: what the screen's logical size is at a scale of one.
+QSize DesktopPixels(QSize logical, Scale scale) { return logical * scale.Quarters / 4; }
+
+}  // namespace
+
+CContactsApp::CContactsApp(Program& program, const ShellStart& start)
+    : m_program(program),
+      m_start(start),
+      m_settings(ReadShellSettings(*g_services.Registry)),
+      m_outer(std::make_unique<COuterWindow>()) {
+  SetUpLook(*qApp);
+  InstallAccessibleRows();
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.fennick.Quill"));
+  g_services.Timers = &m_timers;
+  m_screen = new CScreen(m_outer.get());
+  m_prompt = std::make_unique<ScreenPrompt>(*m_screen);
+  g_services.Prompt = m_prompt.get();
+  m_commands = std::make_unique<ShellCommands>(*this);
+  m_screen->SetShellCommands(m_commands.get());
+  m_screen->Closed = [this] { Leave({}); };
+  m_outer->SetScreen(m_screen);
+  m_outer->CloseAsked = [this] { m_screen->CloseAll(); };
+}
+
+CContactsApp::~CContactsApp() {
+  m_bus.reset();
+  m_channel.reset();
+  m_frame.reset();
+  m_outer.reset();
+  g_services.Prompt = nullptr;
+  g_services.Timers = nullptr;
+}
+
+ShellEnd CContactsApp::Run() {
+  const Scale fitted = FittedScale();
+  if (fitted != m_start.At) return {0, fitted};
+  InitInstance();
+  if (!m_screen->IsClosing()) QApplication::exec();
+  return m_end;
+}
+
+Scale CContactsApp::FittedScale() const {
+  if (m_start.Origin != ScaleOrigin::Remembered) return m_start.At;
+  const QScreen* const screen = QGuiApplication::primaryScreen();
+  if (m_settings.FullScreen)
+    return LargestFitting(DesktopPixels(screen->size(), m_start.At));
+  return FitScale(m_start.At, DesktopPixels(screen->availableSize(), m_start.At));
+}
+
+void CContactsApp::InitInstance() {
+  m_document = std::make_unique<CContactsDoc>();
+  m_frame = std::make_unique<CMainFrame>(*m_screen, *m_commands);
+  m_frame->show();
+  if (m_program.TakeFirstStart()) {
+    m_outer->setWindowTitle(kApplicationTitle.toString());
+    m_frame->View().OnInitialUpdate(m_program.Store());
+  } else {
+    m_frame->View().ShowState();
+  }
+  if (!m_screen->IsClosing()) ShowMainWindow();
+}
+
+void CContactsApp::ShowMainWindow() {
+  m_outer->setWindowTitle(kApplicationTitle.toString());
+  m_outer->setWindowIcon(QIcon::fromTheme(QGuiApplication::desktopFileName()));
+  m_settings.FullScreen ? m_outer->ShowOnFullScreen() : m_outer->ShowWindowed();
+  m_outer->raise();
+  m_outer->activateWindow();
+  m_frame->View().FocusList();
+  if (g_store.Provider) m_frame->WatchStore(*g_store.Provider);
+  Listen();
+}
+
+void CContactsApp::Listen() {
+  const RequestHandler handler = [this](const Request& request) { return HandleRequest(request); };
+  if (m_program.IsInstance()) {
+    m_channel = std::make_unique<RequestChannel>(RequestSocket(m_program.Where()), handler);
+    m_channel->Listen();
+    m_bus = std::make_unique<RequestBus>(handler);
+    QTimer::singleShot(0, m_bus.get(), [this] { m_bus->JoinSession(); });
+  }
+  QTimer::singleShot(0, m_frame.get(), [this, handler] { m_program.HandleFirstRequest(handler); });
+}
+
+bool CContactsApp::HandleRequest(const Request& request) {
+  m_outer->raise();
+  m_outer->activateWindow();
+  switch (request.Kind) {
+    case RequestKind::Activate:
+      return true;
+    case RequestKind::Show:
+      return m_frame->CopyData(kShowContact, request.Text);
+    case RequestKind::New:
+      return m_frame->CopyData(kNewContact, request.Text);
+    case RequestKind::Open:
+      return false;
+  }
+  Q_UNREACHABLE();
+}
+
+void CContactsApp::ShowAbout() { CAboutDialog(*m_screen).DoModal(); }
+
+bool CContactsApp::MayChangeScale() const { return m_screen->IsIdle(); }
+
+std::optional<Scale> CContactsApp::LargerScale() const {
+  const QSize available = QGuiApplication::primaryScreen()->availableSize();
+  const Scale larger = StepUp(m_start.At, DesktopPixels(available, m_start.At));
+  return m_settings.FullScreen || larger == m_start.At ? std::nullopt : std::optional(larger);
+}
+
+std::optional<Scale> CContactsApp::SmallerScale() const {
+  const Scale smaller = StepDown(m_start.At);
+  return m_settings.FullScreen || smaller == m_start.At ? std::nullopt : std::optional(smaller);
+}
+
+void CContactsApp::ChangeScale(Scale scale) {
+  m_settings.WindowScale = scale;
+  WriteShellSettings(*g_services.Registry, m_settings);  // a failure is logged: the scale changes
+  Leave({0, scale});
+}
+
+void CContactsApp::ToggleFullScreen() {
+  m_settings.FullScreen = !m_settings.FullScreen;
+  WriteShellSettings(*g_services.Registry, m_settings);  // a failure is logged: the screen changes
+  const QScreen* const screen = QGuiApplication::primaryScreen();
+  const Scale next =
+      m_settings.FullScreen
+          ? LargestFitting(DesktopPixels(screen->size(), m_start.At))
+          : FitScale(m_settings.WindowScale, DesktopPixels(screen->availableSize(), m_start.At));
+  Leave({0, next});
+}
+
+void CContactsApp::Leave(const ShellEnd& end) {
+  m_end = end;
+  QApplication::exit(end.ExitCode);
+}
+
+}  // namespace quill

@@ -1,0 +1,45 @@
+#include "app/ui/RunShell.h"
+
+#include <QApplication>
+
+#include "app/Program.h"
+#include "app/ui/ContactsApp.h"
+#include "platform/Services.h"
+#include "store/ContactStore.h"
+
+namespace quill {
+
+namespace {
+
+ShellStart FirstStart(const Program& program) {
+  if (const auto asked = program.AskedScale()) return {*asked, ScaleOrigin::Asked};
+  return {ReadShellSettings(*g_services.Registry).WindowScale, ScaleOrigin::Remembered};
+}
+
+void PrepareEnvironment(Scale scale) {
+  qputenv("QT_SCALE_FACTOR", ScaleText(scale).toLatin1());
+  // Raster windows need no graphics buffers: without them a start under Wayland is twice as fast.
+  if (qEnvironmentVariableIsEmpty("QT_WAYLAND_CLIENT_BUFFER_INTEGRATION"))
+    qputenv("QT_WAYLAND_CLIENT_BUFFER_INTEGRATION", "none");
+}
+
+ShellEnd RunOnce(Program& program, const ShellStart& start, int& argc, char** argv) {
+  PrepareEnvironment(start.At);
+  const QApplication application(argc, argv);
+  return CContactsApp(program, start).Run();
+}
+
+}  // namespace
+
+int RunShell(Program& program, int& argc, char** argv) {
+  ShellStart start = FirstStart(program);
+  ShellEnd end = RunOnce(program, start, argc, argv);
+  while (end.NextScale) {
+    start = {*end.NextScale, ScaleOrigin::Settled};
+    end = RunOnce(program, start, argc, argv);
+  }
+  CloseSession();
+  return end.ExitCode;
+}
+
+}  // namespace quill

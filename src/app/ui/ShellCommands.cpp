@@ -1,0 +1,35 @@
+#include "app/ui/ShellCommands.h"
+
+#include "app/ui/ContactsApp.h"
+#include "resources/Ids.h"
+
+namespace quill {
+
+namespace {
+
+using ScaleChoice = std::optional<Scale> (CContactsApp::*)() const;
+
+CommandRow ScaleRow(int id, CContactsApp& application, ScaleChoice choose) {
+  return {id, id,
+          [&application, choose](int) { application.ChangeScale(*(application.*choose)()); },
+          [&application, choose](int, CommandState& state) {
+            state.Enabled = application.MayChangeScale() && (application.*choose)().has_value();
+          }};
+}
+
+}  // namespace
+
+ShellCommands::ShellCommands(CContactsApp& application)
+    : CommandTarget({
+          {ID_APP_ABOUT, ID_APP_ABOUT, [&application](int) { application.ShowAbout(); }, nullptr},
+          ScaleRow(ID_SHELL_LARGER, application, &CContactsApp::LargerScale),
+          ScaleRow(ID_SHELL_SMALLER, application, &CContactsApp::SmallerScale),
+          {ID_SHELL_FULL_SCREEN, ID_SHELL_FULL_SCREEN,
+           [&application](int) { application.ToggleFullScreen(); },
+           [&application](int, CommandState& state) {
+             state.Enabled = application.MayChangeScale();
+             state.Checked = application.IsFullScreen();
+           }},
+      }) {}
+
+}  // namespace quill
