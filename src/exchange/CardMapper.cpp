@@ -48,7 +48,7 @@ void PlaceTexts(CardPool& pool, ContactRecord& record) {
 void PlaceNames(CardPool& pool, ContactRecord& record) {
   const CardProperty* name = pool.First(u"N");
   if (!name) return;
-  const QStringList parts = PartsOf(*name, static_cast<int>(kNameParts.size()));
+  const QStringList parts = FixedPartsOf(*name, static_cast<int>(kNameParts.size()));
   for (std::size_t i = 0; i < kNameParts.size(); ++i) {
     record[kNameParts[i]] = parts.at(static_cast<qsizetype>(i));
   }

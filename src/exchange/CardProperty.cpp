@@ -192,7 +192,7 @@ QStringList PartsOf(const CardProperty& property, QChar separator) {
   return parts;
 }
 
-QStringList PartsOf(const CardProperty& property, int count) {
+QStringList FixedPartsOf(const CardProperty& property, int count) {
   QStringList parts = PartsOf(property, u';');
   while (parts.size() < count) parts.append(QString());
   while (parts.size() > count) {
@@ -203,7 +203,7 @@ QStringList PartsOf(const CardProperty& property, int count) {
 }
 
 QByteArray BytesOf(const CardProperty& property) {
-  const QString text = property.Value.trimmed();
+  const QString text = TextOf(property).trimmed();
   if (property.Encoding == CardEncoding::Base64) return QByteArray::fromBase64(text.toLatin1());
   const qsizetype comma = text.indexOf(u',');
   const QStringView head = QStringView(text).first(std::max<qsizetype>(comma, 0));

@@ -51,7 +51,7 @@ QString TextOf(const CardProperty& property);
 QStringList PartsOf(const CardProperty& property, QChar separator);
 // Exactly count parts between semicolons: missing ones are empty, and what a careless writer has
 // beyond them belongs to the last, after "; ".
-QStringList PartsOf(const CardProperty& property, int count);
+QStringList FixedPartsOf(const CardProperty& property, int count);
 // The bytes of a base64 value or of a base64 "data:" URI; empty when it is neither.
 QByteArray BytesOf(const CardProperty& property);
 

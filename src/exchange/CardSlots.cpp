@@ -173,7 +173,7 @@ void PlaceEmails(CardPool& pool, ContactRecord& record) {
 
 void PlaceAddresses(CardPool& pool, ContactRecord& record) {
   for (const CardProperty* address : pool.All(u"ADR")) {
-    const QStringList parts = PartsOf(*address, kAddressParts);
+    const QStringList parts = FixedPartsOf(*address, kAddressParts);
     const AddressFields& fields = AddressFieldsFor(*address, record);
     const bool isEmpty = parts.join(QString()).trimmed().isEmpty();
     if (!isEmpty && !IsFree(record, fields)) continue;

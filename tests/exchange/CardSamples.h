@@ -1,0 +1,29 @@
+// The sample cards of tests/data/vcards, and cards from text.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <vector>
+
+#include "exchange/CardMapper.h"
+#include "exchange/CardReader.h"
+
+namespace quill::test {
+
+// The bytes of a file of the sample folder; the running test fails when it cannot be read.
+QByteArray SampleBytes(const QString& fileName);
+// The names of the samples, without ".vcf", sorted.
+std::vector<std::string> SampleNames();
+
+// Undeclared text that is not UTF-8 is read as Korean.
+std::vector<Card> ReadCards(const QByteArray& bytes);
+// The only card of a 3.0 file with these properties, each ended by LF.
+Card CardOf(const QByteArray& properties);
+ContactItem ContactOf(const QByteArray& properties);
+CardProperty PropertyOf(const QByteArray& line);
+
+// Every card as lines of text: where it starts, then what was made of it, field by field.
+QString Describe(const QByteArray& bytes);
+
+}  // namespace quill::test
