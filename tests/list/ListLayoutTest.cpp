@@ -1,0 +1,178 @@
+#include "list/ListLayout.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace quill {
+namespace {
+
+double TenEach(QStringView text) { return 10.0 * static_cast<double>(text.size()); }
+
+// A page of this many rows with the Oids 101, 102, ...
+ListState Page(int rows) {
+  ListState list;
+  list.Total = rows;
+  list.RowsShown = std::min(rows, list.RowsPerPage);
+  for (int n = 0; n < list.RowsShown; ++n) {
+    list.Rows[n] = {.Name = QStringLiteral("N%1").arg(n),
+                    .Company = QStringLiteral("C%1").arg(n),
+                    .Text = QStringLiteral("T%1").arg(n),
+                    .Icon = RowIconKind::None,
+                    .Oid = 101 + n,
+                    .Position = n};
+  }
+  return list;
+}
+
+std::vector<PaintedRow> LayOut(const ListState& list, std::vector<Oid> selected = {},
+                               int currentRow = -1) {
+  return LayOutList(list, selected, currentRow, TenEach);
+}
+
+std::vector<PaintedItem> TextsOf(const PaintedRow& row) {
+  std::vector<PaintedItem> texts;
+  for (const PaintedItem& item : row.Items)
+    if (!item.Text.isEmpty()) texts.push_back(item);
+  return texts;
+}
+
+// The colours that fill a rectangle of the row.
+std::vector<Rgb> FillsOf(const PaintedRow& row, QRect rectangle) {
+  std::vector<Rgb> fills;
+  for (const PaintedItem& item : row.Items)
+    if (item.Fill && item.Rectangle == rectangle) fills.push_back(*item.Fill);
+  return fills;
+}
+
+TEST(ListLayout, RowsAreSixteenPixelsHighAndAsWideAsTheList) {
+  const std::vector<PaintedRow> rows = LayOut(Page(14));
+  ASSERT_EQ(rows.size(), 14U);
+  for (int n = 0; n < 14; ++n) {
+    EXPECT_EQ(rows[n].Rectangle, QRect(0, 16 * n, 225, 16));
+    EXPECT_EQ(rows[n].Key, 101 + n);
+    EXPECT_EQ(rows[n].Role, PaintedRole::ListItem);
+  }
+}
+
+TEST(ListLayout, ByNameTheColumnsAreNameAndSecondText) {
+  const std::vector<PaintedItem> texts = TextsOf(LayOut(Page(3))[2]);
+  ASSERT_EQ(texts.size(), 2U);
+  EXPECT_EQ(texts[0].Text, QStringLiteral("N2"));
+  EXPECT_EQ(texts[0].Rectangle, QRect(5, 32, 75, 16));
+  EXPECT_EQ(texts[1].Text, QStringLiteral("T2"));
+  EXPECT_EQ(texts[1].Rectangle, QRect(85, 32, 110, 16));
+  for (const PaintedItem& text : texts) {
+    EXPECT_EQ(text.Color, 0x000000U);
+    EXPECT_EQ(text.Alignment, TextAlign::Left);
+  }
+}
+
+TEST(ListLayout, ByCompanyTheColumnsAreCompanyAndName) {
+  ListState list = Page(1);
+  list.Mode = ViewMode::ByCompany;
+  const std::vector<PaintedItem> texts = TextsOf(LayOut(list)[0]);
+  ASSERT_EQ(texts.size(), 2U);
+  EXPECT_EQ(texts[0].Text, QStringLiteral("C0"));
+  EXPECT_EQ(texts[1].Text, QStringLiteral("N0"));
+}
+
+TEST(ListLayout, ByCompanyAContactWithoutOneStandsUnderNone) {
+  ListState list = Page(1);
+  list.Mode = ViewMode::ByCompany;
+  list.Rows[0].Company.clear();
+  EXPECT_EQ(TextsOf(LayOut(list)[0])[0].Text, QStringLiteral("<None>"));
+}
+
+TEST(ListLayout, TheFirstColumnIsShortenedToSixtyPixelsAndTheSecondIsNot) {
+  ListState list = Page(1);
+  list.Rows[0].Name = QStringLiteral("Kimberley");
+  list.Rows[0].Text = QStringLiteral("010-1234-5678");
+  const std::vector<PaintedItem> texts = TextsOf(LayOut(list)[0]);
+  EXPECT_EQ(texts[0].Text, QStringLiteral("Kimber..."));
+  EXPECT_EQ(texts[1].Text, QStringLiteral("010-1234-5678"));
+}
+
+TEST(ListLayout, ANameOfExactlySixtyPixelsStaysWhole) {
+  ListState list = Page(1);
+  list.Rows[0].Name = QStringLiteral("Kimber");
+  EXPECT_EQ(TextsOf(LayOut(list)[0])[0].Text, QStringLiteral("Kimber"));
+}
+
+TEST(ListLayout, EveryRowHasItsSeparatorAlongTheTopAboveAllElse) {
+  const std::vector<PaintedRow> rows = LayOut(Page(3), {102});
+  for (int n = 0; n < 3; ++n) {
+    const PaintedItem& last = rows[n].Items.back();
+    EXPECT_EQ(last.Rectangle, QRect(0, 16 * n, 225, 1));
+    EXPECT_EQ(last.Fill, Rgb{0x999999});
+  }
+}
+
+TEST(ListLayout, AShortPageEndsWithOneMoreSeparatorThatIsNoContact) {
+  const std::vector<PaintedRow> rows = LayOut(Page(3));
+  ASSERT_EQ(rows.size(), 4U);
+  EXPECT_EQ(rows[3].Role, PaintedRole::Separator);
+  EXPECT_EQ(rows[3].Key, 0);
+  EXPECT_FALSE(rows[3].State & PaintedStateFlag::Selectable);
+  EXPECT_EQ(FillsOf(rows[3], QRect(0, 48, 225, 1)), std::vector<Rgb>{0x999999});
+  EXPECT_TRUE(TextsOf(rows[3]).empty());
+}
+
+TEST(ListLayout, SelectedRowsAreFilledBeforeTheirTextsAndSaySo) {
+  const std::vector<PaintedRow> rows = LayOut(Page(14), {103, 101, 999});
+  for (int n = 0; n < 14; ++n) {
+    const bool selected = n == 0 || n == 2;
+    EXPECT_EQ(rows[n].State.testFlag(PaintedStateFlag::Selected), selected) << n;
+    EXPECT_TRUE(rows[n].State.testFlag(PaintedStateFlag::Selectable)) << n;
+    EXPECT_EQ(rows[n].Items.front().Fill == Rgb{0xD6EDBA}, selected) << n;
+    EXPECT_EQ(FillsOf(rows[n], QRect(0, 16 * n, 225, 16)).size(), selected ? 1U : 0U) << n;
+  }
+}
+
+TEST(ListLayout, TheCurrentRowSaysSo) {
+  const std::vector<PaintedRow> rows = LayOut(Page(14), {}, 2);
+  for (int n = 0; n < 14; ++n)
+    EXPECT_EQ(rows[n].State.testFlag(PaintedStateFlag::Current), n == 2) << n;
+}
+
+TEST(ListLayout, RowsAreSpokenWholeHoweverShortTheyArePainted) {
+  ListState list = Page(2);
+  list.Rows[0].Name = QStringLiteral("Kimberley");
+  list.Rows[1].Text.clear();
+  const std::vector<PaintedRow> rows = LayOut(list);
+  EXPECT_EQ(rows[0].SpokenName, QStringLiteral("Kimberley, T0"));
+  EXPECT_EQ(rows[1].SpokenName, QStringLiteral("N1"));
+  list.Mode = ViewMode::ByCompany;
+  EXPECT_EQ(LayOut(list)[1].SpokenName, QStringLiteral("C1, N1"));
+}
+
+TEST(ListLayout, AnEmptyStoreShowsOneLineOnHowToAddPeople) {
+  const std::vector<PaintedRow> rows = LayOut(ListState());
+  ASSERT_EQ(rows.size(), 1U);
+  EXPECT_EQ(rows[0].Role, PaintedRole::Text);
+  EXPECT_EQ(rows[0].Key, 0);
+  EXPECT_FALSE(rows[0].State & PaintedStateFlag::Selectable);
+  const std::vector<PaintedItem> texts = TextsOf(rows[0]);
+  ASSERT_EQ(texts.size(), 1U);
+  EXPECT_EQ(texts[0].Text, rows[0].SpokenName);
+  EXPECT_TRUE(texts[0].Text.contains(QStringLiteral("import")));
+  EXPECT_TRUE(QRect(0, 0, 225, 16).contains(texts[0].Rectangle));
+}
+
+TEST(ListLayout, AFilterThatFindsNobodyShowsNoSuchLine) {
+  ListState list;
+  list.Filter = FilterKind::Range;
+  const std::vector<PaintedRow> rows = LayOut(list);
+  ASSERT_EQ(rows.size(), 1U);
+  EXPECT_EQ(rows[0].Role, PaintedRole::Separator);
+}
+
+TEST(ListLayout, ARowIsFoundByItsHeight) {
+  EXPECT_EQ(ListRowAt(-1), -1);
+  EXPECT_EQ(ListRowAt(0), 0);
+  EXPECT_EQ(ListRowAt(15), 0);
+  EXPECT_EQ(ListRowAt(16), 1);
+  EXPECT_EQ(ListRowAt(224), 14);
+}
+
+}  // namespace
+}  // namespace quill

@@ -1,0 +1,66 @@
+// A store over another one that counts what is asked of its contacts and fails on demand.
+#pragma once
+
+#include "store/StoreProvider.h"
+
+namespace quill::test {
+
+// What shall fail: a whole operation, or reading one contact.
+struct StoreFaults {
+  bool Restrict = false;
+  Oid ReadListRow = 0;
+};
+
+struct StoreCounts {
+  int Items = 0;
+  int Restrict = 0;
+  int ReadListRow = 0;
+
+  bool operator==(const StoreCounts&) const = default;
+};
+
+class FaultyContacts : public ContactsFolder {
+ public:
+  ContactCollection Items() override;
+  void Sort(ContactCollection& collection, ContactOrder order) override;
+  std::optional<ContactCollection> Restrict(const ContactCollection& collection,
+                                            const QString& restriction) override;
+  int Count(const ContactCollection& collection) override;
+  Oid OidAt(const ContactCollection& collection, int position) override;
+  bool ReadListRow(Oid oid, ContactRecord& record) override;
+  bool Read(Oid oid, ContactItem& item) override;
+  Oid Save(Oid oid, const ContactRecord& record, const QByteArray& bodyInk) override;
+  Oid SaveWhole(Oid oid, const ContactItem& item) override;
+  bool Remove(Oid oid) override;
+  std::vector<Oid> FindByUid(const QString& uid) override;
+  std::vector<Oid> FindByFileAs(const QString& fileAs) override;
+
+  ContactsFolder* Inner = nullptr;
+  StoreFaults Faults;
+  StoreCounts Counts;
+};
+
+class FaultyStore : public StoreProvider {
+ public:
+  // Does not own the store below.
+  explicit FaultyStore(StoreProvider& inner) : m_inner(inner) {}
+
+  int Create() override { return m_inner.Create(); }
+  int Logon() override { return m_inner.Logon(); }
+  int OpenFolder(FolderKind kind) override { return m_inner.OpenFolder(kind); }
+  void Close() override { m_inner.Close(); }
+  ContactsFolder* Contacts() override;
+  CalendarFolder* Calendar() override { return m_inner.Calendar(); }
+  std::unique_ptr<StoreTransaction> Begin() override { return m_inner.Begin(); }
+  qint64 Changes() override { return m_inner.Changes(); }
+  QString LastError() const override { return m_inner.LastError(); }
+
+  StoreFaults& Faults() { return m_contacts.Faults; }
+  StoreCounts& Counts() { return m_contacts.Counts; }
+
+ private:
+  StoreProvider& m_inner;
+  FaultyContacts m_contacts;
+};
+
+}  // namespace quill::test
