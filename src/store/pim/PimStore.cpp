@@ -45,10 +45,10 @@ class PimTransaction : public StoreTransaction {
 
 PimStore::PimStore(QString path) : m_path(std::move(path)) {}
 
-PimStore::~PimStore() { Close(); }
+PimStore::~PimStore() { Release(); }
 
 int PimStore::Create() {
-  Close();
+  Release();
   m_lastError.clear();
   if (m_path != kWithoutFile) {
     m_path = QFileInfo(m_path).absoluteFilePath();
@@ -60,7 +60,7 @@ int PimStore::Create() {
   }
   m_database = std::make_shared<Database>();
   const int code = m_database->Open(m_path);
-  if (code != 0) Close();
+  if (code != 0) Release();
   return code;
 }
 
@@ -90,7 +90,9 @@ int PimStore::OpenContacts() {
   return code;
 }
 
-void PimStore::Close() {
+void PimStore::Close() { Release(); }
+
+void PimStore::Release() {
   if (!m_database) return;
   m_lastError = m_database->FailureText();
   m_contacts.reset();

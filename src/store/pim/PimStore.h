@@ -37,6 +37,7 @@ class PimStore : public StoreProvider {
  private:
   int Refuse(int code, const QString& reason);
   int OpenContacts();
+  void Release();
 
   QString m_path;
   QString m_lastError;  // of a file that did not open, and of a store that is closed
