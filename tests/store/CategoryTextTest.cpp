@@ -1,0 +1,56 @@
+#include "store/CategoryText.h"
+
+#include <gtest/gtest.h>
+
+namespace quill {
+namespace {
+
+struct MatchCase {
+  QString Chosen;
+  QString Categories;
+  bool Matches;
+};
+
+class CategoryMatch : public testing::TestWithParam<MatchCase> {};
+
+TEST_P(CategoryMatch, ComparesTheNames) {
+  const MatchCase& match = GetParam();
+  EXPECT_EQ(CategoriesMatch(match.Chosen, match.Categories), match.Matches)
+      << match.Chosen.toStdString() << " / " << match.Categories.toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, CategoryMatch,
+    testing::Values(MatchCase{QStringLiteral("Friends"), QStringLiteral("Work, Friends"), true},
+                    MatchCase{QStringLiteral("Work"), QStringLiteral("Work,Friends"), true},
+                    MatchCase{QStringLiteral("Friends"), QStringLiteral("Work,   Friends"), true},
+                    MatchCase{QStringLiteral("friends"), QStringLiteral("Work, Friends"), false},
+                    MatchCase{QStringLiteral("Friend"), QStringLiteral("Friends"), false},
+                    MatchCase{QStringLiteral("Friends"), QStringLiteral("Friend"), false},
+                    MatchCase{QStringLiteral("Friends"), QStringLiteral("Friends "), false},
+                    MatchCase{QStringLiteral("Old Friends"), QStringLiteral("Old Friends"), true},
+                    MatchCase{QStringLiteral("Work, Club"), QStringLiteral("Family, Club"), true},
+                    MatchCase{QStringLiteral("Work,Club"), QStringLiteral("Family"), false},
+                    MatchCase{QStringLiteral("동창회"), QStringLiteral("회사, 동창회"), true},
+                    MatchCase{QString(), QString(), true},
+                    MatchCase{QString(), QStringLiteral("Work"), false},
+                    MatchCase{QString(), QStringLiteral(" "), false},
+                    MatchCase{QStringLiteral("Work"), QString(), false},
+                    MatchCase{QStringLiteral("Work,"), QStringLiteral("Club,"), false},
+                    MatchCase{QStringLiteral(","), QString(), false}));
+
+TEST(CategoryText, SplitsAtCommasAndSkipsLeadingBlanks) {
+  EXPECT_EQ(SplitCategories(u"Work,  Old Friends ,,  , Club"),
+            QStringList(
+                {QStringLiteral("Work"), QStringLiteral("Old Friends "), QStringLiteral("Club")}));
+  EXPECT_TRUE(SplitCategories(u"").isEmpty());
+}
+
+TEST(CategoryText, JoinsWithACommaAndABlank) {
+  EXPECT_EQ(JoinCategories({QStringLiteral("Work"), QStringLiteral("Club")}),
+            QStringLiteral("Work, Club"));
+  EXPECT_EQ(JoinCategories({}), QString());
+}
+
+}  // namespace
+}  // namespace quill

@@ -1,0 +1,50 @@
+// A real store on a file of its own, opened in its four steps; the file goes with the fixture.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "store/pim/PimStore.h"
+
+namespace quill::test {
+
+// The code of the first step that fails, 0 when all four succeed.
+inline int OpenAll(StoreProvider& store) {
+  if (const int code = store.Create()) return code;
+  if (const int code = store.Logon()) return code;
+  if (const int code = store.OpenFolder(FolderKind::Contacts)) return code;
+  return store.OpenFolder(FolderKind::Calendar);
+}
+
+class TemporaryStore : public testing::Test {
+ protected:
+  TemporaryStore() : m_store(Path()) {}
+
+  void SetUp() override { ASSERT_EQ(OpenAll(m_store), 0) << m_store.LastError().toStdString(); }
+
+  QString Path() const { return m_folder.filePath(QStringLiteral("store.db")); }
+  ContactsFolder& Contacts() { return *m_store.Contacts(); }
+
+  // A contact with this FileAs and nothing else.
+  Oid Add(const QString& fileAs) {
+    ContactRecord record;
+    record[ContactField::FileAs] = fileAs;
+    return Contacts().Save(0, record, {});
+  }
+
+  QTemporaryDir m_folder;
+  PimStore m_store;
+};
+
+// The names in a collection, in its order.
+inline QStringList Names(ContactsFolder& folder, const ContactCollection& collection) {
+  QStringList names;
+  for (int position = 1; const Oid oid = folder.OidAt(collection, position); ++position) {
+    ContactRecord record;
+    if (folder.ReadListRow(oid, record)) names.append(record[ContactField::FileAs]);
+  }
+  return names;
+}
+
+}  // namespace quill::test
