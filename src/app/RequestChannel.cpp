@@ -114,6 +114,7 @@ QString RequestChannel::Answer(const QByteArray& line) const {
 RequestOutcome SendRequest(const QString& socket, const Request& request,
                            std::chrono::milliseconds patience) {
   const QByteArray line = WriteRequest(request);
+  if (line.size() > kRequestLineLimit) return RequestOutcome::Refused;
   const QDeadlineTimer deadline(patience);
   do {
     const RequestOutcome outcome = TryOnce(socket, line, deadline);

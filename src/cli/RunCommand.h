@@ -1,0 +1,15 @@
+// Everything the command line can ask for but a window.
+#pragma once
+
+#include <QProcessEnvironment>
+
+#include "cli/CommandLine.h"
+#include "cli/Console.h"
+
+namespace quill {
+
+// For every kind of line but Window. Returns the process' exit code.
+int RunCommand(const CommandLine& line, const QProcessEnvironment& environment,
+               const Console& console);
+
+}  // namespace quill

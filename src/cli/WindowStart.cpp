@@ -1,0 +1,91 @@
+#include "cli/WindowStart.h"
+
+#include <utility>
+
+#include "app/RequestChannel.h"
+#include "cli/ImportVerb.h"
+#include "cli/PrepareHome.h"
+
+namespace quill {
+namespace {
+
+bool HasDisplay(const QProcessEnvironment& environment) {
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "WAYLAND_SOCKET", "QT_QPA_PLATFORM"}) {
+    if (!environment.value(QString::fromLatin1(name)).isEmpty()) return true;
+  }
+  return false;
+}
+
+void ExplainMissingDisplay(const Console& console) {
+  Complain(console, QStringLiteral("there is no display to open a window on"));
+  console.Err
+      << "A picture of it all the same, by the program without a screen:\n\n"
+         "  echo '{\"op\":\"screenshot\",\"file\":\"quill.png\",\"scale\":2}' | quill-driver\n\n"
+         "Or a screen that is not there, seen through ssh. On this machine:\n\n"
+         "  Xvfb :5 -screen 0 1024x800x24 -nolisten tcp &\n"
+         "  DISPLAY=:5 quill &\n"
+         "  x11vnc -display :5 -localhost -rfbport 5905 -forever\n\n"
+         "and on yours:\n\n"
+         "  ssh -L 5905:localhost:5905 THIS-MACHINE\n"
+         "  vncviewer localhost:5905\n\n"
+         "Commands such as \"quill import FILE\" need no display."
+      << Qt::endl;
+}
+
+// Done when there was nothing to bring in.
+bool BringIn(const CommandLine& line, const Places& places, const Console& console) {
+  if (line.Arguments.isEmpty()) return true;
+  return RunImport({places, line.Arguments, line.AsJson}, console) != kExitFailed;
+}
+
+int HandOver(const Request& request, RequestOutcome outcome, const Console& console) {
+  if (outcome == RequestOutcome::Done) return kExitDone;
+  if (outcome == RequestOutcome::Unreached) {
+    Complain(console, QStringLiteral("a window of this home is open, but does not answer"));
+    return kExitFailed;
+  }
+  Complain(console, request.Kind == RequestKind::Activate
+                        ? QStringLiteral("the open window could not come to the front")
+                        : QStringLiteral("the open window could not do it"));
+  return kExitPartly;
+}
+
+WindowStart Ended(int exitCode) { return {nullptr, exitCode}; }
+
+WindowStart OpenOrHandOver(const CommandLine& line, const Places& places, const Console& console) {
+  auto lock = std::make_unique<InstanceLock>(places.StateFolder);
+  LockOutcome taken = lock->Take();
+  RequestOutcome sent = RequestOutcome::Unreached;
+  const Request request = line.FirstRequest.value_or(Request());
+  if (taken == LockOutcome::HeldByOther) {
+    sent = SendRequest(RequestSocket(places), request);
+    // Nobody there may mean that the window was closing, and its lock is free now.
+    if (sent == RequestOutcome::Unreached) taken = lock->Take();
+  }
+  if (taken == LockOutcome::HeldByOther) return Ended(HandOver(request, sent, console));
+  if (taken == LockOutcome::Failed) {
+    Complain(console, lock->Reason());
+    return Ended(kExitFailed);
+  }
+  ProgramOptions options;
+  options.Where = places;
+  options.AskedScale = line.AskedScale;
+  options.Lock = std::move(lock);
+  options.FirstRequest = line.FirstRequest;
+  return {std::make_unique<Program>(std::move(options)), kExitDone};
+}
+
+}  // namespace
+
+WindowStart StartWindow(const CommandLine& line, const QProcessEnvironment& environment,
+                        const Console& console) {
+  if (!HasDisplay(environment)) {
+    ExplainMissingDisplay(console);
+    return Ended(kExitFailed);
+  }
+  const auto places = PrepareHome(line, environment, console);
+  if (!places || !BringIn(line, *places, console)) return Ended(kExitFailed);
+  return OpenOrHandOver(line, *places, console);
+}
+
+}  // namespace quill

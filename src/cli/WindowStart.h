@@ -1,0 +1,25 @@
+// From a command line without a command to a program whose window may open: or to a word to the
+// window of this home that is open already.
+#pragma once
+
+#include <QProcessEnvironment>
+
+#include <memory>
+
+#include "app/Program.h"
+#include "cli/CommandLine.h"
+#include "cli/Console.h"
+
+namespace quill {
+
+struct WindowStart {
+  std::unique_ptr<Program> Running;  // null: no window is to open
+  int ExitCode = 0;                  // of the process, then
+};
+
+// Brings the line's files in first; a file that cannot be read ends the start. A window that is
+// open gets the line's request, or is asked to come to the front. Needs an application object.
+WindowStart StartWindow(const CommandLine& line, const QProcessEnvironment& environment,
+                        const Console& console);
+
+}  // namespace quill

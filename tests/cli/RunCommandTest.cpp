@@ -1,0 +1,40 @@
+#include "cli/RunCommand.h"
+
+#include <QFileInfo>
+
+#include <gmock/gmock.h>
+
+#include "cli/ConsoleFixture.h"
+
+namespace quill {
+namespace {
+
+class RunCommandOn : public test::ConsoleFixture {};
+
+TEST_F(RunCommandOn, AWrongLineComplainsAndFails) {
+  EXPECT_EQ(Run({u"--nonsense"_qs}), kExitFailed);
+  EXPECT_EQ(TakeErr(), "quill: unknown option --nonsense\nquill --help says what there is\n");
+  EXPECT_EQ(TakeOut(), "");
+  EXPECT_FALSE(QFileInfo::exists(Home())) << "nothing is made for it";
+}
+
+TEST_F(RunCommandOn, HelpAndVersionPrintAndMakeNothing) {
+  EXPECT_EQ(Run({u"--help"_qs}), kExitDone);
+  EXPECT_EQ(TakeOut(), HelpText(nullptr).toStdString());
+  EXPECT_EQ(Run({u"--version"_qs}), kExitDone);
+  EXPECT_EQ(TakeOut(), "Quill (Quillbook) " QUILL_VERSION "\n");
+  EXPECT_FALSE(QFileInfo::exists(Home()));
+}
+
+TEST_F(RunCommandOn, ADemoKeepsToAHomeOfItsOwn) {
+  QProcessEnvironment environment;
+  environment.insert(u"XDG_DATA_HOME"_qs, m_folder.filePath(u"data"_qs));
+  EXPECT_EQ(RunCommand(ParseCommandLine({u"--demo"_qs, u"list"_qs}), environment, m_console),
+            kExitDone);
+  EXPECT_THAT(TakeOut(), testing::HasSubstr("Abernathy, Alice\n"));
+  EXPECT_TRUE(QFileInfo::exists(m_folder.filePath(u"data/quill/demo/store.db"_qs)));
+  EXPECT_FALSE(QFileInfo::exists(m_folder.filePath(u"data/quill/store.db"_qs)));
+}
+
+}  // namespace
+}  // namespace quill
