@@ -140,6 +140,7 @@ bad machine-paths docs/notes.md "Look into /ho""me/somebody/quill."
 bad machine-paths tools/look "cd /wo""rk/main"
 # shellcheck disable=SC2016
 fine machine-paths docs/notes.md 'Look into build/release, or $HOME/.local, or http://host/home/x.'
+fine machine-paths tests/app/PlacesTest.cpp 'Expect("/home/ann", "/home/ann/.config");'
 
 bad leftovers src/list/Page.cpp "// TO""DO: sort"
 fine leftovers src/list/Page.cpp '// autodolist'
