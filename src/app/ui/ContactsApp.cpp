@@ -9,6 +9,7 @@
 #include "app/RequestChannel.h"
 #include "app/ui/AboutDialog.h"
 #include "app/ui/ContactsDoc.h"
+#include "app/ui/FileImport.h"
 #include "app/ui/MainFrame.h"
 #include "app/ui/ShellCommands.h"
 #include "list/ui/ContactsView.h"
@@ -125,7 +126,10 @@ bool CContactsApp::HandleRequest(const Request& request) {
     case RequestKind::New:
       return m_frame->CopyData(kNewContact, request.Text);
     case RequestKind::Open:
-      return false;
+      QTimer::singleShot(0, m_frame.get(), [this, files = request.Files] {
+        ImportFilesAndReport(m_program.Where(), files);
+      });
+      return true;
   }
   Q_UNREACHABLE();
 }

@@ -38,10 +38,12 @@ void CMenuBar::PenPress(QPoint at) {
 }
 
 void CMenuBar::PenMove(QPoint at) {
+  if (m_screen.Popup()) return;  // the press opened a menu: the rest of it does nothing
   if (m_pressed >= 0 && RowAt(at) != m_pressed) ShowPressed(-1);
 }
 
 void CMenuBar::PenRelease(QPoint at) {
+  if (m_screen.Popup()) return;
   const int position = RowAt(at);
   const bool same = position >= 0 && position == m_pressed;
   ShowPressed(-1);
