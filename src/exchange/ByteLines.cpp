@@ -60,7 +60,7 @@ bool ByteLines::Fill() {
     DetectWide(m_block);
   }
   if (!m_wide || m_block.isEmpty()) return !m_block.isEmpty();
-  m_block = QString((*m_wide)(m_block)).toUtf8();
+  m_block = m_toUtf8(QString((*m_wide)(m_block)));
   // A block that held only half a character decodes to nothing and is not the end.
   return m_block.isEmpty() ? Fill() : true;
 }

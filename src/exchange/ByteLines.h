@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QIODevice>
 #include <QStringDecoder>
+#include <QStringEncoder>
 
 #include <optional>
 
@@ -41,6 +42,8 @@ class ByteLines {
 
   QIODevice& m_device;
   std::optional<QStringDecoder> m_wide;  // set for UTF-16
+  // Keeps half a surrogate pair from one block to the next.
+  QStringEncoder m_toUtf8{QStringEncoder::Utf8};
   QByteArray m_block;
   qsizetype m_position = 0;  // in m_block
   qint64 m_lines = 0;

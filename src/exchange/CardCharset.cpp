@@ -37,6 +37,9 @@ constexpr std::array kCharsetNames{
     CharsetName{"ASCII", "windows-1252"},
 };
 
+// Without it a character that is cut at the end would vanish, waiting for its rest.
+constexpr auto kWholeText = QStringConverter::Flag::Stateless;
+
 QByteArray DecoderName(const QByteArray& declared) {
   const auto same = [&declared](const CharsetName& name) {
     return declared.compare(name.Declared, Qt::CaseInsensitive) == 0;
@@ -74,12 +77,12 @@ QByteArray FallbackCharset(const QLocale& locale) {
 
 QString DecodeText(QByteArrayView bytes, const QByteArray& declared, const QByteArray& fallback) {
   if (!declared.isEmpty()) {
-    QStringDecoder decoder(DecoderName(declared).constData());
+    QStringDecoder decoder(DecoderName(declared).constData(), kWholeText);
     if (decoder.isValid()) return decoder(bytes);
   }
   if (IsAscii(bytes)) return QString::fromLatin1(bytes);
   if (bytes.isValidUtf8()) return QString::fromUtf8(bytes);
-  QStringDecoder decoder(DecoderName(fallback).constData());
+  QStringDecoder decoder(DecoderName(fallback).constData(), kWholeText);
   return decoder.isValid() ? QString(decoder(bytes)) : QString::fromLatin1(bytes);
 }
 

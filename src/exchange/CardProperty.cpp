@@ -197,7 +197,7 @@ QStringList FixedPartsOf(const CardProperty& property, int count) {
   while (parts.size() < count) parts.append(QString());
   while (parts.size() > count) {
     const QString surplus = parts.takeAt(count);
-    if (!surplus.trimmed().isEmpty()) parts.last() += u"; "_qs + surplus;
+    if (!surplus.trimmed().isEmpty()) parts[count - 1] += u"; "_qs + surplus;
   }
   return parts;
 }

@@ -16,13 +16,7 @@ TEST_P(CardRules, GiveWhatTheSampleSays) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Samples, CardRules, testing::ValuesIn(SampleNames()),
-                         [](const auto& sample) {
-                           std::string name = sample.param;
-                           for (char& c : name) {
-                             if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
-                           }
-                           return name;
-                         });
+                         [](const auto& sample) { return TestNameOf(sample.param); });
 
 }  // namespace
 }  // namespace quill::test

@@ -6,6 +6,9 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
+#include <cctype>
+
 #include "store/ContactFields.h"
 
 namespace quill::test {
@@ -72,6 +75,12 @@ std::vector<std::string> SampleNames() {
     names.push_back(file.chopped(4).toStdString());
   }
   return names;
+}
+
+std::string TestNameOf(std::string name) {
+  const auto isOther = [](unsigned char c) { return !std::isalnum(c); };
+  std::replace_if(name.begin(), name.end(), isOther, '_');
+  return name;
 }
 
 std::vector<Card> ReadCards(const QByteArray& bytes) {

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <string>
 #include <vector>
 
 #include "exchange/CardMapper.h"
@@ -15,6 +16,8 @@ namespace quill::test {
 QByteArray SampleBytes(const QString& fileName);
 // The names of the samples, without ".vcf", sorted.
 std::vector<std::string> SampleNames();
+// The name as a part of a test's name: letters, digits and underscores.
+std::string TestNameOf(std::string name);
 
 // Undeclared text that is not UTF-8 is read as Korean.
 std::vector<Card> ReadCards(const QByteArray& bytes);
