@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QPainter>
+#include <QScreen>
 
 #include "platform/ScreenLayout.h"
 
@@ -29,6 +30,7 @@ void COuterWindow::ShowWindowed() {
 void COuterWindow::ShowOnFullScreen() {
   setMinimumSize(kScreenWidth, kScreenHeight);
   setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  setGeometry(screen()->geometry());  // where no window manager does it
   showFullScreen();
 }
 
