@@ -6,6 +6,7 @@
 #include "list/ListLayout.h"
 #include "list/PageBuilding.h"
 #include "platform/ui/RowPainter.h"
+#include "store/ContactStore.h"
 
 namespace quill {
 
@@ -22,7 +23,10 @@ CContactListCtrl::CContactListCtrl(QWidget* view) : CPaintedWindow(view, QAccess
   SetBackground(kListBackground);
 }
 
-void CContactListCtrl::ShowPage() { SetRows(LayOutList(g_list, {}, -1, NormalTextWidth())); }
+void CContactListCtrl::ShowPage() {
+  if (!g_store.Provider) return SetRows({});  // without a store nobody can be added
+  SetRows(LayOutList(g_list, {}, -1, NormalTextWidth()));
+}
 
 void CContactListCtrl::Ask(ScrollRequest request, int thumb) {
   if (ScrollAsked) ScrollAsked(request, thumb);
