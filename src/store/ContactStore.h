@@ -54,8 +54,8 @@ struct ContactSelector {
 };
 
 // Each returns the contact's Oid, or 0 and the record untouched. ReadContact also replaces
-// g_contactInk; ReadListRow fills the list-row fields only, clears the others and leaves the ink
-// be.
+// g_contactInk, with nothing when it reads nothing; ReadListRow fills the list-row fields only,
+// clears the others and leaves the ink be.
 Oid ReadContact(const ContactSelector& selector, ContactRecord& record);
 Oid ReadListRow(const ContactSelector& selector, ContactRecord& record);
 void ReadNewContactDefaults(ContactRecord& record);

@@ -110,6 +110,21 @@ TEST_F(DatabaseFile, TheStampMovesWithOwnWritesOthersWritesAndRollbacks) {
   EXPECT_NE(m_database.Stamp(), deleted);
 }
 
+TEST_F(DatabaseFile, TheFirstBytesAreTheFiles) {
+  EXPECT_EQ(m_database.FirstBytes(15), "SQLite format 3");
+  EXPECT_EQ(m_database.FirstBytes(100'000).size(), 8192);
+}
+
+TEST(Database, WithoutAFileThereAreNoFirstBytes) {
+  const QTemporaryDir folder;
+  for (const QString& path :
+       {QStringLiteral(":memory:"), folder.filePath(QStringLiteral("new.db"))}) {
+    Database database;
+    ASSERT_EQ(database.Open(path), SQLITE_OK);
+    EXPECT_EQ(database.FirstBytes(100), QByteArray());
+  }
+}
+
 TEST(Database, AFolderIsNoDatabase) {
   const QTemporaryDir folder;
   Database database;

@@ -26,12 +26,7 @@ struct FileCase {
 class ExaminedFile : public testing::TestWithParam<FileCase> {};
 
 TEST_P(ExaminedFile, IsFitOrNot) {
-  const QTemporaryDir folder;
-  QFile file(folder.filePath(QStringLiteral("store.db")));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(GetParam().Bytes);
-  file.close();
-  const auto fault = ExamineStoreFile(file.fileName());
+  const auto fault = ExamineHeader(GetParam().Bytes);
   EXPECT_EQ(fault ? fault->Code : 0, GetParam().Code) << GetParam().Name;
   EXPECT_NE(fault ? fault->Reason : QStringLiteral("fit"), QString());
 }
@@ -46,17 +41,22 @@ INSTANTIATE_TEST_SUITE_P(
                     FileCase{"a text", QByteArray(5000, 'x'), SQLITE_NOTADB},
                     FileCase{"zeroes", QByteArray(5000, '\0'), SQLITE_NOTADB}));
 
-TEST(StoreFile, AnAbsentFileIsFit) {
+TEST(StoreFile, AFileOrNoneIsAPlace) {
   const QTemporaryDir folder;
-  EXPECT_FALSE(ExamineStoreFile(folder.filePath(QStringLiteral("store.db"))));
+  const QString path = folder.filePath(QStringLiteral("store.db"));
+  EXPECT_FALSE(ExaminePlace(path));
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  EXPECT_FALSE(ExaminePlace(path));
 }
 
-TEST(StoreFile, AFolderOrADeviceIsNot) {
+TEST(StoreFile, AFolderOrADeviceIsNone) {
   const QTemporaryDir folder;
   for (const QString& path : {folder.path(), QStringLiteral("/dev/null")}) {
-    const auto fault = ExamineStoreFile(path);
+    const auto fault = ExaminePlace(path);
     ASSERT_TRUE(fault);
     EXPECT_EQ(fault->Code, SQLITE_CANTOPEN);
+    EXPECT_FALSE(fault->Reason.isEmpty());
   }
 }
 

@@ -4,6 +4,8 @@
 
 #include <QFile>
 
+#include <algorithm>
+
 #include "store/StoreLog.h"
 
 namespace quill {
@@ -48,6 +50,18 @@ void Database::Close() {
   const int code = sqlite3_close(m_handle);
   if (code != SQLITE_OK) qCCritical(storeLog) << "The store does not close, code" << code;
   m_handle = nullptr;
+}
+
+// Through SQLite's own file: closing another descriptor of the same file would give up the locks
+// that this process holds on it.
+QByteArray Database::FirstBytes(int count) {
+  sqlite3_file* file = nullptr;
+  sqlite3_file_control(m_handle, "main", SQLITE_FCNTL_FILE_POINTER, &file);
+  sqlite3_int64 size = 0;
+  if (!file || !file->pMethods || file->pMethods->xFileSize(file, &size) != SQLITE_OK) return {};
+  QByteArray bytes(static_cast<qsizetype>(std::min<sqlite3_int64>(size, count)), '\0');
+  const int code = file->pMethods->xRead(file, bytes.data(), static_cast<int>(bytes.size()), 0);
+  return code == SQLITE_OK ? bytes : QByteArray();
 }
 
 int Database::Execute(const QByteArray& sql) {

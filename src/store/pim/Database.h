@@ -38,6 +38,8 @@ class Database {
   int Open(const QString& path);
   void Close();
   sqlite3* Handle() const { return m_handle; }
+  // Up to so many bytes from the beginning of the file, read without a lock; empty without a file.
+  QByteArray FirstBytes(int count);
 
   // Runs one or several statements without values. Returns 0 or the failure.
   int Execute(const QByteArray& sql);

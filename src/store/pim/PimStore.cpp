@@ -56,12 +56,18 @@ int PimStore::Create() {
     if (!QDir().mkpath(folder)) {
       return Refuse(SQLITE_CANTOPEN, QStringLiteral("no folder %1").arg(folder));
     }
-    if (const auto fault = ExamineStoreFile(m_path)) return Refuse(fault->Code, fault->Reason);
+    if (const auto fault = ExaminePlace(m_path)) return Refuse(fault->Code, fault->Reason);
   }
-  m_database = std::make_shared<Database>();
-  const int code = m_database->Open(m_path);
-  if (code != 0) Release();
+  const int code = OpenFile();
+  if (code != SQLITE_OK) Release();
   return code;
+}
+
+int PimStore::OpenFile() {
+  m_database = std::make_shared<Database>();
+  if (const int code = m_database->Open(m_path)) return code;
+  const auto fault = ExamineHeader(m_database->FirstBytes(kStoreHeaderSize));
+  return fault ? m_database->Fail(fault->Code, fault->Reason) : SQLITE_OK;
 }
 
 int PimStore::Refuse(int code, const QString& reason) {

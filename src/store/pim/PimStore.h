@@ -36,6 +36,7 @@ class PimStore : public StoreProvider {
 
  private:
   int Refuse(int code, const QString& reason);
+  int OpenFile();
   int OpenContacts();
   void Release();
 

@@ -1,6 +1,8 @@
-// Looks at a store file before SQLite does, so that a file of somebody else is not even opened.
+// Tells a store file from others before any statement runs on it, so that a file of somebody else
+// stays as it is.
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <optional>
@@ -19,8 +21,13 @@ struct StoreFileFault {
 StoreFileFault ForeignStoreFault();
 StoreFileFault NewerStoreFault(qint64 version);
 
-// What speaks against using this file; nothing when it is a store, or absent or empty and so can
-// become one. A file without an application id is left to a closer look.
-std::optional<StoreFileFault> ExamineStoreFile(const QString& path);
+// What speaks against a store at this place, looked at without opening anything; nothing when there
+// is a file, or none yet.
+std::optional<StoreFileFault> ExaminePlace(const QString& path);
+
+inline constexpr int kStoreHeaderSize = 100;  // bytes
+// What speaks against a file that begins with these bytes; nothing when it is a store, or empty and
+// so can become one. A file without an application id is left to a closer look.
+std::optional<StoreFileFault> ExamineHeader(const QByteArray& header);
 
 }  // namespace quill
