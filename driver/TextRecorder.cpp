@@ -61,6 +61,10 @@ int TextRecorder::metric(PaintDeviceMetric metric) const {
     case PdmPhysicalDpiX:
     case PdmPhysicalDpiY:
       return kDotsPerInch;
+    case PdmDevicePixelRatio:
+      return 1;
+    case PdmDevicePixelRatioScaled:
+      return qRound(devicePixelRatioFScale());
     case PdmDepth:
       return 32;
     case PdmNumColors:

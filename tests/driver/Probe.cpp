@@ -1,0 +1,68 @@
+// The driver with operations of its own that look deeper into a running shell: what assistive
+// technology is told, how many widgets there are, and values of the registry.
+#include <QAccessible>
+#include <QApplication>
+#include <QJsonArray>
+
+#include "driver/Arguments.h"
+#include "driver/Geometry.h"
+#include "driver/Session.h"
+#include "driver/Targets.h"
+#include "platform/Clock.h"
+#include "platform/RegistryStore.h"
+#include "platform/Services.h"
+#include "platform/ui/Screen.h"
+
+using namespace quill;
+using namespace quill::driver;
+
+namespace {
+
+const QString kProbeKey = QStringLiteral("\\Software\\Fennick\\Quill");
+
+QJsonObject Describe(QAccessibleInterface& node) {
+  QJsonArray children;
+  for (int i = 0; i < node.childCount(); ++i)
+    if (QAccessibleInterface* child = node.child(i)) children.append(Describe(*child));
+  QJsonObject object = RectangleJson(node.rect());
+  object.insert(u"role", node.role());
+  object.insert(u"name", node.text(QAccessible::Name));
+  object.insert(u"children", children);
+  return object;
+}
+
+Answer Accessible(const QJsonObject&, OperationContext&) {
+  QAccessibleInterface* screen = QAccessible::queryAccessibleInterface(FindScreen());
+  return screen ? Result(u"accessible", Describe(*screen)) : Refusal(u"nothing");
+}
+
+Answer Widgets(const QJsonObject&, OperationContext&) {
+  return Result(u"widgets", static_cast<int>(QApplication::allWidgets().size()));
+}
+
+Answer Remember(const QJsonObject& arguments, OperationContext&) {
+  const auto value = static_cast<quint32>(WholeNumber(arguments, u"value").value_or(0));
+  const bool stored = g_services.Registry->PutNumber(kProbeKey, QStringLiteral("AreaCode"), value);
+  return stored ? Done() : Refusal(u"not stored");
+}
+
+Answer Recall(const QJsonObject&, OperationContext&) {
+  const auto value = g_services.Registry->QueryNumber(kProbeKey, QStringLiteral("AreaCode"));
+  return Result(u"recall", value ? QJsonValue(static_cast<int>(*value)) : QJsonValue());
+}
+
+Answer Clock(const QJsonObject&, OperationContext&) {
+  return Result(u"clock", g_services.Clock->Now().toString(Qt::ISODate));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  OperationTable operations = AllOperations();
+  operations.push_back({u"accessible", Accessible});
+  operations.push_back({u"widgets", Widgets});
+  operations.push_back({u"remember", Remember});
+  operations.push_back({u"recall", Recall});
+  operations.push_back({u"clock", Clock});
+  return RunSession(operations, argc, argv);
+}
