@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/ui/PaintedWindow.h"
+#include "platform/ui/Window.h"
 
 namespace quill {
 
@@ -24,6 +25,21 @@ QAccessible::Role RoleOf(PaintedRole role) {
       return QAccessible::Separator;
     case PaintedRole::Text:
       return QAccessible::StaticText;
+  }
+  Q_UNREACHABLE();
+}
+
+QAccessible::Role RoleOf(WindowKind kind) {
+  switch (kind) {
+    case WindowKind::Frame:
+      return QAccessible::Window;
+    case WindowKind::Message:
+      return QAccessible::AlertMessage;
+    case WindowKind::Card:
+      return QAccessible::ToolTip;
+    case WindowKind::Sheet:
+    case WindowKind::Dialog:
+      return QAccessible::Dialog;
   }
   Q_UNREACHABLE();
 }
@@ -132,8 +148,11 @@ class AccessiblePaintedWindow : public QAccessibleWidget {
 };
 
 QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
-  auto* const window = qobject_cast<CPaintedWindow*>(object);
-  return window ? new AccessiblePaintedWindow(*window) : nullptr;
+  if (auto* const painted = qobject_cast<CPaintedWindow*>(object))
+    return new AccessiblePaintedWindow(*painted);
+  if (auto* const window = qobject_cast<CWindow*>(object))
+    return new QAccessibleWidget(window, RoleOf(window->Kind()));
+  return nullptr;
 }
 
 }  // namespace

@@ -1,10 +1,10 @@
-// Painted windows for assistive technology: each row is a child with role, name, rectangle, state
-// and actions.
+// The program's windows for assistive technology: a window of the stack says what it is and its
+// caption; each row of a painted window is a child with role, name, rectangle, state and actions.
 #pragma once
 
 namespace quill {
 
-// Makes painted windows accessible from now on. Called once for each QApplication.
+// Makes such windows accessible from now on. Called once for each QApplication.
 void InstallAccessibleRows();
 
 }  // namespace quill
