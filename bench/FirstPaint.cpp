@@ -23,7 +23,8 @@ QString MemoryLine(const QString& file, const QByteArray& name) {
   QFile account(file);
   if (!account.open(QIODevice::ReadOnly)) return QStringLiteral("unknown");
   for (const QByteArray& line : account.readAll().split('\n'))
-    if (line.startsWith(name + ':')) return QString::fromLatin1(line.mid(name.size() + 1)).trimmed();
+    if (line.startsWith(name + ':'))
+      return QString::fromLatin1(line.mid(name.size() + 1)).trimmed();
   return QStringLiteral("unknown");
 }
 

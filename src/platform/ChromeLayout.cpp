@@ -27,8 +27,7 @@ QRect PictureArea(QRect area) {
 }
 
 PaintedRow TitleButton(int key, QRect area, const QString& spoken, bool pressed) {
-  PaintedRow row{
-      .Rectangle = area, .Key = key, .SpokenName = spoken, .Role = PaintedRole::Button};
+  PaintedRow row{.Rectangle = area, .Key = key, .SpokenName = spoken, .Role = PaintedRole::Button};
   row.Items.push_back({.Rectangle = area.adjusted(1, 4, -1, -4),
                        .Fill = pressed ? kTitleButtonPressed : kTitleButton});
   return row;
@@ -36,9 +35,8 @@ PaintedRow TitleButton(int key, QRect area, const QString& spoken, bool pressed)
 
 PaintedRow CloseButton(QRect area, bool pressed) {
   PaintedRow row = TitleButton(kTitleCloseKey, area, QStringLiteral("Close"), pressed);
-  row.Items.push_back({.Rectangle = PictureArea(area),
-                       .Color = kTitleText,
-                       .Picture = &resources::kClosePicture});
+  row.Items.push_back(
+      {.Rectangle = PictureArea(area), .Color = kTitleText, .Picture = &resources::kClosePicture});
   return row;
 }
 
@@ -70,10 +68,8 @@ void AddPanelButton(PaintedRow& row, Rgb color) {
 }
 
 void AddBarText(PaintedRow& row, const QString& text, Rgb color) {
-  row.Items.push_back({.Rectangle = row.Rectangle,
-                       .Text = text,
-                       .Alignment = TextAlign::Centre,
-                       .Color = color});
+  row.Items.push_back(
+      {.Rectangle = row.Rectangle, .Text = text, .Alignment = TextAlign::Centre, .Color = color});
 }
 
 int TextCellWidth(const QString& text, const TextWidth& width) {
@@ -88,13 +84,12 @@ std::vector<PaintedRow> LayOutTitleBar(const TitleBarModel& model, QSize size) {
   std::vector<PaintedRow> buttons;
   if (model.HasClose) {
     right -= kCloseWidth;
-    buttons.push_back(CloseButton({right, 0, kCloseWidth, size.height()},
-                                  model.Pressed == kTitleCloseKey));
+    buttons.push_back(
+        CloseButton({right, 0, kCloseWidth, size.height()}, model.Pressed == kTitleCloseKey));
   }
   if (model.HasOK) {
     right -= kOKWidth;
-    buttons.push_back(
-        OKButton({right, 0, kOKWidth, size.height()}, model.Pressed == kTitleOKKey));
+    buttons.push_back(OKButton({right, 0, kOKWidth, size.height()}, model.Pressed == kTitleOKKey));
   }
   const QRect textArea{kTitleMargin, 0, right - 2 * kTitleMargin, size.height()};
   PaintedRow text{.Rectangle = textArea,
@@ -123,8 +118,9 @@ std::vector<PaintedRow> LayOutMenuBar(const MenuBarModel& model, QSize size, int
   for (const MenuItem& button : model.Buttons) {
     const int key = static_cast<int>(rows.size());
     const bool isPanel = button.Id == ID_SHELL_INPUT_PANEL;
-    const QRect area = isPanel ? QRect{size.width() - kPanelWidth - 2, 0, kPanelWidth, size.height()}
-                               : nextCell(button.Text);
+    const QRect area = isPanel
+                           ? QRect{size.width() - kPanelWidth - 2, 0, kPanelWidth, size.height()}
+                           : nextCell(button.Text);
     PaintedRow& row = rows.emplace_back(BarRow(area, key, button, key == open));
     const Rgb color = button.Enabled ? kBarText : kBarDisabled;
     isPanel ? AddPanelButton(row, color) : AddBarText(row, button.Text, color);
@@ -138,6 +134,17 @@ std::vector<PaintedRow> LayOutMenuBar(const MenuBarModel& model, QSize size, int
     AddBarText(row, menu.Text, kBarText);
   }
   return rows;
+}
+
+PaintedRow LayOutSmallCaption(const QString& caption, int width) {
+  const QRect bar(0, 0, width, kSmallCaptionHeight);
+  PaintedRow row{.Rectangle = bar, .SpokenName = caption, .Role = PaintedRole::Text};
+  row.Items.push_back({.Rectangle = bar, .Fill = kTitleBackground});
+  row.Items.push_back({.Rectangle = bar.adjusted(kTitleMargin, 0, -kTitleMargin, 0),
+                       .Text = caption,
+                       .Weight = TextWeight::Bold,
+                       .Color = kTitleText});
+  return row;
 }
 
 }  // namespace quill

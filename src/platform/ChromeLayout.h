@@ -1,4 +1,5 @@
-// The title bar and the menu bar as painted rows: pure layout, in logical pixels of each bar.
+// Title bar, menu bar and the caption of small windows as painted rows: pure layout, in logical
+// pixels of each bar.
 #pragma once
 
 #include <QSize>
@@ -11,6 +12,8 @@
 #include "platform/TextFitting.h"
 
 namespace quill {
+
+inline constexpr Rgb kTitleBackground = 0x2F5568;
 
 // Keys of the title bar's rows.
 inline constexpr int kTitleTextKey = 0;
@@ -30,5 +33,10 @@ std::vector<PaintedRow> LayOutTitleBar(const TitleBarModel& model, QSize size);
 // shown pressed, -1 none. The input panel's button stands at the right end.
 std::vector<PaintedRow> LayOutMenuBar(const MenuBarModel& model, QSize size, int open,
                                       const TextWidth& width);
+
+// The bar that a small window paints above its client area.
+inline constexpr int kSmallCaptionHeight = 16;
+
+PaintedRow LayOutSmallCaption(const QString& caption, int width);
 
 }  // namespace quill

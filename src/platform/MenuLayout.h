@@ -42,7 +42,8 @@ MenuLayout LayOutMenu(const std::vector<MenuItem>& items, const MenuLayoutReques
 // The least FirstItem that brings this item into view, given the layout now shown.
 int FirstItemToShow(const std::vector<MenuItem>& items, const MenuLayout& layout, int item);
 
-// The next item in this direction (+1, -1) that can be highlighted, wrapping round; -1 when none can.
+// The next item in this direction (+1, -1) that can be highlighted, wrapping round; -1 when none
+// can.
 int NextMenuItem(const std::vector<MenuItem>& items, int from, int step);
 
 }  // namespace quill

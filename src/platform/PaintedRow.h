@@ -1,5 +1,6 @@
-// What a painted window shows, as data: laid out by core functions, drawn by one paint event, spoken
-// by one accessibility class. Rectangles are logical pixels relative to the window's client area.
+// What a painted window shows, as data: laid out by core functions, drawn by one paint event,
+// spoken by one accessibility class. Rectangles are logical pixels relative to the window's client
+// area.
 #pragma once
 
 #include <QFlags>
@@ -34,7 +35,7 @@ enum class PaintedRole { ListItem, Button, MenuItem, Separator, Text };
 
 enum class PaintedStateFlag {
   Selected = 1,
-  Current = 2,    // the row that keys act on
+  Current = 2,  // the row that keys act on
   Disabled = 4,
   Checked = 8,
   HasPopup = 16,

@@ -39,14 +39,20 @@ struct DialogResource {
 };
 
 inline constexpr std::array kAboutControls = {
-    DialogControl{ControlKind::CentredLabel, AboutDialogIds::kTitle, kApplicationTitle,
-                  {10, 10, 180, 18}},
-    DialogControl{ControlKind::CentredLabel, AboutDialogIds::kVersion, u"Version " QUILL_VERSION,
+    DialogControl{
+        ControlKind::CentredLabel, AboutDialogIds::kTitle, kApplicationTitle, {10, 10, 180, 18}},
+    DialogControl{ControlKind::CentredLabel,
+                  AboutDialogIds::kVersion,
+                  u"Version " QUILL_VERSION,
                   {10, 32, 180, 18}},
-    DialogControl{ControlKind::CentredLabel, AboutDialogIds::kMaker, u"Made by the Quill authors",
+    DialogControl{ControlKind::CentredLabel,
+                  AboutDialogIds::kMaker,
+                  u"Made by the Quill authors",
                   {10, 54, 180, 18}},
-    DialogControl{ControlKind::CentredLabel, AboutDialogIds::kLicence,
-                  u"GNU GPL, version 3 or later", {10, 76, 180, 18}},
+    DialogControl{ControlKind::CentredLabel,
+                  AboutDialogIds::kLicence,
+                  u"GNU GPL, version 3 or later",
+                  {10, 76, 180, 18}},
     DialogControl{ControlKind::Button, kResultOK, u"OK", {68, 102, 64, 26}},
 };
 inline constexpr DialogResource kAboutDialog = {

@@ -67,7 +67,13 @@ inline constexpr std::array kKeyboardPaths = {PicturePath{PictureShape::Line, kK
 inline constexpr Picture kKeyboardPicture = {14, kKeyboardPaths};
 
 // The icons of message boxes.
-inline constexpr std::array kIconCircle = {PicturePoint{12, 2}, PicturePoint{15.8F, 2.8F}, PicturePoint{19.1F, 4.9F}, PicturePoint{21.2F, 8.2F}, PicturePoint{22, 12}, PicturePoint{21.2F, 15.8F}, PicturePoint{19.1F, 19.1F}, PicturePoint{15.8F, 21.2F}, PicturePoint{12, 22}, PicturePoint{8.2F, 21.2F}, PicturePoint{4.9F, 19.1F}, PicturePoint{2.8F, 15.8F}, PicturePoint{2, 12}, PicturePoint{2.8F, 8.2F}, PicturePoint{4.9F, 4.9F}, PicturePoint{8.2F, 2.8F}, PicturePoint{12, 2}};
+inline constexpr std::array kIconCircle = {
+    PicturePoint{12, 2},        PicturePoint{15.8F, 2.8F},  PicturePoint{19.1F, 4.9F},
+    PicturePoint{21.2F, 8.2F},  PicturePoint{22, 12},       PicturePoint{21.2F, 15.8F},
+    PicturePoint{19.1F, 19.1F}, PicturePoint{15.8F, 21.2F}, PicturePoint{12, 22},
+    PicturePoint{8.2F, 21.2F},  PicturePoint{4.9F, 19.1F},  PicturePoint{2.8F, 15.8F},
+    PicturePoint{2, 12},        PicturePoint{2.8F, 8.2F},   PicturePoint{4.9F, 4.9F},
+    PicturePoint{8.2F, 2.8F},   PicturePoint{12, 2}};
 inline constexpr PicturePath kIconCirclePath = {PictureShape::Line, kIconCircle};
 
 inline constexpr std::array kLetterIStem = {PicturePoint{12, 11}, PicturePoint{12, 17}};
@@ -81,19 +87,17 @@ inline constexpr Picture kInformationPicture = {24, kInformationPaths};
 inline constexpr std::array kTriangle = {PicturePoint{12, 2}, PicturePoint{22, 21},
                                          PicturePoint{2, 21}, PicturePoint{12, 2}};
 inline constexpr std::array kExclamationStem = {PicturePoint{12, 9}, PicturePoint{12, 15}};
-inline constexpr std::array kExclamationDot = {PicturePoint{11.5F, 17.5F},
-                                               PicturePoint{12.5F, 17.5F},
-                                               PicturePoint{12.5F, 18.5F},
-                                               PicturePoint{11.5F, 18.5F}};
+inline constexpr std::array kExclamationDot = {
+    PicturePoint{11.5F, 17.5F}, PicturePoint{12.5F, 17.5F}, PicturePoint{12.5F, 18.5F},
+    PicturePoint{11.5F, 18.5F}};
 inline constexpr std::array kWarningPaths = {PicturePath{PictureShape::Line, kTriangle},
                                              PicturePath{PictureShape::Line, kExclamationStem},
                                              PicturePath{PictureShape::Fill, kExclamationDot}};
 inline constexpr Picture kWarningPicture = {24, kWarningPaths};
 
-inline constexpr std::array kQuestionHook = {PicturePoint{9, 9.5F},  PicturePoint{10, 7.5F},
-                                             PicturePoint{12, 7},    PicturePoint{14, 7.5F},
-                                             PicturePoint{15, 9.5F}, PicturePoint{14, 11.5F},
-                                             PicturePoint{12, 13},   PicturePoint{12, 15}};
+inline constexpr std::array kQuestionHook = {
+    PicturePoint{9, 9.5F},  PicturePoint{10, 7.5F},  PicturePoint{12, 7},  PicturePoint{14, 7.5F},
+    PicturePoint{15, 9.5F}, PicturePoint{14, 11.5F}, PicturePoint{12, 13}, PicturePoint{12, 15}};
 inline constexpr std::array kQuestionDot = {PicturePoint{11.5F, 17}, PicturePoint{12.5F, 17},
                                             PicturePoint{12.5F, 18}, PicturePoint{11.5F, 18}};
 inline constexpr std::array kQuestionPaths = {kIconCirclePath,

@@ -75,8 +75,7 @@ ShellEnd CContactsApp::Run() {
 Scale CContactsApp::FittedScale() const {
   if (m_start.Origin != ScaleOrigin::Remembered) return m_start.At;
   const QScreen* const screen = QGuiApplication::primaryScreen();
-  if (m_settings.FullScreen)
-    return LargestFitting(DesktopPixels(screen->size(), m_start.At));
+  if (m_settings.FullScreen) return LargestFitting(DesktopPixels(screen->size(), m_start.At));
   return FitScale(m_start.At, DesktopPixels(screen->availableSize(), m_start.At));
 }
 

@@ -21,8 +21,8 @@ class RequestChannel;
 class ScreenPrompt;
 class ShellCommands;
 
-// Asked for on the command line and taken as it is, remembered and to be fitted to the desktop once,
-// or fitted already.
+// Asked for on the command line and taken as it is, remembered and to be fitted to the desktop
+// once, or fitted already.
 enum class ScaleOrigin { Asked, Remembered, Settled };
 
 struct ShellStart {

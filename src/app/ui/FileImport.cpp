@@ -29,9 +29,9 @@ void ImportFilesAndReport(const Places& places, const QStringList& files) {
   const int exitCode = RunImport({.Where = places, .Arguments = files}, {text, text});
   QGuiApplication::restoreOverrideCursor();
   text.flush();
-  g_services.Prompt->Show({.Text = FirstLines(report),
-                           .Icon = exitCode == kExitDone ? PromptIcon::Information
-                                                         : PromptIcon::Warning});
+  g_services.Prompt->Show(
+      {.Text = FirstLines(report),
+       .Icon = exitCode == kExitDone ? PromptIcon::Information : PromptIcon::Warning});
 }
 
 }  // namespace quill

@@ -20,9 +20,7 @@ constexpr int kWatchInterval = 250;  // milliseconds
 }  // namespace
 
 CMainFrame::CMainFrame(CScreen& screen, const CommandTarget& applicationCommands)
-    : CWindow(screen),
-      m_view(new CContactsView(this)),
-      m_applicationCommands(applicationCommands) {
+    : CWindow(screen), m_view(new CContactsView(this)), m_applicationCommands(applicationCommands) {
   m_view->setGeometry(rect());
   SetCaption(kApplicationTitle.toString());
   screen.Push(*this);

@@ -25,8 +25,8 @@ class CMainFrame : public CWindow {
 
   CContactsView& View() { return *m_view; }
 
-  // Queues a message to the frame. The store's three change messages go on to the view with the same
-  // parameters, 10024 with none; any other number does nothing.
+  // Queues a message to the frame. The store's three change messages go on to the view with the
+  // same parameters, 10024 with none; any other number does nothing.
   void PostStoreMessage(int number, int first, int second);
   // A request by another program, answered by the view.
   bool CopyData(int kind, const QString& text);

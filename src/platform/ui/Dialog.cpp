@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPushButton>
 
+#include "platform/ChromeLayout.h"
 #include "platform/ui/ControlFactory.h"
 #include "platform/ui/RowPainter.h"
 #include "platform/ui/Screen.h"
@@ -12,8 +13,6 @@ namespace quill {
 
 namespace {
 
-constexpr Rgb kCaptionBackground = 0x2F5568;
-constexpr Rgb kCaptionText = 0xFFFFFF;
 constexpr Rgb kDialogBorder = 0x2F5568;
 
 QRect ToRect(const resources::Rectangle& place) {
@@ -52,14 +51,7 @@ void CDialog::paintEvent(QPaintEvent* event) {
   CModalWindow::paintEvent(event);
   if (m_size == WindowSize::FullScreen) return;
   QPainter painter(this);
-  const QRect bar(0, 0, width(), kSmallCaptionHeight);
-  PaintedRow caption{.Rectangle = bar};
-  caption.Items.push_back({.Rectangle = bar, .Fill = kCaptionBackground});
-  caption.Items.push_back({.Rectangle = bar.adjusted(5, 0, -5, 0),
-                           .Text = Caption(),
-                           .Weight = TextWeight::Bold,
-                           .Color = kCaptionText});
-  DrawRow(painter, caption);
+  DrawRow(painter, LayOutSmallCaption(Caption(), width()));
   painter.setPen(QColor::fromRgb(kDialogBorder));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }

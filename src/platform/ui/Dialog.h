@@ -7,9 +7,6 @@
 
 namespace quill {
 
-// The bar that a small window paints above its client area: its caption.
-inline constexpr int kSmallCaptionHeight = 16;
-
 class CDialog : public CModalWindow {
   Q_OBJECT
  public:

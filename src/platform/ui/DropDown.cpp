@@ -11,8 +11,7 @@ namespace {
 std::vector<MenuItem> ListItems(const QComboBox& list) {
   std::vector<MenuItem> items;
   for (int i = 0; i < list.count(); ++i)
-    items.push_back(
-        {.Text = list.itemText(i), .Id = i + 1, .Checked = i == list.currentIndex()});
+    items.push_back({.Text = list.itemText(i), .Id = i + 1, .Checked = i == list.currentIndex()});
   return items;
 }
 

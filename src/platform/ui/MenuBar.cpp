@@ -12,7 +12,8 @@ constexpr Rgb kBarBackground = 0xDDE6EB;
 
 }  // namespace
 
-CMenuBar::CMenuBar(CScreen& screen) : CPaintedWindow(&screen, QAccessible::MenuBar), m_screen(screen) {
+CMenuBar::CMenuBar(CScreen& screen)
+    : CPaintedWindow(&screen, QAccessible::MenuBar), m_screen(screen) {
   setGeometry(kMenuBarArea);
   setAccessibleName(QStringLiteral("Menu bar"));
   SetBackground(kBarBackground);

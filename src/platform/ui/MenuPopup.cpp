@@ -24,9 +24,9 @@ std::vector<PaintedRow> WithFrame(const MenuLayout& layout) {
   std::vector<PaintedRow> rows = layout.Rows;
   PaintedRow frame{.Rectangle = {0, 0, 0, 0}, .Key = -1, .Role = PaintedRole::Separator};
   const QRect all(QPoint(0, 0), size);
-  for (const QRect& side : {QRect(0, 0, size.width(), 1), QRect(0, 0, 1, size.height()),
-                            QRect(0, all.bottom(), size.width(), 1),
-                            QRect(all.right(), 0, 1, size.height())})
+  for (const QRect& side :
+       {QRect(0, 0, size.width(), 1), QRect(0, 0, 1, size.height()),
+        QRect(0, all.bottom(), size.width(), 1), QRect(all.right(), 0, 1, size.height())})
     frame.Items.push_back({.Rectangle = side, .Fill = kMenuBorder});
   const auto addArrow = [&frame](const QRect& strip, const resources::Picture& picture) {
     const int left = strip.left() + (strip.width() - kMenuStripHeight) / 2;
@@ -57,7 +57,10 @@ class CMenuShade : public CShade {
 
 CMenuPopup::CMenuPopup(CScreen& screen, std::vector<MenuItem> items, QRect anchor,
                        MenuPopupKind kind)
-    : CPaintedWindow(&screen, QAccessible::PopupMenu), m_screen(screen), m_kind(kind), m_items(std::move(items)) {
+    : CPaintedWindow(&screen, QAccessible::PopupMenu),
+      m_screen(screen),
+      m_kind(kind),
+      m_items(std::move(items)) {
   m_request = {.Anchor = anchor, .Screen = screen.size()};
   SetBackground(kMenuBackground);
   setFocusPolicy(Qt::StrongFocus);

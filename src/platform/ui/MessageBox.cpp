@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/ChromeLayout.h"
 #include "platform/ui/Look.h"
 #include "platform/ui/PictureLabel.h"
 #include "platform/ui/Screen.h"
@@ -66,15 +67,15 @@ int TextLeft(PromptIcon icon) {
 
 int TextHeight(const PromptMessage& message) {
   const QRect room(0, 0, kWidth - TextLeft(message.Icon) - kMargin, kLargestText);
-  const QRect used =
-      QFontMetrics(NormalFont()).boundingRect(room, Qt::TextWordWrap, message.Text);
+  const QRect used = QFontMetrics(NormalFont()).boundingRect(room, Qt::TextWordWrap, message.Text);
   return std::clamp(used.height() + 4, kSmallestText, kLargestText);
 }
 
 DialogResource Frame(const PromptMessage& message) {
   const int height =
       kSmallCaptionHeight + kMargin + TextHeight(message) + kMargin + kButtonHeight + kMargin;
-  return {0, message.Caption,
+  return {0,
+          message.Caption,
           {(kScreenWidth - kWidth) / 2, (kScreenHeight - height) / 2, kWidth, height},
           {}};
 }
@@ -91,7 +92,9 @@ CMessageBox::CMessageBox(CScreen& screen, const PromptMessage& message)
 void CMessageBox::AddText(const PromptMessage& message, int textHeight) {
   const int left = TextLeft(message.Icon);
   auto* const text = qobject_cast<QLabel*>(
-      AddDialogControl({ControlKind::Label, MessageBoxIds::kText, message.Text,
+      AddDialogControl({ControlKind::Label,
+                        MessageBoxIds::kText,
+                        message.Text,
                         {left, kMargin, kWidth - left - kMargin, textHeight}}));
   text->setWordWrap(true);
   const IconResource& icon = IconOf(message.Icon);
@@ -115,9 +118,7 @@ void CMessageBox::AddButtons(int top) {
   }
 }
 
-void CMessageBox::OnOK() {
-  EndDialog(m_buttons == PromptButtons::YesNo ? kResultYes : kResultOK);
-}
+void CMessageBox::OnOK() { EndDialog(m_buttons == PromptButtons::YesNo ? kResultYes : kResultOK); }
 
 // Closing a box answers what changes least; a box with OK alone has only that to answer.
 void CMessageBox::OnCancel() {

@@ -27,8 +27,8 @@ void CPaintedWindow::SetRows(std::vector<PaintedRow> rows) {
   m_rows = std::move(rows);
   update();
   if (!QAccessible::isActive()) return;
-  QAccessibleEvent event(this, structureChanged ? QAccessible::ObjectReorder
-                                                : QAccessible::VisibleDataChanged);
+  QAccessibleEvent event(
+      this, structureChanged ? QAccessible::ObjectReorder : QAccessible::VisibleDataChanged);
   QAccessible::updateAccessibility(&event);
 }
 

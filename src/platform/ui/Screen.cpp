@@ -30,12 +30,12 @@ CScreen::CScreen(QWidget* outer)
     : QWidget(outer),
       m_titleBar(new CTitleBar(*this)),
       m_menuBar(new CMenuBar(*this)),
-      m_screenCommands({{ID_SHELL_INPUT_PANEL, ID_SHELL_INPUT_PANEL,
-                         [](int) { ToggleInputPanel(); },
-                         [](int, CommandState& state) {
-                           state.Enabled = g_services.InputPanel != nullptr;
-                           state.Checked = state.Enabled && g_services.InputPanel->IsUp();
-                         }}}) {
+      m_screenCommands(
+          {{ID_SHELL_INPUT_PANEL, ID_SHELL_INPUT_PANEL, [](int) { ToggleInputPanel(); },
+            [](int, CommandState& state) {
+              state.Enabled = g_services.InputPanel != nullptr;
+              state.Checked = state.Enabled && g_services.InputPanel->IsUp();
+            }}}) {
   setFixedSize(kScreenWidth, kScreenHeight);
   if (g_services.InputPanel) g_services.InputPanel->Changed = [this] { TellVisibleArea(); };
   UpdateChrome();

@@ -18,7 +18,8 @@ class CTitleBar;
 
 inline constexpr QRect kTitleBarArea{0, 0, kScreenWidth, kTitleBarHeight};
 inline constexpr QRect kClientArea{0, kTitleBarHeight, kScreenWidth, kClientHeight};
-inline constexpr QRect kMenuBarArea{0, kScreenHeight - kMenuBarHeight, kScreenWidth, kMenuBarHeight};
+inline constexpr QRect kMenuBarArea{0, kScreenHeight - kMenuBarHeight, kScreenWidth,
+                                    kMenuBarHeight};
 
 class CScreen : public QWidget {
   Q_OBJECT

@@ -7,14 +7,14 @@ namespace quill {
 
 namespace {
 
-constexpr Rgb kTitleBackground = 0x2F5568;
 constexpr int kHoldTimer = 1;
 constexpr int kHoldMilliseconds = 500;
 constexpr int kHoldTolerance = 6;  // pixels that a held pen may tremble
 
 }  // namespace
 
-CTitleBar::CTitleBar(CScreen& screen) : CPaintedWindow(&screen, QAccessible::TitleBar), m_screen(screen) {
+CTitleBar::CTitleBar(CScreen& screen)
+    : CPaintedWindow(&screen, QAccessible::TitleBar), m_screen(screen) {
   setGeometry(kTitleBarArea);
   setAccessibleName(QStringLiteral("Title bar"));
   SetBackground(kTitleBackground);
@@ -46,7 +46,8 @@ void CTitleBar::SetPressed(int key) {
 void CTitleBar::PenPress(QPoint at) {
   m_pressedAt = at;
   SetPressed(KeyAt(at));
-  if (m_model.Pressed <= kTitleTextKey) g_services.Timers->Set(*this, kHoldTimer, kHoldMilliseconds);
+  if (m_model.Pressed <= kTitleTextKey)
+    g_services.Timers->Set(*this, kHoldTimer, kHoldMilliseconds);
 }
 
 void CTitleBar::PenMove(QPoint at) {
