@@ -6,6 +6,7 @@
 #include "driver/Arguments.h"
 #include "list/ui/ContactListCtrl.h"
 #include "list/ui/ContactsView.h"
+#include "platform/ChromeLayout.h"
 #include "platform/ui/Dialog.h"
 #include "platform/ui/MenuPopup.h"
 #include "platform/ui/Screen.h"
