@@ -1,5 +1,7 @@
 #include "cli/WindowStart.h"
 
+#include <QFileInfo>
+
 #include <utility>
 
 #include "app/RequestChannel.h"
@@ -32,7 +34,17 @@ void ExplainMissingDisplay(const Console& console) {
       << Qt::endl;
 }
 
-// Done when there was nothing to bring in.
+// A word that is no file is more likely a command mistyped: said before anything else happens.
+bool FilesExist(const CommandLine& line, const Console& console) {
+  for (const QString& file : line.Arguments) {
+    if (QFileInfo::exists(file)) continue;
+    Complain(console, QStringLiteral("there is neither a file nor a command %1").arg(file));
+    return false;
+  }
+  return true;
+}
+
+// True also when there was nothing to bring in.
 bool BringIn(const CommandLine& line, const Places& places, const Console& console) {
   if (line.Arguments.isEmpty()) return true;
   return RunImport({places, line.Arguments, line.AsJson}, console) != kExitFailed;
@@ -79,6 +91,7 @@ WindowStart OpenOrHandOver(const CommandLine& line, const Places& places, const 
 
 WindowStart StartWindow(const CommandLine& line, const QProcessEnvironment& environment,
                         const Console& console) {
+  if (!FilesExist(line, console)) return Ended(kExitFailed);
   if (!HasDisplay(environment)) {
     ExplainMissingDisplay(console);
     return Ended(kExitFailed);

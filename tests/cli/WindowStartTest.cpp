@@ -113,10 +113,18 @@ TEST_F(WindowStartOf, FilesAreBroughtInBesideAnOpenWindow) {
 }
 
 TEST_F(WindowStartOf, AFileThatCannotBeReadEndsTheStart) {
-  const WindowStart start = Start({u"improt"_qs});
+  const WindowStart start = Start({m_folder.path()});
   EXPECT_FALSE(start.Running);
   EXPECT_EQ(start.ExitCode, kExitFailed);
-  EXPECT_THAT(TakeErr(), HasSubstr("improt"));
+  EXPECT_THAT(TakeErr(), HasSubstr(": is a folder\n"));
+}
+
+TEST_F(WindowStartOf, AMistypedCommandIsSaidBeforeAllElse) {
+  const WindowStart start = Start({u"improt"_qs, CardFile()}, {});
+  EXPECT_FALSE(start.Running);
+  EXPECT_EQ(start.ExitCode, kExitFailed);
+  EXPECT_EQ(TakeErr(), "quill: there is neither a file nor a command improt\n");
+  EXPECT_FALSE(QFileInfo::exists(Home()));
 }
 
 TEST_F(WindowStartOf, WithoutADisplayItSaysHowToLook) {
