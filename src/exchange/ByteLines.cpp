@@ -25,7 +25,7 @@ bool ByteLines::Next(ByteLine& line) {
     m_position = stop;
   } while (m_position == m_block.size() && Fill());
   SkipLineEnd();
-  line.Bytes.replace('\0', QByteArrayView());
+  if (line.Bytes.contains('\0')) line.Bytes.replace('\0', QByteArrayView());
   // Files put together from others carry a mark in front of every part.
   if (line.Bytes.startsWith(kUtf8Mark)) line.Bytes.remove(0, sizeof kUtf8Mark - 1);
   return true;

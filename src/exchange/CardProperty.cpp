@@ -51,7 +51,7 @@ QString DecodeCarets(const QString& value) {
 }
 
 QString ParameterText(QByteArray value, const CardCharset& charset) {
-  value.replace('"', QByteArrayView());
+  if (value.contains('"')) value.replace('"', QByteArrayView());
   return DecodeCarets(DecodeText(value, {}, charset.Fallback));
 }
 
@@ -95,6 +95,7 @@ bool IsLineFeed(QChar escaped, CardEncoding encoding) {
 }
 
 QString Unescape(QStringView text, CardEncoding encoding) {
+  if (!text.contains(u'\\') && !text.contains(u'\r')) return text.toString();
   QString plain;
   plain.reserve(text.size());
   for (qsizetype i = 0; i < text.size(); ++i) {
@@ -128,6 +129,7 @@ qsizetype HeaderEnd(QByteArrayView line) {
 }
 
 CardEncoding AnnouncedEncoding(const QByteArray& header) {
+  if (!header.contains(';')) return CardEncoding::Plain;
   const QByteArray upper = header.toUpper();
   for (QByteArray piece : SplitUnquoted(upper, ';').mid(1)) {
     const qsizetype equals = piece.indexOf('=');

@@ -18,6 +18,8 @@ enum class Turn { Typed, Remainder, Untyped, Never };
 struct NumberClaim {
   Turn When = Turn::Untyped;
   std::vector<Field> Fields;  // the first free one is taken
+  const CardProperty* Property = nullptr;
+  QString Number = {};
 };
 
 bool HasAny(const QStringList& types, std::initializer_list<QStringView> words) {
@@ -52,7 +54,7 @@ NumberClaim UntypedClaim(const QString& number) {
   return {Turn::Untyped, fields};
 }
 
-NumberClaim ClaimOf(const QStringList& types, const QString& number) {
+NumberClaim ClaimOfTypes(const QStringList& types, const QString& number) {
   if (HasAny(types, {u"MODEM", u"ISDN", u"BBS"})) return {Turn::Never, {}};
   if (HasAny(types, {u"FAX", u"WORKFAX", u"HOMEFAX"})) return FaxClaim(types);
   if (HasAny(types, {u"CELL", u"MOBILE"})) {
@@ -73,6 +75,14 @@ NumberClaim ClaimOf(const QStringList& types, const QString& number) {
 QString NumberOf(const CardProperty& property) {
   const QString text = TextOf(property);
   return text.startsWith(u"tel:", Qt::CaseInsensitive) ? text.sliced(4) : text;
+}
+
+NumberClaim ClaimOf(const CardProperty& property) {
+  const QString number = NumberOf(property);
+  NumberClaim claim = ClaimOfTypes(TypesOf(property), number);
+  claim.Property = &property;
+  claim.Number = number;
+  return claim;
 }
 
 bool Put(ContactRecord& record, Field field, const QString& text) {
@@ -152,11 +162,12 @@ void PlaceNumbers(CardPool& pool, ContactRecord& record) {
   for (const CardProperty* tel : pool.All(u"TEL")) {
     if (PutWhereNamed(*tel, kNumberFields, NumberOf(*tel), record)) pool.Take(*tel);
   }
+  std::vector<NumberClaim> claims;
+  for (const CardProperty* tel : pool.Preferred(u"TEL")) claims.push_back(ClaimOf(*tel));
   for (const Turn turn : {Turn::Typed, Turn::Remainder, Turn::Untyped}) {
-    for (const CardProperty* tel : pool.Preferred(u"TEL")) {
-      const QString number = NumberOf(*tel);
-      const NumberClaim claim = ClaimOf(TypesOf(*tel), number);
-      if (claim.When == turn && PutInFirstFree(claim.Fields, number, record)) pool.Take(*tel);
+    for (const NumberClaim& claim : claims) {
+      if (claim.When != turn || !PutInFirstFree(claim.Fields, claim.Number, record)) continue;
+      pool.Take(*claim.Property);
     }
   }
 }
