@@ -51,7 +51,7 @@ Answer Recall(const QJsonObject&, OperationContext&) {
   return Result(u"recall", value ? QJsonValue(static_cast<int>(*value)) : QJsonValue());
 }
 
-Answer Clock(const QJsonObject&, OperationContext&) {
+Answer TellTime(const QJsonObject&, OperationContext&) {
   return Result(u"clock", g_services.Clock->Now().toString(Qt::ISODate));
 }
 
@@ -63,6 +63,6 @@ int main(int argc, char** argv) {
   operations.push_back({u"widgets", Widgets});
   operations.push_back({u"remember", Remember});
   operations.push_back({u"recall", Recall});
-  operations.push_back({u"clock", Clock});
+  operations.push_back({u"clock", TellTime});
   return RunSession(operations, argc, argv);
 }

@@ -34,6 +34,14 @@ TEST(Startup, StoreThatCannotBeMadeIsShownWithItsCodeAndLeavesTheListEmpty) {
   ExpectEmptyList(driver);
 }
 
+TEST(Startup, MessageOfAFailureIsSeenAndAnsweredByTheKeyboard) {
+  ReadyDriver driver(FaultOption(QStringLiteral("store-create")));
+  const QJsonObject button = driver.Result(R"({"op":"get","id":1})", u"control").toObject();
+  EXPECT_EQ(button.value(u"visible"), true);
+  driver.Do(R"({"op":"key","key":"Return"})");
+  EXPECT_EQ(driver.Result(R"({"op":"message"})", u"message"), QJsonValue());
+}
+
 TEST(Startup, CodeOfTheFaultStandsInTheMessage) {
   ReadyDriver driver(FaultOption(QStringLiteral("store-create:14")));
   EXPECT_EQ(driver.Result(R"({"op":"message"})", u"message").toObject().value(u"text"),
