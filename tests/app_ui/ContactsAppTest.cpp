@@ -1,0 +1,150 @@
+// One shell from its start to its end; making one after another is tested from outside.
+#include "app/ui/ContactsApp.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include "list/ListState.h"
+#include "platform/Services.h"
+#include "platform/ui/Dialog.h"
+#include "platform/ui/OuterWindow.h"
+#include "platform/ui/Screen.h"
+#include "platform_ui/ScreenInput.h"
+#include "platform_ui/Steps.h"
+#include "resources/Ids.h"
+#include "store/ContactStore.h"
+
+namespace quill {
+namespace {
+
+using test::Step;
+using test::Steps;
+
+constexpr Scale kStartScale{4};
+
+class ContactsAppTest : public testing::Test {
+ protected:
+  ContactsAppTest() : m_program(OptionsAt(m_home.path())) {}
+  ~ContactsAppTest() override {
+    CloseSession();
+    g_store = {};
+    g_list = {};
+  }
+
+  // Runs a shell; the steps are taken in whatever loop waits, the last one must end it.
+  ShellEnd Run(const std::function<std::vector<Step>()>& steps) {
+    CContactsApp app(m_program, {kStartScale, ScaleOrigin::Settled});
+    m_app = &app;
+    for (QWidget* window : QApplication::topLevelWidgets())
+      if (auto* outer = qobject_cast<COuterWindow*>(window)) m_outer = outer;
+    m_screen = m_outer->findChild<CScreen*>();
+    const Steps running(*m_screen, steps());
+    return app.Run();
+  }
+
+  Step Closing() {
+    return [this] { m_outer->close(); };
+  }
+  Step Command(int id) {
+    return [this, id] { m_screen->RunCommand(id); };
+  }
+  Step Key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    return [=, this] { test::ScreenInput(*m_screen).Key(key, modifiers); };
+  }
+
+  static ProgramOptions OptionsAt(const QString& home) {
+    ProgramOptions options;
+    options.Where = HomePlaces(home, {});
+    return options;
+  }
+
+  QTemporaryDir m_home;
+  Program m_program;
+  CContactsApp* m_app = nullptr;
+  COuterWindow* m_outer = nullptr;
+  CScreen* m_screen = nullptr;
+};
+
+TEST_F(ContactsAppTest, ShowsTheFrameWithAnOpenSessionAndEndsWhenItsWindowIsClosed) {
+  const ShellEnd end = Run([this] {
+    return std::vector<Step>{[this] {
+                               EXPECT_TRUE(m_outer->isVisible());
+                               EXPECT_EQ(m_outer->windowTitle(),
+                                         QStringLiteral("Quill (Quillbook)"));
+                               EXPECT_EQ(m_screen->Topmost()->Kind(), WindowKind::Frame);
+                               EXPECT_NE(g_store.Provider, nullptr);
+                             },
+                             Closing()};
+  });
+  EXPECT_EQ(end.ExitCode, 0);
+  EXPECT_FALSE(end.NextScale.has_value());
+}
+
+TEST_F(ContactsAppTest, TheAboutBoxOpensAndDoesNothingButClose) {
+  for (const int key : {Qt::Key_Return, Qt::Key_Escape}) {
+    Run([this, key] {
+      return std::vector<Step>{
+          Command(ID_APP_ABOUT),
+          [this] { EXPECT_EQ(m_screen->Topmost()->Caption(), QStringLiteral("About")); }, Key(key),
+          [this] { EXPECT_TRUE(m_screen->IsIdle()); }, Closing()};
+    });
+  }
+}
+
+TEST_F(ContactsAppTest, ControlPlusEndsTheShellWithTheNextScaleAndRemembersIt) {
+  const ShellEnd end =
+      Run([this] { return std::vector<Step>{Key(Qt::Key_Plus, Qt::ControlModifier)}; });
+  ASSERT_TRUE(end.NextScale.has_value());
+  EXPECT_EQ(*end.NextScale, Scale{5});
+  EXPECT_EQ(ReadShellSettings(*g_services.Registry).WindowScale, Scale{5});
+}
+
+TEST_F(ContactsAppTest, TheSmallestScaleGetsNoSmaller) {
+  const ShellEnd end = Run([this] {
+    return std::vector<Step>{Key(Qt::Key_Minus, Qt::ControlModifier), Closing()};
+  });
+  EXPECT_FALSE(end.NextScale.has_value());
+}
+
+TEST_F(ContactsAppTest, TheScaleStaysWhileADialogIsOpen) {
+  const ShellEnd end = Run([this] {
+    return std::vector<Step>{
+        Command(ID_APP_ABOUT), [this] { EXPECT_FALSE(m_app->MayChangeScale()); },
+        Key(Qt::Key_Plus, Qt::ControlModifier),
+        [this] { EXPECT_FALSE(m_screen->IsIdle()) << "the box is open"; }, Closing()};
+  });
+  EXPECT_FALSE(end.NextScale.has_value());
+}
+
+TEST_F(ContactsAppTest, FullScreenEndsTheShellAndIsRemembered) {
+  const ShellEnd end =
+      Run([this] { return std::vector<Step>{[this] { m_app->ToggleFullScreen(); }}; });
+  EXPECT_TRUE(end.NextScale.has_value());
+  EXPECT_TRUE(ReadShellSettings(*g_services.Registry).FullScreen);
+}
+
+TEST_F(ContactsAppTest, TheNextShellKeepsTheSessionAndTheList) {
+  Run([this] { return std::vector<Step>{Closing()}; });
+  const StoreProvider* const provider = g_store.Provider;
+  g_list.SearchText = QStringLiteral("Kim");
+  Run([this, provider] {
+    return std::vector<Step>{[this, provider] {
+                               EXPECT_EQ(g_store.Provider, provider);
+                               EXPECT_EQ(g_list.SearchText, QStringLiteral("Kim"));
+                             },
+                             Closing()};
+  });
+}
+
+TEST_F(ContactsAppTest, WhenItEndsNoWindowAndNoServiceOfItsIsLeft) {
+  const auto before = QApplication::allWidgets().size();
+  for (int i = 0; i < 20; ++i) Run([this] { return std::vector<Step>{Closing()}; });
+  EXPECT_EQ(QApplication::allWidgets().size(), before);
+  EXPECT_EQ(g_services.Prompt, nullptr);
+  EXPECT_EQ(g_services.Timers, nullptr);
+}
+
+}  // namespace
+}  // namespace quill

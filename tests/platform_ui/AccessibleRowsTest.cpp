@@ -1,0 +1,165 @@
+#include "platform/ui/AccessibleRows.h"
+
+#include <QAccessible>
+
+#include "platform/ui/MenuBar.h"
+#include "platform/ui/MenuPopup.h"
+#include "platform/ui/MessageBox.h"
+#include "platform/ui/TitleBar.h"
+#include "platform_ui/AccessibleChild.h"
+#include "platform_ui/SampleWindows.h"
+#include "platform_ui/ScreenFixture.h"
+#include "resources/Ids.h"
+
+namespace quill {
+namespace {
+
+using test::AccessibleChild;
+using test::Steps;
+
+class AccessibleRowsTest : public test::ScreenFixture {
+ protected:
+  AccessibleRowsTest()
+      : m_titleBar(*m_screen->findChild<CTitleBar*>()),
+        m_menuBar(*m_screen->findChild<CMenuBar*>()),
+        m_frame(*m_screen),
+        m_shellCommands({{ID_SHELL_LARGER, ID_SHELL_FULL_SCREEN, [](int) {}, nullptr}}) {
+    m_screen->SetShellCommands(&m_shellCommands);
+  }
+
+  QRect OnDesktop(QRect onScreen) const {
+    return {m_screen->mapToGlobal(onScreen.topLeft()), onScreen.size()};
+  }
+
+  CTitleBar& m_titleBar;
+  CMenuBar& m_menuBar;
+  test::SampleFrame m_frame;
+  CommandTarget m_shellCommands;
+};
+
+TEST_F(AccessibleRowsTest, PaintedWindowsSayWhatTheyAre) {
+  const auto* titleBar = QAccessible::queryAccessibleInterface(&m_titleBar);
+  EXPECT_EQ(titleBar->role(), QAccessible::TitleBar);
+  EXPECT_EQ(titleBar->text(QAccessible::Name), QStringLiteral("Title bar"));
+  const auto* menuBar = QAccessible::queryAccessibleInterface(&m_menuBar);
+  EXPECT_EQ(menuBar->role(), QAccessible::MenuBar);
+  EXPECT_EQ(menuBar->text(QAccessible::Name), QStringLiteral("Menu bar"));
+}
+
+TEST_F(AccessibleRowsTest, WindowsOfTheStackSayWhatTheyAreAndTheirCaption) {
+  test::SampleDialog dialog(*m_screen);
+  CMessageBox box(*m_screen, {.Text = QStringLiteral("Text")});
+  const std::vector<std::pair<CWindow*, QAccessible::Role>> windows = {
+      {&m_frame, QAccessible::Window},
+      {&dialog, QAccessible::Dialog},
+      {&box, QAccessible::AlertMessage}};
+  for (const auto& [window, role] : windows) {
+    const auto* accessible = QAccessible::queryAccessibleInterface(window);
+    EXPECT_EQ(accessible->role(), role);
+    EXPECT_EQ(accessible->text(QAccessible::Name), window->Caption());
+  }
+}
+
+TEST_F(AccessibleRowsTest, EachRowIsAChildWithRoleNameAndRectangle) {
+  auto* const bar = QAccessible::queryAccessibleInterface(&m_menuBar);
+  ASSERT_EQ(bar->childCount(), static_cast<int>(m_menuBar.Rows().size()));
+  for (int i = 0; i < bar->childCount(); ++i) {
+    const PaintedRow& row = m_menuBar.Rows()[i];
+    const auto* child = bar->child(i);
+    EXPECT_EQ(child->text(QAccessible::Name), row.SpokenName);
+    EXPECT_EQ(child->rect(), OnDesktop(RowNamed(m_menuBar, row.SpokenName)));
+    EXPECT_EQ(child->parent(), bar);
+    EXPECT_EQ(bar->indexOfChild(child), i);
+  }
+  EXPECT_EQ(bar->child(0)->role(), QAccessible::PushButton);
+  EXPECT_EQ(bar->child(2)->role(), QAccessible::MenuItem);
+  EXPECT_EQ(bar->child(bar->childCount()), nullptr);
+}
+
+TEST_F(AccessibleRowsTest, ARowIsFoundByAPointOfTheDesktop) {
+  auto* const bar = QAccessible::queryAccessibleInterface(&m_titleBar);
+  const QPoint onOK = OnDesktop(RowNamed(m_titleBar, QStringLiteral("OK"))).center();
+  EXPECT_EQ(bar->childAt(onOK.x(), onOK.y())->text(QAccessible::Name), QStringLiteral("OK"));
+  EXPECT_EQ(bar->childAt(onOK.x(), onOK.y() + 100), nullptr);
+}
+
+TEST_F(AccessibleRowsTest, AMenuTitleHasAPopupAndAButtonNone) {
+  EXPECT_TRUE(AccessibleChild(m_menuBar, u"Two").State().hasPopup);
+  EXPECT_FALSE(AccessibleChild(m_menuBar, u"New").State().hasPopup);
+}
+
+TEST_F(AccessibleRowsTest, ACheckedButtonIsSaidToBeChecked) {
+  EXPECT_FALSE(AccessibleChild(m_menuBar, u"Input panel").State().checked);
+  m_frame.Bar.Buttons[1].Checked = true;
+  m_screen->UpdateChrome();
+  EXPECT_TRUE(AccessibleChild(m_menuBar, u"Input panel").State().checked);
+}
+
+TEST_F(AccessibleRowsTest, PressingATitleBarButtonDoesWhatAPenDoes) {
+  AccessibleChild(m_titleBar, u"OK").Press();
+  AccessibleChild(m_titleBar, u"Close").Press();
+  EXPECT_EQ(m_frame.Happened, (QStringList{QStringLiteral("OK"), QStringLiteral("Cancel")}));
+}
+
+TEST_F(AccessibleRowsTest, PressingAMenuBarButtonRunsItsCommand) {
+  AccessibleChild(m_menuBar, u"New").Press();
+  EXPECT_EQ(m_frame.Ran, std::vector<int>{1});
+}
+
+TEST_F(AccessibleRowsTest, PressingAMenuTitleOpensItsMenuAndPressingAnItemChoosesIt) {
+  const Steps steps(*m_screen, {[this] { AccessibleChild(*m_screen->Popup(), u"Pear").Press(); }});
+  AccessibleChild(m_menuBar, u"One").Press();
+  EXPECT_EQ(m_frame.Ran, std::vector<int>{12});
+}
+
+TEST_F(AccessibleRowsTest, TheMenuActionOfTheCaptionOpensTheShellsMenu) {
+  const Steps steps(*m_screen, {[this] {
+    ASSERT_NE(m_screen->Popup(), nullptr);
+    EXPECT_EQ(m_screen->Popup()->Items()[0].Id, ID_SHELL_LARGER);
+    m_screen->Popup()->Dismiss();
+  }});
+  AccessibleChild(m_titleBar, u"Frame").ShowMenu();
+}
+
+TEST_F(AccessibleRowsTest, APopupsItemsSayHowTheyAre) {
+  m_frame.Bar.Menus[0].Items = {
+      {.Text = QStringLiteral("Checked"), .Id = 1, .Checked = true},
+      {.Text = QStringLiteral("Disabled"), .Id = 2, .Enabled = false},
+      {.Enabled = false, .Separator = true},
+      {.Text = QStringLiteral("More"), .Items = {{.Text = QStringLiteral("Inner"), .Id = 3}}}};
+  const Steps steps(*m_screen,
+                    {[this] {
+                       const CMenuPopup& menu = *m_screen->Popup();
+                       auto* const popup = QAccessible::queryAccessibleInterface(m_screen->Popup());
+                       EXPECT_EQ(popup->role(), QAccessible::PopupMenu);
+                       EXPECT_TRUE(AccessibleChild(menu, u"Checked").State().checked);
+                       EXPECT_TRUE(AccessibleChild(menu, u"Disabled").State().disabled);
+                       EXPECT_TRUE(AccessibleChild(menu, u"More").State().hasPopup);
+                       EXPECT_EQ(popup->child(2)->role(), QAccessible::Separator);
+                       AccessibleChild(menu, u"Disabled").Press();
+                     },
+                     [this] {
+                       ASSERT_NE(m_screen->Popup(), nullptr) << "it refused";
+                       m_input.Key(Qt::Key_Down);
+                       EXPECT_TRUE(AccessibleChild(*m_screen->Popup(), u"Checked").State().focused);
+                       m_screen->Popup()->Dismiss();
+                     }});
+  m_input.Key(Qt::Key_F10);
+  EXPECT_TRUE(m_frame.Ran.empty());
+}
+
+TEST_F(AccessibleRowsTest, ARowThatIsGoneIsInvalidAndHarmless) {
+  auto* const last = QAccessible::queryAccessibleInterface(&m_menuBar)->child(4);
+  ASSERT_TRUE(last->isValid());
+  m_frame.Bar.Menus.clear();
+  m_screen->UpdateChrome();
+  EXPECT_FALSE(last->isValid());
+  EXPECT_TRUE(last->rect().isNull());
+  EXPECT_TRUE(last->text(QAccessible::Name).isEmpty());
+  EXPECT_TRUE(last->state().invisible);
+  last->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_TRUE(m_frame.Ran.empty());
+}
+
+}  // namespace
+}  // namespace quill

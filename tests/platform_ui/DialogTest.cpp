@@ -1,0 +1,71 @@
+#include "platform/ui/Dialog.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <array>
+
+#include "platform/ui/DropDown.h"
+#include "platform_ui/SampleWindows.h"
+#include "platform_ui/ScreenFixture.h"
+
+namespace quill {
+namespace {
+
+using test::SampleDialog;
+
+class DialogTest : public test::ScreenFixture {};
+
+TEST_F(DialogTest, ASmallOneStandsAtItsPlaceWithItsControlsBelowTheCaption) {
+  const SampleDialog dialog(*m_screen);
+  EXPECT_EQ(dialog.Size(), WindowSize::Small);
+  EXPECT_EQ(dialog.geometry(), QRect(30, 60, 180, 160));
+  EXPECT_EQ(dialog.Caption(), QStringLiteral("Sample"));
+  EXPECT_EQ(dialog.Control(test::kFirstEdit)->geometry(), QRect(10, 10 + 16, 100, 17));
+}
+
+TEST_F(DialogTest, AFullScreenOneFillsTheClientAreaAndPaintsNoCaption) {
+  const SampleDialog dialog(*m_screen, test::FullScreenSample());
+  EXPECT_EQ(dialog.Size(), WindowSize::FullScreen);
+  EXPECT_EQ(dialog.geometry(), QRect(0, 26, 240, 270));
+  EXPECT_EQ(dialog.Control(test::kFirstEdit)->geometry(), QRect(10, 10, 100, 17));
+}
+
+TEST_F(DialogTest, ItsControlsAreOfTheirKindsAndFoundById) {
+  const SampleDialog dialog(*m_screen);
+  auto* edit = qobject_cast<QLineEdit*>(dialog.Control(test::kFirstEdit));
+  ASSERT_NE(edit, nullptr);
+  EXPECT_EQ(edit->text(), QStringLiteral("first"));
+  EXPECT_NE(qobject_cast<QCheckBox*>(dialog.Control(test::kSampleCheck)), nullptr);
+  EXPECT_NE(qobject_cast<CDropDown*>(dialog.Control(test::kSampleList)), nullptr);
+  EXPECT_NE(qobject_cast<QPushButton*>(dialog.Control(kResultOK)), nullptr);
+  EXPECT_EQ(dialog.Control(4711), nullptr);
+}
+
+TEST_F(DialogTest, AHiddenControlIsThereButDoesNotShow) {
+  SampleDialog dialog(*m_screen);
+  dialog.show();
+  EXPECT_TRUE(dialog.Control(test::kFirstEdit)->isVisible());
+  EXPECT_FALSE(dialog.Control(test::kHiddenEdit)->isVisible());
+}
+
+TEST_F(DialogTest, LabelsAreAlignedAsTheirKindSaysAndNeverMarkup) {
+  constexpr std::array kLabels = {
+      resources::DialogControl{resources::ControlKind::Label, 1001, u"<i>a</i>", {0, 0, 90, 17}},
+      resources::DialogControl{resources::ControlKind::CentredLabel, 1002, u"b", {0, 20, 90, 17}}};
+  const SampleDialog dialog(*m_screen, {1, u"Labels", {10, 40, 100, 80}, kLabels});
+  const auto* left = qobject_cast<QLabel*>(dialog.Control(1001));
+  const auto* centred = qobject_cast<QLabel*>(dialog.Control(1002));
+  EXPECT_EQ(left->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
+  EXPECT_EQ(centred->alignment(), Qt::AlignHCenter | Qt::AlignVCenter);
+  EXPECT_EQ(left->textFormat(), Qt::PlainText);
+}
+
+TEST_F(DialogTest, ItsNameForAssistiveTechnologyIsItsCaption) {
+  EXPECT_EQ(SampleDialog(*m_screen).accessibleName(), QStringLiteral("Sample"));
+}
+
+}  // namespace
+}  // namespace quill

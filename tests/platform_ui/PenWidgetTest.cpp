@@ -1,0 +1,111 @@
+#include "platform/ui/PenWidget.h"
+
+#include "platform_ui/PenLog.h"
+#include "platform_ui/ScreenFixture.h"
+
+namespace quill {
+namespace {
+
+using test::PenLog;
+using test::ScreenInput;
+
+constexpr QPoint kOrigin{20, 40};
+constexpr QPoint kFarAway{200, 290};
+
+QPoint At(int x, int y) { return kOrigin + QPoint(x, y); }
+
+struct PenDevice {
+  const char* Name;
+  void (*Press)(ScreenInput&, QPoint);
+  void (*Move)(ScreenInput&, QPoint);
+  void (*Release)(ScreenInput&, QPoint);
+};
+
+const PenDevice kMouse = {"Mouse", [](ScreenInput& input, QPoint at) { input.Press(at); },
+                          [](ScreenInput& input, QPoint at) { input.Move(at); },
+                          [](ScreenInput& input, QPoint at) { input.Release(at); }};
+const PenDevice kTablet = {"Tablet", [](ScreenInput& input, QPoint at) { input.TabletPress(at); },
+                           [](ScreenInput& input, QPoint at) { input.TabletMove(at); },
+                           [](ScreenInput& input, QPoint at) { input.TabletRelease(at); }};
+const PenDevice kTouch = {"Touch", [](ScreenInput& input, QPoint at) { input.TouchPress(at); },
+                          [](ScreenInput& input, QPoint at) { input.TouchMove(at); },
+                          [](ScreenInput& input, QPoint at) { input.TouchRelease(at); }};
+
+class PenWidgetTest : public test::ScreenFixture {
+ protected:
+  PenWidgetTest() : m_pen(new PenLog(m_screen, kOrigin)) {}
+
+  PenLog* m_pen;
+};
+
+class PenDeviceTest : public PenWidgetTest, public testing::WithParamInterface<PenDevice> {};
+
+TEST_P(PenDeviceTest, GivesPressMovesAndOneReleaseInPixelsOfTheWidget) {
+  GetParam().Press(m_input, At(3, 4));
+  GetParam().Move(m_input, At(5, 6));
+  GetParam().Move(m_input, At(50, 60));
+  GetParam().Release(m_input, At(50, 61));
+  EXPECT_EQ(m_pen->Take(),
+            (QStringList{QStringLiteral("press 3,4"), QStringLiteral("move 5,6"),
+                         QStringLiteral("move 50,60"), QStringLiteral("release 50,61")}));
+}
+
+TEST_P(PenDeviceTest, TheReleaseComesToTheWidgetOfThePress) {
+  PenLog* const other = new PenLog(m_screen, kFarAway);
+  GetParam().Press(m_input, At(3, 4));
+  GetParam().Move(m_input, kFarAway);
+  GetParam().Release(m_input, kFarAway);
+  EXPECT_EQ(m_pen->Take().last(), QStringLiteral("release 180,250"));
+  EXPECT_TRUE(other->Take().isEmpty());
+}
+
+TEST_P(PenDeviceTest, APressElsewhereIsNotThisWidgetsAffair) {
+  GetParam().Press(m_input, kFarAway);
+  GetParam().Move(m_input, At(3, 4));
+  GetParam().Release(m_input, At(3, 4));
+  EXPECT_TRUE(m_pen->Take().isEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Devices, PenDeviceTest, testing::Values(kMouse, kTablet, kTouch),
+                         [](const auto& parameter) { return std::string(parameter.param.Name); });
+
+TEST_F(PenWidgetTest, APenThatDoesNotTouchHovers) {
+  m_input.Hover(At(7, 8));
+  EXPECT_EQ(m_pen->Take(), QStringList{QStringLiteral("hover 7,8")});
+  m_input.TabletHover(At(9, 10));
+  EXPECT_EQ(m_pen->Take(), QStringList{QStringLiteral("hover 9,10")});
+}
+
+TEST_F(PenWidgetTest, TheSecondPressOfADoubleTapIsTold) {
+  m_input.Tap(At(3, 4));
+  m_input.PressAgain(At(3, 4));
+  EXPECT_EQ(m_pen->Take(), (QStringList{QStringLiteral("press 3,4"), QStringLiteral("release 3,4"),
+                                        QStringLiteral("double 3,4")}));
+}
+
+TEST_F(PenWidgetTest, AWidgetWithoutUseForDoubleTapsTakesASecondPress) {
+  m_pen->TakesDoubleTaps = false;
+  m_input.PressAgain(At(3, 4));
+  EXPECT_EQ(m_pen->Take(), QStringList{QStringLiteral("press 3,4")});
+}
+
+TEST_F(PenWidgetTest, OtherButtonsDoNothing) {
+  for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+    m_input.Press(At(3, 4), button);
+    m_input.Release(At(3, 4), button);
+  }
+  EXPECT_TRUE(m_pen->Take().isEmpty());
+}
+
+TEST_F(PenWidgetTest, ASecondFingerDoesNothing) {
+  m_input.TouchPress(At(3, 4));
+  m_input.TouchPress(At(30, 40), 1);
+  m_input.TouchRelease(At(31, 41), 1);
+  m_input.TouchRelease(At(3, 4));
+  QStringList log = m_pen->Take();
+  log.removeAll(QStringLiteral("move 3,4"));  // where it is already
+  EXPECT_EQ(log, (QStringList{QStringLiteral("press 3,4"), QStringLiteral("release 3,4")}));
+}
+
+}  // namespace
+}  // namespace quill

@@ -1,0 +1,62 @@
+#include "platform_ui/SampleWindows.h"
+
+#include <array>
+
+namespace quill::test {
+
+namespace {
+
+using resources::ControlKind;
+using resources::DialogControl;
+
+constexpr std::array kControls = {
+    DialogControl{ControlKind::Edit, kFirstEdit, u"first", {10, 10, 100, 17}},
+    DialogControl{ControlKind::Edit, kSecondEdit, u"second", {10, 30, 100, 17}},
+    DialogControl{ControlKind::Check, kSampleCheck, u"Check", {10, 50, 100, 17}},
+    DialogControl{
+        ControlKind::Edit, kHiddenEdit, u"", {10, 70, 100, 17}, resources::ControlState::Hidden},
+    DialogControl{ControlKind::DropDown, kSampleList, u"", {10, 70, 100, 18}},
+    DialogControl{ControlKind::Button, kResultOK, u"OK", {10, 100, 64, 26}},
+    DialogControl{ControlKind::Button, kResultCancel, u"Cancel", {80, 100, 64, 26}},
+};
+constexpr resources::DialogResource kSmall = {1, u"Sample", {30, 60, 180, 160}, kControls};
+constexpr resources::DialogResource kFullScreen = {2, u"Full sample", {}, kControls};
+
+MenuItem Item(const QString& text, int id) { return {.Text = text, .Id = id}; }
+
+}  // namespace
+
+SampleFrame::SampleFrame(CScreen& screen)
+    : CWindow(screen),
+      m_commands(
+          {{1, 99, [this](int id) { Ran.push_back(id); }, nullptr}, {100, 100, nullptr, nullptr}}) {
+  Bar.Buttons = {Item(QStringLiteral("New"), 1), screen.InputPanelButton()};
+  Bar.Menus = {{QStringLiteral("One"),
+                {Item(QStringLiteral("Apple"), 11), Item(QStringLiteral("Pear"), 12)}},
+               {QStringLiteral("Two"), {Item(QStringLiteral("Plum"), 21)}},
+               {QStringLiteral("Three"), {Item(QStringLiteral("Grape"), 31)}}};
+  SetCaption(QStringLiteral("Frame"));
+  screen.Push(*this);
+  show();
+}
+
+SampleFrame::~SampleFrame() { Screen().Remove(*this); }
+
+CommandRoute SampleFrame::Route() const {
+  CommandRoute route;
+  route.Add(m_commands);
+  return route;
+}
+
+bool SampleFrame::ShowContextMenu() {
+  if (HasContextMenu) Happened.push_back(QStringLiteral("Context menu"));
+  return HasContextMenu;
+}
+
+SampleDialog::SampleDialog(CScreen& screen) : CDialog(screen, kSmall) {}
+
+const resources::DialogResource& FullScreenSample() { return kFullScreen; }
+
+const resources::DialogResource& SmallSample() { return kSmall; }
+
+}  // namespace quill::test
