@@ -23,15 +23,16 @@ ShellSettings ReadShellSettings(const RegistryStore& registry) {
   ShellSettings settings;
   const auto hundredths = registry.QueryNumber(ShellKey(), ScaleName());
   if (hundredths) settings.WindowScale = ScaleOfHundredths(*hundredths).value_or(Scale());
-  settings.FullScreen = registry.QueryNumber(ShellKey(), FullScreenName()) == 1U;
+  const auto fullScreen = registry.QueryNumber(ShellKey(), FullScreenName());
+  if (fullScreen && *fullScreen <= 1) settings.FullScreen = *fullScreen == 1;
   return settings;
 }
 
 bool WriteShellSettings(RegistryStore& registry, const ShellSettings& settings) {
   const auto quarters = static_cast<quint32>(settings.WindowScale.Quarters);
   const bool scale = registry.PutNumber(ShellKey(), ScaleName(), quarters * kHundredthsPerQuarter);
-  const bool fullScreen =
-      registry.PutNumber(ShellKey(), FullScreenName(), settings.FullScreen ? 1 : 0);
+  const bool fullScreen = !settings.FullScreen || registry.PutNumber(ShellKey(), FullScreenName(),
+                                                                     *settings.FullScreen ? 1 : 0);
   return scale && fullScreen;
 }
 

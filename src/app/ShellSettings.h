@@ -1,6 +1,8 @@
 // What the shell remembers from one start to the next: its scale and whether it fills the screen.
 #pragma once
 
+#include <optional>
+
 #include "platform/RegistryStore.h"
 #include "platform/Scale.h"
 
@@ -8,7 +10,7 @@ namespace quill {
 
 struct ShellSettings {
   Scale WindowScale;
-  bool FullScreen = false;
+  std::optional<bool> FullScreen;  // nothing: as the screen suggests
 
   bool operator==(const ShellSettings&) const = default;
 };

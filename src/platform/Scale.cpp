@@ -8,6 +8,9 @@ namespace quill {
 
 namespace {
 
+constexpr int kUprightWidth = 600;  // a phone's screen, held upright, is no wider
+constexpr QSize kSmallDesktop = {640, 480};
+
 bool IsPlainDecimal(QStringView text) {
   return !text.isEmpty() && std::ranges::all_of(text, [](QChar unit) {
     return unit == u'.' || (u'0' <= unit && unit <= u'9');
@@ -41,5 +44,12 @@ Scale FitScale(Scale wanted, QSize available) {
 Scale StepUp(Scale scale, QSize available) { return FitScale({scale.Quarters + 1}, available); }
 
 Scale StepDown(Scale scale) { return std::max(Scale{scale.Quarters - 1}, kSmallestScale); }
+
+bool IsHandheldScreen(QSize desktop) {
+  const bool upright = desktop.height() >= desktop.width() && desktop.width() <= kUprightWidth;
+  const bool small =
+      desktop.width() <= kSmallDesktop.width() && desktop.height() <= kSmallDesktop.height();
+  return upright || small;
+}
 
 }  // namespace quill

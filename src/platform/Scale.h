@@ -34,4 +34,7 @@ Scale FitScale(Scale wanted, QSize available);
 Scale StepUp(Scale scale, QSize available);
 Scale StepDown(Scale scale);
 
+// Whether a desktop of this many pixels is a handheld's: upright and narrow, or small either way.
+bool IsHandheldScreen(QSize desktop);
+
 }  // namespace quill

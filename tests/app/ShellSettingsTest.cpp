@@ -21,7 +21,12 @@ class ShellSettingsIn : public testing::Test {
 TEST_F(ShellSettingsIn, AnEmptyRegistryAreTheDefaults) {
   const ShellSettings settings = ReadShellSettings(m_registry);
   EXPECT_EQ(settings.WindowScale.Quarters, 8);
-  EXPECT_FALSE(settings.FullScreen);
+  EXPECT_FALSE(settings.FullScreen.has_value());
+}
+
+TEST_F(ShellSettingsIn, AScaleAloneLeavesFullScreenToTheScreen) {
+  ASSERT_TRUE(WriteShellSettings(m_registry, {Scale{7}, std::nullopt}));
+  EXPECT_EQ(ReadShellSettings(m_registry).FullScreen, std::nullopt);
 }
 
 TEST_F(ShellSettingsIn, TheRegistrySurviveTheProcess) {

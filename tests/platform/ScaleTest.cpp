@@ -81,5 +81,24 @@ TEST(Scale, StepsGoByAQuarterAndStopAtTheEnds) {
   EXPECT_EQ(StepDown({4}), Scale{4});
 }
 
+struct DesktopCase {
+  QSize Desktop;
+  bool Handheld;
+};
+class HandheldScreen : public testing::TestWithParam<DesktopCase> {};
+
+TEST_P(HandheldScreen, IsUprightAndNarrowOrSmall) {
+  EXPECT_EQ(IsHandheldScreen(GetParam().Desktop), GetParam().Handheld);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Desktops, HandheldScreen,
+    testing::Values(DesktopCase{{240, 320}, true}, DesktopCase{{480, 640}, true},
+                    DesktopCase{{640, 480}, true}, DesktopCase{{360, 780}, true},
+                    DesktopCase{{600, 600}, true}, DesktopCase{{601, 1024}, false},
+                    DesktopCase{{641, 480}, false}, DesktopCase{{640, 481}, false},
+                    DesktopCase{{1024, 600}, false}, DesktopCase{{800, 800}, false},
+                    DesktopCase{{1080, 1920}, false}));
+
 }  // namespace
 }  // namespace quill

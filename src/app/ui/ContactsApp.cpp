@@ -75,7 +75,7 @@ ShellEnd CContactsApp::Run() {
 Scale CContactsApp::FittedScale() const {
   if (m_start.Origin != ScaleOrigin::Remembered) return m_start.At;
   const QScreen* const screen = QGuiApplication::primaryScreen();
-  if (m_settings.FullScreen) return LargestFitting(DesktopPixels(screen->size(), m_start.At));
+  if (IsFullScreen()) return LargestFitting(DesktopPixels(screen->size(), m_start.At));
   return FitScale(m_start.At, DesktopPixels(screen->availableSize(), m_start.At));
 }
 
@@ -83,24 +83,23 @@ void CContactsApp::InitInstance() {
   m_document = std::make_unique<CContactsDoc>();
   m_frame = std::make_unique<CMainFrame>(*m_screen, *m_commands);
   m_frame->show();
-  if (m_program.TakeFirstStart()) {
-    m_outer->setWindowTitle(kApplicationTitle.toString());
+  ShowMainWindow();  // before the session: opening it may have to show a message
+  if (m_program.TakeFirstStart())
     m_frame->View().OnInitialUpdate(m_program.Store());
-  } else {
+  else
     m_frame->View().ShowState();
-  }
-  if (!m_screen->IsClosing()) ShowMainWindow();
+  if (m_screen->IsClosing()) return;
+  m_frame->View().FocusList();
+  if (g_store.Provider) m_frame->WatchStore(*g_store.Provider);
+  Listen();
 }
 
 void CContactsApp::ShowMainWindow() {
   m_outer->setWindowTitle(kApplicationTitle.toString());
   m_outer->setWindowIcon(QIcon::fromTheme(QGuiApplication::desktopFileName()));
-  m_settings.FullScreen ? m_outer->ShowOnFullScreen() : m_outer->ShowWindowed();
+  IsFullScreen() ? m_outer->ShowOnFullScreen() : m_outer->ShowWindowed();
   m_outer->raise();
   m_outer->activateWindow();
-  m_frame->View().FocusList();
-  if (g_store.Provider) m_frame->WatchStore(*g_store.Provider);
-  Listen();
 }
 
 void CContactsApp::Listen() {
@@ -135,17 +134,22 @@ bool CContactsApp::HandleRequest(const Request& request) {
 
 void CContactsApp::ShowAbout() { CAboutDialog(*m_screen).DoModal(); }
 
+bool CContactsApp::IsFullScreen() const {
+  const QSize logical = QGuiApplication::primaryScreen()->size();
+  return m_settings.FullScreen.value_or(IsHandheldScreen(DesktopPixels(logical, m_start.At)));
+}
+
 bool CContactsApp::MayChangeScale() const { return m_screen->IsIdle(); }
 
 std::optional<Scale> CContactsApp::LargerScale() const {
   const QSize available = QGuiApplication::primaryScreen()->availableSize();
   const Scale larger = StepUp(m_start.At, DesktopPixels(available, m_start.At));
-  return m_settings.FullScreen || larger == m_start.At ? std::nullopt : std::optional(larger);
+  return IsFullScreen() || larger == m_start.At ? std::nullopt : std::optional(larger);
 }
 
 std::optional<Scale> CContactsApp::SmallerScale() const {
   const Scale smaller = StepDown(m_start.At);
-  return m_settings.FullScreen || smaller == m_start.At ? std::nullopt : std::optional(smaller);
+  return IsFullScreen() || smaller == m_start.At ? std::nullopt : std::optional(smaller);
 }
 
 void CContactsApp::ChangeScale(Scale scale) {
@@ -155,13 +159,12 @@ void CContactsApp::ChangeScale(Scale scale) {
 }
 
 void CContactsApp::ToggleFullScreen() {
-  m_settings.FullScreen = !m_settings.FullScreen;
+  m_settings.FullScreen = !IsFullScreen();
   WriteShellSettings(*g_services.Registry, m_settings);  // a failure is logged: the screen changes
   const QScreen* const screen = QGuiApplication::primaryScreen();
-  const Scale next =
-      m_settings.FullScreen
-          ? LargestFitting(DesktopPixels(screen->size(), m_start.At))
-          : FitScale(m_settings.WindowScale, DesktopPixels(screen->availableSize(), m_start.At));
+  const Scale next = IsFullScreen() ? LargestFitting(DesktopPixels(screen->size(), m_start.At))
+                                    : FitScale(m_settings.WindowScale,
+                                               DesktopPixels(screen->availableSize(), m_start.At));
   Leave({0, next});
 }
 

@@ -49,7 +49,7 @@ class CContactsApp {
   // happens) while a modal window is open or when there is no such scale.
   std::optional<Scale> LargerScale() const;
   std::optional<Scale> SmallerScale() const;
-  bool IsFullScreen() const { return m_settings.FullScreen; }
+  bool IsFullScreen() const;
   bool MayChangeScale() const;
   void ChangeScale(Scale scale);
   void ToggleFullScreen();

@@ -1,5 +1,6 @@
 #include "app/ui/FileImport.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 
 #include "cli/ImportVerb.h"
