@@ -44,6 +44,7 @@ CContactsView::CContactsView(QWidget* frame)
       m_modeCommands(MakeViewModeCommands(*this)) {
   MakeControls();
   PlaceControls();
+  ShowPage();
 }
 
 CContactsView::~CContactsView() {
