@@ -2,6 +2,7 @@
 #include "app/ui/ContactsApp.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -144,6 +145,21 @@ TEST_F(ContactsAppTest, WhenItEndsNoWindowAndNoServiceOfItsIsLeft) {
   EXPECT_EQ(QApplication::allWidgets().size(), before);
   EXPECT_EQ(g_services.Prompt, nullptr);
   EXPECT_EQ(g_services.Timers, nullptr);
+}
+
+TEST_F(ContactsAppTest, AStoreThatIsNoStoreIsToldInAWindowThatTheUserSees) {
+  QFile store(m_program.Where().StoreFile);
+  ASSERT_TRUE(store.open(QIODevice::WriteOnly));
+  store.write(QByteArray(5000, 'x'));
+  store.close();
+  Run([this] {
+    return std::vector<Step>{[this] {
+                               EXPECT_EQ(m_screen->Topmost()->Kind(), WindowKind::Message);
+                               EXPECT_TRUE(m_outer->isVisible());
+                               EXPECT_TRUE(m_screen->Topmost()->isVisible());
+                             },
+                             Closing()};
+  });
 }
 
 }  // namespace
