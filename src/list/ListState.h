@@ -63,6 +63,7 @@ struct ListState {
   int Top = 0;                   // 0-based position of the first row shown
   int RowsPerPage = kRowsWithIndex;
   int RowsShown = 0;
+  bool RefreshNeeded = false;  // the store changed since the page was built
   std::array<ListRow, kRowsWithoutIndex> Rows;
 };
 extern ListState g_list;

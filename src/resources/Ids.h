@@ -42,6 +42,14 @@ inline constexpr int kIcon = 20;
 inline constexpr int kText = 65535;
 }  // namespace MessageBoxIds
 
+// The menu of a line editor.
+namespace EditMenuIds {
+inline constexpr int kCut = 1;
+inline constexpr int kCopy = 2;
+inline constexpr int kPaste = 3;
+inline constexpr int kSelectAll = 4;
+}  // namespace EditMenuIds
+
 namespace AboutDialogIds {
 inline constexpr int kDialog = 100;
 inline constexpr int kTitle = 1001;

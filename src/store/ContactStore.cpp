@@ -26,7 +26,8 @@ StartupCode FailStartup(StoreProvider& provider, StartupCode step, int code) {
   const QString message = StartupText(step, code);
   qCWarning(storeLog).noquote() << message << provider.LastError();
   provider.Close();
-  g_store = {.Provider = nullptr, .Message = message};
+  g_store = {};
+  g_store.Message = message;
   // Only the first step is shown: intended.
   if (step == StartupCode::CreateFailed && g_services.Prompt) {
     g_services.Prompt->Show({.Text = message, .Icon = PromptIcon::Error});
@@ -61,6 +62,7 @@ StartupCode OpenSession(StoreProvider& provider) {
     return FailStartup(provider, StartupCode::CalendarFolderFailed, code);
   }
   g_store.Provider = &provider;
+  g_store.ChangesSeen = provider.Changes();
   return StartupCode::Opened;
 }
 

@@ -29,6 +29,7 @@ enum class StartupCode {
 struct StoreState {
   StoreProvider* Provider = nullptr;  // set while a session is open; not owned
   QString Message;                    // the text of a start-up that failed
+  qint64 ChangesSeen = 0;             // the provider's Changes when the window looked last
 };
 extern StoreState g_store;
 

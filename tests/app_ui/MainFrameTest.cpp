@@ -31,6 +31,12 @@ class MainFrameTest : public test::FrameFixture {
     QCoreApplication::sendEvent(m_frame.get(), &event);
   }
 
+  // Opens a session over the store that is watched.
+  void OpenWatched() {
+    m_frame->View().OnInitialUpdate(m_watched);
+    m_frame->WatchStore();
+  }
+
   WatchedStore m_watched{m_store};
 };
 
@@ -141,8 +147,7 @@ TEST_F(MainFrameTest, APanelThatWasDownStaysDown) {
 }
 
 TEST_F(MainFrameTest, AnothersCommitIsFoundWithinAQuarterOfASecond) {
-  Open();
-  m_frame->WatchStore(m_watched);
+  OpenWatched();
   m_watched.Number = 1;
   m_timers.Advance(249);
   Deliver();
@@ -154,8 +159,7 @@ TEST_F(MainFrameTest, AnothersCommitIsFoundWithinAQuarterOfASecond) {
 }
 
 TEST_F(MainFrameTest, AnothersCommitIsFoundOnActivationAtOnce) {
-  Open();
-  m_frame->WatchStore(m_watched);
+  OpenWatched();
   m_watched.Number = 1;
   Send(QEvent::WindowActivate);
   Deliver();
@@ -164,16 +168,14 @@ TEST_F(MainFrameTest, AnothersCommitIsFoundOnActivationAtOnce) {
 }
 
 TEST_F(MainFrameTest, WithoutACommitOfOthersNothingIsRebuilt) {
-  Open();
-  m_frame->WatchStore(m_watched);
+  OpenWatched();
   m_timers.Advance(5000);
   Deliver();
   EXPECT_FALSE(ViewWaits());
 }
 
 TEST_F(MainFrameTest, AHiddenWindowDoesNotLookForCommits) {
-  Open();
-  m_frame->WatchStore(m_watched);
+  OpenWatched();
   m_watched.Number = 1;
   m_outer->hide();
   m_timers.Advance(5000);

@@ -1,6 +1,7 @@
 #include "platform/ui/ModalWindow.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QPushButton>
 
 #include <set>
@@ -160,6 +161,27 @@ TEST_F(ModalWindowTest, AHundredDialogsLeaveNoWidgetBehind) {
   const auto before = QApplication::allWidgets().size();
   for (int i = 0; i < 100; ++i) runOne(i);
   EXPECT_EQ(QApplication::allWidgets().size(), before);
+}
+
+TEST_F(ModalWindowTest, FocusGoesBackThoughTheDesktopsFocusIsElsewhere) {
+  test::SampleFrame frame(*m_screen);
+  QLineEdit editor(&frame);
+  editor.show();
+  editor.setFocus();
+  QWidget elsewhere;
+  elsewhere.show();
+  elsewhere.activateWindow();
+  QCoreApplication::processEvents();
+  ASSERT_FALSE(m_outer->isActiveWindow());
+  test::SampleDialog dialog(*m_screen);
+  {
+    const test::Steps steps(*m_screen,
+                            {[this] { m_outer->activateWindow(); }, [&] { dialog.EndDialog(1); }});
+    dialog.DoModal();
+  }
+  m_outer->activateWindow();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(m_outer->focusWidget(), &editor);
 }
 
 }  // namespace

@@ -71,5 +71,17 @@ TEST_F(PalmGuardTest, ATouchThatBeganBeforeThePenCameStillEnds) {
   EXPECT_EQ(m_pen->Take(), QStringList{QStringLiteral("release 10,10")});
 }
 
+TEST_F(PalmGuardTest, ASecondFingerOnAnotherWidgetDoesNothing) {
+  auto* const other = new test::PenLog(m_screen, {120, 40});
+  m_input.TouchPress({23, 44});
+  m_input.TouchPress({125, 50}, 1);
+  m_input.TouchRelease({125, 50}, 1);
+  m_input.TouchRelease({23, 44});
+  QStringList log = m_pen->Take();
+  log.removeAll(QStringLiteral("move 3,4"));
+  EXPECT_EQ(log.join(u';').toStdString(), "press 3,4;release 3,4");
+  EXPECT_TRUE(other->Take().isEmpty());
+}
+
 }  // namespace
 }  // namespace quill

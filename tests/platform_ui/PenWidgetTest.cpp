@@ -1,5 +1,7 @@
 #include "platform/ui/PenWidget.h"
 
+#include <QTouchEvent>
+
 #include "platform_ui/PenLog.h"
 #include "platform_ui/ScreenFixture.h"
 
@@ -105,6 +107,27 @@ TEST_F(PenWidgetTest, ASecondFingerDoesNothing) {
   QStringList log = m_pen->Take();
   log.removeAll(QStringLiteral("move 3,4"));  // where it is already
   EXPECT_EQ(log, (QStringList{QStringLiteral("press 3,4"), QStringLiteral("release 3,4")}));
+}
+
+TEST_F(PenWidgetTest, TheReleaseIsTheFirstFingersEvenWhenAnotherStays) {
+  m_input.TouchPress({23, 44});
+  m_input.TouchPress({50, 80}, 1);
+  m_input.TouchRelease({23, 44});
+  m_input.TouchRelease({50, 80}, 1);
+  QStringList log = m_pen->Take();
+  log.removeAll(QStringLiteral("move 3,4"));
+  EXPECT_EQ(log.join(u';').toStdString(), "press 3,4;release 3,4");
+}
+
+TEST_F(PenWidgetTest, ATouchThatTheSystemTakesAwayEndsOutside) {
+  m_input.TouchPress({23, 44});
+  m_pen->Take();
+  QTouchEvent cancel(QEvent::TouchCancel);
+  QCoreApplication::sendEvent(m_pen, &cancel);
+  EXPECT_EQ(m_pen->Take().join(u';').toStdString(), "move -1,-1;release -1,-1");
+  m_input.TouchMove({25, 46});
+  EXPECT_TRUE(m_pen->Take().isEmpty());
+  m_input.TouchRelease({25, 46});
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 #include <QApplication>
 
 #include "platform/Services.h"
-#include "platform/ui/AccessibleRows.h"
+#include "platform/ui/Accessibility.h"
 #include "platform/ui/Look.h"
 #include "platform/ui/PaintedWindow.h"
 
@@ -13,7 +13,7 @@ namespace {
 
 std::unique_ptr<COuterWindow> MakeOuterWindow(Timers& timers, InputPanel& panel) {
   SetUpLook(*qApp);
-  InstallAccessibleRows();
+  InstallAccessibility();
   g_services.Timers = &timers;
   g_services.InputPanel = &panel;
   return std::make_unique<COuterWindow>();

@@ -14,7 +14,7 @@
 #include "app/ui/ShellCommands.h"
 #include "list/ui/ContactsView.h"
 #include "platform/Services.h"
-#include "platform/ui/AccessibleRows.h"
+#include "platform/ui/Accessibility.h"
 #include "platform/ui/Look.h"
 #include "platform/ui/OuterWindow.h"
 #include "platform/ui/Screen.h"
@@ -41,7 +41,7 @@ CContactsApp::CContactsApp(Program& program, const ShellStart& start)
       m_settings(ReadShellSettings(*g_services.Registry)),
       m_outer(std::make_unique<COuterWindow>()) {
   SetUpLook(*qApp);
-  InstallAccessibleRows();
+  InstallAccessibility();
   QGuiApplication::setQuitOnLastWindowClosed(false);
   QGuiApplication::setDesktopFileName(QStringLiteral("org.fennick.Quill"));
   g_services.Timers = &m_timers;
@@ -90,7 +90,7 @@ void CContactsApp::InitInstance() {
     m_frame->View().ShowState();
   if (m_screen->IsClosing()) return;
   m_frame->View().FocusList();
-  if (g_store.Provider) m_frame->WatchStore(*g_store.Provider);
+  m_frame->WatchStore();
   Listen();
 }
 

@@ -2,6 +2,8 @@
 
 #include <QEvent>
 
+#include <utility>
+
 #include "list/ui/ContactsView.h"
 #include "platform/InputPanel.h"
 #include "platform/Services.h"
@@ -9,6 +11,7 @@
 #include "resources/Ids.h"
 #include "resources/Menus.h"
 #include "resources/Strings.h"
+#include "store/ContactStore.h"
 
 namespace quill {
 
@@ -66,10 +69,8 @@ void CMainFrame::HandleStoreMessage(int number, int first, int second) {
 
 bool CMainFrame::CopyData(int kind, const QString& text) { return m_view->OnCopyData(kind, text); }
 
-void CMainFrame::WatchStore(StoreProvider& provider) {
-  m_watched = &provider;
-  m_changesSeen = provider.Changes();
-  g_services.Timers->Set(*this, kWatchTimer, kWatchInterval);
+void CMainFrame::WatchStore() {
+  if (g_store.Provider) g_services.Timers->Set(*this, kWatchTimer, kWatchInterval);
 }
 
 void CMainFrame::OnTimer(int id) {
@@ -77,10 +78,9 @@ void CMainFrame::OnTimer(int id) {
 }
 
 void CMainFrame::LookForChanges() {
-  if (!m_watched) return;
-  const qint64 changes = m_watched->Changes();
-  if (changes == m_changesSeen) return;
-  m_changesSeen = changes;
+  if (!g_store.Provider) return;
+  const qint64 changes = g_store.Provider->Changes();
+  if (changes == std::exchange(g_store.ChangesSeen, changes)) return;
   PostStoreMessage(kMessageItemWritten, 0, 0);
 }
 

@@ -31,8 +31,9 @@ class CMainFrame : public CWindow {
   // A request by another program, answered by the view.
   bool CopyData(int kind, const QString& text);
 
-  // While it watches, commits of other programs become change messages with first parameter 0.
-  void WatchStore(StoreProvider& provider);
+  // From now on commits of other programs become change messages with first parameter 0. Without a
+  // session it watches nothing.
+  void WatchStore();
 
  protected:
   bool event(QEvent* event) override;
@@ -45,8 +46,6 @@ class CMainFrame : public CWindow {
 
   CContactsView* m_view;
   const CommandTarget& m_applicationCommands;
-  StoreProvider* m_watched = nullptr;
-  qint64 m_changesSeen = 0;
   bool m_panelWasUp = false;  // when the desktop took the activation away
 };
 

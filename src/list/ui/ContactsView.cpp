@@ -1,7 +1,6 @@
 #include "list/ui/ContactsView.h"
 
 #include <QGuiApplication>
-#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
@@ -15,6 +14,7 @@
 #include "list/ui/IndexStrip.h"
 #include "list/ui/ViewModeCommands.h"
 #include "platform/Services.h"
+#include "platform/ui/Edit.h"
 #include "platform/ui/InputCommit.h"
 #include "resources/Ids.h"
 #include "store/ContactStore.h"
@@ -36,7 +36,7 @@ constexpr QRect kScrollBarArea{225, 45, 15, 222};
 
 CContactsView::CContactsView(QWidget* frame)
     : QWidget(frame),
-      m_searchEdit(new QLineEdit(this)),
+      m_searchEdit(new CEdit({}, this)),
       m_indexStrip(new CIndexStrip(this)),
       m_list(new CContactListCtrl(this)),
       m_scrollBar(new QScrollBar(Qt::Vertical, this)),
@@ -82,7 +82,7 @@ void CContactsView::OnInitialUpdate(StoreProvider& provider) {
 
 void CContactsView::ShowState() {
   m_searchEdit->setText(g_list.SearchText);
-  ShowPage();
+  g_list.RefreshNeeded ? Rebuild() : ShowPage();
 }
 
 CommandRoute CContactsView::Route() const {
@@ -93,7 +93,8 @@ CommandRoute CContactsView::Route() const {
 }
 
 void CContactsView::OnStoreNotice(int first, int) {
-  if (first == 1) return;
+  g_list.RefreshNeeded = first != 1;
+  if (!g_list.RefreshNeeded) return;
   if (!QGuiApplication::overrideCursor()) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
   g_services.Timers->Set(*this, kNoticeTimer, kNoticeDelay);
 }

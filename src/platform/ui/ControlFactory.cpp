@@ -2,11 +2,11 @@
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
 #include "platform/ui/Dialog.h"
 #include "platform/ui/DropDown.h"
+#include "platform/ui/Edit.h"
 
 namespace quill {
 
@@ -27,7 +27,7 @@ QWidget* MakeWidget(const resources::DialogControl& control, CDialog& dialog) {
     case resources::ControlKind::CentredLabel:
       return MakeLabel(text, Qt::AlignHCenter, &dialog);
     case resources::ControlKind::Edit:
-      return new QLineEdit(text, &dialog);
+      return new CEdit(text, &dialog);
     case resources::ControlKind::Button:
       return new QPushButton(text, &dialog);
     case resources::ControlKind::Check:

@@ -78,7 +78,6 @@ void SetUpLook(QApplication& application) {
   application.setStyle(new PenStyle);
   application.setPalette(LightPalette());
   application.setFont(ChooseFont());
-  application.setCursorFlashTime(1000);
 }
 
 QFont NormalFont() { return QApplication::font(); }

@@ -1,6 +1,5 @@
 #include "platform/ui/MenuPopup.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QWheelEvent>
@@ -78,7 +77,7 @@ CMenuPopup& CMenuPopup::Root() { return m_parentMenu ? m_parentMenu->Root() : *t
 
 int CMenuPopup::Track() {
   if (m_screen.IsClosing() || m_items.empty()) return 0;
-  const QPointer<QWidget> focusBefore = QApplication::focusWidget();
+  const QPointer<QWidget> focusBefore = m_screen.window()->focusWidget();
   CMenuShade shade(m_screen, *this);
   LayOut(0);
   if (m_request.Current >= 0) LayOut(FirstItemToShow(m_items, m_layout, m_request.Current));
@@ -168,6 +167,10 @@ void CMenuPopup::CloseSubmenu() {
   setFocus(Qt::PopupFocusReason);
 }
 
+bool CMenuPopup::HasOpenableItems(int item) const {
+  return !m_items[Index(item)].Items.empty() && m_items[Index(item)].Enabled;
+}
+
 bool CMenuPopup::ScrollAt(QPoint at) {
   const int step = std::max(1, m_layout.LastItem - m_layout.FirstItem);
   if (m_layout.UpStrip.contains(at))
@@ -182,13 +185,25 @@ bool CMenuPopup::ScrollAt(QPoint at) {
 void CMenuPopup::PenPress(QPoint at) {
   if (ScrollAt(at)) return;
   const int item = ItemAt(at);
-  if (item >= 0 && !m_items[Index(item)].Items.empty() && m_items[Index(item)].Enabled)
+  if (item >= 0 && HasOpenableItems(item))
     OpenSubmenu(item);
   else
     SetCurrent(item);
 }
 
-void CMenuPopup::PenMove(QPoint at) { SetCurrent(ItemAt(at)); }
+// The open submenu when it lies under this point.
+CMenuPopup* CMenuPopup::SubmenuAt(QPoint at) const {
+  return m_submenu && m_submenu->geometry().contains(mapToParent(at)) ? m_submenu.get() : nullptr;
+}
+
+void CMenuPopup::PenMove(QPoint at) {
+  if (CMenuPopup* const submenu = SubmenuAt(at))
+    return submenu->PenMove(submenu->mapFromParent(mapToParent(at)));
+  const int item = ItemAt(at);
+  if (item < 0 && m_submenu) return;  // on the way to the submenu
+  SetCurrent(item);
+  if (item >= 0 && HasOpenableItems(item)) OpenSubmenu(item);
+}
 
 void CMenuPopup::PenHover(QPoint at) {
   const int item = ItemAt(at);
@@ -196,6 +211,8 @@ void CMenuPopup::PenHover(QPoint at) {
 }
 
 void CMenuPopup::PenRelease(QPoint at) {
+  if (CMenuPopup* const submenu = SubmenuAt(at))
+    return submenu->PenRelease(submenu->mapFromParent(mapToParent(at)));
   const int item = ItemAt(at);
   if (item >= 0 && item == m_request.Current && m_items[Index(item)].Items.empty())
     ActivateItem(item);

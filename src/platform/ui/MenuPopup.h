@@ -66,6 +66,8 @@ class CMenuPopup : public CPaintedWindow {
   void ActivateItem(int item);
   void OpenSubmenu(int item);
   void CloseSubmenu();
+  CMenuPopup* SubmenuAt(QPoint at) const;
+  bool HasOpenableItems(int item) const;
   bool ScrollAt(QPoint at);
   void GoSideways(int direction);
   void JumpToLetter(const QString& letter);

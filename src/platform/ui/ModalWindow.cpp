@@ -15,7 +15,7 @@ namespace quill {
 int CModalWindow::DoModal() {
   if (Screen().IsClosing()) return kResultCancel;
   CommitInput();
-  const QPointer<QWidget> focusBefore = QApplication::focusWidget();
+  const QPointer<QWidget> focusBefore = window()->focusWidget();
   CShade shade(Screen());
   m_result.reset();
   Screen().Push(*this);

@@ -4,6 +4,8 @@
 #include <QEvent>
 #include <QPointerEvent>
 
+#include "platform/ui/PenWidget.h"
+
 namespace quill {
 
 namespace {
@@ -33,7 +35,7 @@ PalmGuard::PalmGuard() {
 }
 
 // Ends of touches pass: a window that saw the beginning must see the end.
-bool PalmGuard::eventFilter(QObject*, QEvent* event) {
+bool PalmGuard::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::TabletEnterProximity:
     case QEvent::TabletPress:
@@ -45,8 +47,19 @@ bool PalmGuard::eventFilter(QObject*, QEvent* event) {
       m_filter.PenAway(m_time.elapsed());
       return false;
     default:
-      return IsTouch(*event) && !m_filter.AcceptsTouch(m_time.elapsed());
+      if (IsTouch(*event) && !m_filter.AcceptsTouch(m_time.elapsed())) return true;
+      return IsSecondFinger(watched, *event);
   }
+}
+
+bool PalmGuard::IsSecondFinger(QObject* watched, const QEvent& event) {
+  const bool begins = event.type() == QEvent::TouchBegin;
+  const bool goesOn = event.type() == QEvent::TouchUpdate;
+  const bool ends = event.type() == QEvent::TouchEnd || event.type() == QEvent::TouchCancel;
+  if (!(begins || goesOn || ends) || !qobject_cast<CPenWidget*>(watched)) return false;
+  if (m_touched && m_touched != watched) return true;
+  m_touched = ends ? nullptr : watched;
+  return false;
 }
 
 }  // namespace quill

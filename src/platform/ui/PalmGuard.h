@@ -1,9 +1,11 @@
-// Keeps a palm from writing: while a pen is near, and shortly after, no touch reaches any window.
+// Keeps a palm from writing: while a pen is near, and shortly after, no touch reaches any window;
+// and while one finger is on a pen widget, a second one on another does nothing.
 // Installed on the application as an event filter; lives as long as one QApplication.
 #pragma once
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QPointer>
 
 #include "platform/PalmFilter.h"
 
@@ -15,7 +17,10 @@ class PalmGuard : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  bool IsSecondFinger(QObject* watched, const QEvent& event);
+
   PalmFilter m_filter;
+  QPointer<QObject> m_touched;  // the pen widget that a finger is on
   QElapsedTimer m_time;
 };
 

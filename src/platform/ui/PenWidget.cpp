@@ -4,7 +4,15 @@
 #include <QTabletEvent>
 #include <QTouchEvent>
 
+#include <utility>
+
 namespace quill {
+
+namespace {
+
+constexpr QPoint kOutside{-1, -1};
+
+}  // namespace
 
 CPenWidget::CPenWidget(QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_AcceptTouchEvents);
@@ -15,6 +23,11 @@ CPenWidget::CPenWidget(QWidget* parent) : QWidget(parent) {
 void CPenWidget::PenPress(QPoint) {}
 void CPenWidget::PenMove(QPoint) {}
 void CPenWidget::PenRelease(QPoint) {}
+void CPenWidget::PenCancel() {
+  PenMove(kOutside);
+  PenRelease(kOutside);
+}
+
 void CPenWidget::PenDoubleTap(QPoint at) { PenPress(at); }
 void CPenWidget::PenHover(QPoint) {}
 
@@ -72,20 +85,33 @@ bool CPenWidget::HandleTablet(QEvent* event) {
 
 // One finger is a pen; further fingers are nothing.
 bool CPenWidget::HandleTouch(QEvent* event) {
-  const auto* touch = static_cast<QTouchEvent*>(event);
   event->accept();
-  if (touch->points().isEmpty()) return true;
-  const QPoint at = touch->points().first().position().toPoint();
-  if (touch->type() == QEvent::TouchBegin) {
-    m_touching = true;
-    PenPress(at);
-  } else if (m_touching && touch->type() == QEvent::TouchUpdate) {
-    PenMove(at);
-  } else if (m_touching) {
-    m_touching = false;
-    PenRelease(at);
+  const auto* touch = static_cast<QTouchEvent*>(event);
+  if (touch->type() == QEvent::TouchCancel) {
+    if (std::exchange(m_finger, std::nullopt)) PenCancel();
+    return true;
   }
+  if (touch->type() == QEvent::TouchBegin && !touch->points().isEmpty())
+    m_finger = touch->points().first().id();
+  const QList<QEventPoint> fingers = touch->points();  // a handler may run a loop of its own
+  for (const QEventPoint& finger : fingers)
+    if (finger.id() == m_finger) HandleFinger(finger);
   return true;
+}
+
+void CPenWidget::HandleFinger(const QEventPoint& finger) {
+  const QPoint at = finger.position().toPoint();
+  switch (finger.state()) {
+    case QEventPoint::Pressed:
+      return PenPress(at);
+    case QEventPoint::Updated:
+      return PenMove(at);
+    case QEventPoint::Released:
+      m_finger.reset();
+      return PenRelease(at);
+    default:
+      return;
+  }
 }
 
 }  // namespace quill

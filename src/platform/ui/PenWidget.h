@@ -2,7 +2,10 @@
 // release, in logical pixels of the widget; the release comes to the widget of its press.
 #pragma once
 
+#include <QEventPoint>
 #include <QWidget>
+
+#include <optional>
 
 namespace quill {
 
@@ -15,6 +18,8 @@ class CPenWidget : public QWidget {
   virtual void PenPress(QPoint at);
   virtual void PenMove(QPoint at);
   virtual void PenRelease(QPoint at);
+  // The system took the touch away: by default a release outside, which acts on nothing.
+  virtual void PenCancel();
   // The second press of a double tap, instead of PenPress.
   virtual void PenDoubleTap(QPoint at);
   // The pen moves above the widget without touching it.
@@ -26,8 +31,9 @@ class CPenWidget : public QWidget {
   bool HandleMouse(QEvent* event);
   bool HandleTablet(QEvent* event);
   bool HandleTouch(QEvent* event);
+  void HandleFinger(const QEventPoint& finger);
 
-  bool m_touching = false;
+  std::optional<int> m_finger;  // the touching finger that is the pen
 };
 
 }  // namespace quill

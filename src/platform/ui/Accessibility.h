@@ -5,6 +5,6 @@
 namespace quill {
 
 // Makes such windows accessible from now on. Called once for each QApplication.
-void InstallAccessibleRows();
+void InstallAccessibility();
 
 }  // namespace quill

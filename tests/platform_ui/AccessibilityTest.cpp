@@ -1,4 +1,4 @@
-#include "platform/ui/AccessibleRows.h"
+#include "platform/ui/Accessibility.h"
 
 #include <QAccessible>
 
@@ -17,9 +17,9 @@ namespace {
 using test::AccessibleChild;
 using test::Steps;
 
-class AccessibleRowsTest : public test::ScreenFixture {
+class AccessibilityTest : public test::ScreenFixture {
  protected:
-  AccessibleRowsTest()
+  AccessibilityTest()
       : m_titleBar(*m_screen->findChild<CTitleBar*>()),
         m_menuBar(*m_screen->findChild<CMenuBar*>()),
         m_frame(*m_screen),
@@ -37,7 +37,7 @@ class AccessibleRowsTest : public test::ScreenFixture {
   CommandTarget m_shellCommands;
 };
 
-TEST_F(AccessibleRowsTest, PaintedWindowsSayWhatTheyAre) {
+TEST_F(AccessibilityTest, PaintedWindowsSayWhatTheyAre) {
   const auto* titleBar = QAccessible::queryAccessibleInterface(&m_titleBar);
   EXPECT_EQ(titleBar->role(), QAccessible::TitleBar);
   EXPECT_EQ(titleBar->text(QAccessible::Name), QStringLiteral("Title bar"));
@@ -46,7 +46,7 @@ TEST_F(AccessibleRowsTest, PaintedWindowsSayWhatTheyAre) {
   EXPECT_EQ(menuBar->text(QAccessible::Name), QStringLiteral("Menu bar"));
 }
 
-TEST_F(AccessibleRowsTest, WindowsOfTheStackSayWhatTheyAreAndTheirCaption) {
+TEST_F(AccessibilityTest, WindowsOfTheStackSayWhatTheyAreAndTheirCaption) {
   test::SampleDialog dialog(*m_screen);
   CMessageBox box(*m_screen, {.Text = QStringLiteral("Text")});
   const std::vector<std::pair<CWindow*, QAccessible::Role>> windows = {
@@ -60,7 +60,7 @@ TEST_F(AccessibleRowsTest, WindowsOfTheStackSayWhatTheyAreAndTheirCaption) {
   }
 }
 
-TEST_F(AccessibleRowsTest, EachRowIsAChildWithRoleNameAndRectangle) {
+TEST_F(AccessibilityTest, EachRowIsAChildWithRoleNameAndRectangle) {
   auto* const bar = QAccessible::queryAccessibleInterface(&m_menuBar);
   ASSERT_EQ(bar->childCount(), static_cast<int>(m_menuBar.Rows().size()));
   for (int i = 0; i < bar->childCount(); ++i) {
@@ -76,43 +76,43 @@ TEST_F(AccessibleRowsTest, EachRowIsAChildWithRoleNameAndRectangle) {
   EXPECT_EQ(bar->child(bar->childCount()), nullptr);
 }
 
-TEST_F(AccessibleRowsTest, ARowIsFoundByAPointOfTheDesktop) {
+TEST_F(AccessibilityTest, ARowIsFoundByAPointOfTheDesktop) {
   auto* const bar = QAccessible::queryAccessibleInterface(&m_titleBar);
   const QPoint onOK = OnDesktop(RowNamed(m_titleBar, QStringLiteral("OK"))).center();
   EXPECT_EQ(bar->childAt(onOK.x(), onOK.y())->text(QAccessible::Name), QStringLiteral("OK"));
   EXPECT_EQ(bar->childAt(onOK.x(), onOK.y() + 100), nullptr);
 }
 
-TEST_F(AccessibleRowsTest, AMenuTitleHasAPopupAndAButtonNone) {
+TEST_F(AccessibilityTest, AMenuTitleHasAPopupAndAButtonNone) {
   EXPECT_TRUE(AccessibleChild(m_menuBar, u"Two").State().hasPopup);
   EXPECT_FALSE(AccessibleChild(m_menuBar, u"New").State().hasPopup);
 }
 
-TEST_F(AccessibleRowsTest, ACheckedButtonIsSaidToBeChecked) {
+TEST_F(AccessibilityTest, ACheckedButtonIsSaidToBeChecked) {
   EXPECT_FALSE(AccessibleChild(m_menuBar, u"Input panel").State().checked);
   m_frame.Bar.Buttons[1].Checked = true;
   m_screen->UpdateChrome();
   EXPECT_TRUE(AccessibleChild(m_menuBar, u"Input panel").State().checked);
 }
 
-TEST_F(AccessibleRowsTest, PressingATitleBarButtonDoesWhatAPenDoes) {
+TEST_F(AccessibilityTest, PressingATitleBarButtonDoesWhatAPenDoes) {
   AccessibleChild(m_titleBar, u"OK").Press();
   AccessibleChild(m_titleBar, u"Close").Press();
   EXPECT_EQ(m_frame.Happened, (QStringList{QStringLiteral("OK"), QStringLiteral("Cancel")}));
 }
 
-TEST_F(AccessibleRowsTest, PressingAMenuBarButtonRunsItsCommand) {
+TEST_F(AccessibilityTest, PressingAMenuBarButtonRunsItsCommand) {
   AccessibleChild(m_menuBar, u"New").Press();
   EXPECT_EQ(m_frame.Ran, std::vector<int>{1});
 }
 
-TEST_F(AccessibleRowsTest, PressingAMenuTitleOpensItsMenuAndPressingAnItemChoosesIt) {
+TEST_F(AccessibilityTest, PressingAMenuTitleOpensItsMenuAndPressingAnItemChoosesIt) {
   const Steps steps(*m_screen, {[this] { AccessibleChild(*m_screen->Popup(), u"Pear").Press(); }});
   AccessibleChild(m_menuBar, u"One").Press();
   EXPECT_EQ(m_frame.Ran, std::vector<int>{12});
 }
 
-TEST_F(AccessibleRowsTest, TheMenuActionOfTheCaptionOpensTheShellsMenu) {
+TEST_F(AccessibilityTest, TheMenuActionOfTheCaptionOpensTheShellsMenu) {
   const Steps steps(*m_screen, {[this] {
     ASSERT_NE(m_screen->Popup(), nullptr);
     EXPECT_EQ(m_screen->Popup()->Items()[0].Id, ID_SHELL_LARGER);
@@ -121,7 +121,7 @@ TEST_F(AccessibleRowsTest, TheMenuActionOfTheCaptionOpensTheShellsMenu) {
   AccessibleChild(m_titleBar, u"Frame").ShowMenu();
 }
 
-TEST_F(AccessibleRowsTest, APopupsItemsSayHowTheyAre) {
+TEST_F(AccessibilityTest, APopupsItemsSayHowTheyAre) {
   m_frame.Bar.Menus[0].Items = {
       {.Text = QStringLiteral("Checked"), .Id = 1, .Checked = true},
       {.Text = QStringLiteral("Disabled"), .Id = 2, .Enabled = false},
@@ -148,7 +148,7 @@ TEST_F(AccessibleRowsTest, APopupsItemsSayHowTheyAre) {
   EXPECT_TRUE(m_frame.Ran.empty());
 }
 
-TEST_F(AccessibleRowsTest, ARowThatIsGoneIsInvalidAndHarmless) {
+TEST_F(AccessibilityTest, ARowThatIsGoneIsInvalidAndHarmless) {
   auto* const last = QAccessible::queryAccessibleInterface(&m_menuBar)->child(4);
   ASSERT_TRUE(last->isValid());
   m_frame.Bar.Menus.clear();

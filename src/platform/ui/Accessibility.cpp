@@ -1,4 +1,4 @@
-#include "platform/ui/AccessibleRows.h"
+#include "platform/ui/Accessibility.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -157,6 +157,6 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
 
 }  // namespace
 
-void InstallAccessibleRows() { QAccessible::installFactory(MakeInterface); }
+void InstallAccessibility() { QAccessible::installFactory(MakeInterface); }
 
 }  // namespace quill

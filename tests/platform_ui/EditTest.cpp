@@ -1,0 +1,101 @@
+#include "platform/ui/Edit.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+
+#include "platform/ui/MenuPopup.h"
+#include "platform_ui/SampleWindows.h"
+#include "platform_ui/ScreenFixture.h"
+#include "platform_ui/Steps.h"
+#include "resources/Ids.h"
+
+namespace quill {
+namespace {
+
+class EditTest : public test::ScreenFixture {
+ protected:
+  EditTest() : m_frame(*m_screen), m_edit(QStringLiteral("Kim"), &m_frame) {
+    m_edit.setGeometry(10, 10, 100, 18);
+    m_edit.show();
+    m_edit.setFocus();
+    QGuiApplication::clipboard()->setText(QStringLiteral("Lee"));
+  }
+
+  void AskForMenu(QContextMenuEvent::Reason reason = QContextMenuEvent::Mouse) {
+    QContextMenuEvent event(reason, {5, 5}, m_edit.mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(&m_edit, &event);
+  }
+  void Choose(int id) {
+    const test::Steps steps(*m_screen, {[this, id] {
+      if (!m_screen->Popup()->Choose(id)) m_screen->Popup()->Dismiss();
+    }});
+    AskForMenu();
+  }
+  std::vector<bool> EnabledItems() {
+    std::vector<bool> enabled;
+    const test::Steps steps(*m_screen, {[&] {
+      for (const MenuItem& item : m_screen->Popup()->Items())
+        if (!item.Separator) enabled.push_back(item.Enabled);
+      m_screen->Popup()->Dismiss();
+    }});
+    AskForMenu();
+    return enabled;
+  }
+
+  test::SampleFrame m_frame;
+  CEdit m_edit;
+};
+
+TEST_F(EditTest, ItsMenuOffersWhatCanBeDone) {
+  EXPECT_EQ(EnabledItems(), (std::vector<bool>{false, false, true, true}));
+  m_edit.selectAll();
+  EXPECT_EQ(EnabledItems(), (std::vector<bool>{true, true, true, true}));
+  m_edit.setReadOnly(true);
+  EXPECT_EQ(EnabledItems(), (std::vector<bool>{false, true, false, true}));
+}
+
+TEST_F(EditTest, AnEmptyOneWithAnEmptyClipboardOffersNothing) {
+  m_edit.clear();
+  QGuiApplication::clipboard()->clear();
+  EXPECT_EQ(EnabledItems(), (std::vector<bool>{false, false, false, false}));
+}
+
+TEST_F(EditTest, CutTakesTheSelectionIntoTheClipboard) {
+  m_edit.setSelection(0, 2);
+  Choose(EditMenuIds::kCut);
+  EXPECT_EQ(m_edit.text(), QStringLiteral("m"));
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("Ki"));
+}
+
+TEST_F(EditTest, CopyLeavesTheText) {
+  m_edit.selectAll();
+  Choose(EditMenuIds::kCopy);
+  EXPECT_EQ(m_edit.text(), QStringLiteral("Kim"));
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("Kim"));
+}
+
+TEST_F(EditTest, PasteReplacesTheSelection) {
+  m_edit.selectAll();
+  Choose(EditMenuIds::kPaste);
+  EXPECT_EQ(m_edit.text(), QStringLiteral("Lee"));
+}
+
+TEST_F(EditTest, SelectAllSelectsTheWholeText) {
+  Choose(EditMenuIds::kSelectAll);
+  EXPECT_EQ(m_edit.selectedText(), QStringLiteral("Kim"));
+}
+
+TEST_F(EditTest, TheMenuKeyOpensTheMenuOnce) {
+  int opened = 0;
+  const test::Steps steps(*m_screen, {[&] {
+    ++opened;
+    m_screen->Popup()->Dismiss();
+  }});
+  AskForMenu(QContextMenuEvent::Keyboard);  // some platforms send it beside the key
+  m_input.Key(Qt::Key_Menu);
+  EXPECT_EQ(opened, 1);
+}
+
+}  // namespace
+}  // namespace quill
