@@ -30,6 +30,7 @@ bool CardReader::Next(Card& card) {
 }
 
 bool CardReader::FindBeginning(Card& card) {
+  bool mayBegin = true;
   while (m_isPending || m_lines.Next(m_line)) {
     m_isPending = false;
     m_charset.IsUnicode = m_lines.Source().IsUnicode();
@@ -37,17 +38,23 @@ bool CardReader::FindBeginning(Card& card) {
       Begin(card);
       return true;
     }
-    const auto property = ParseProperty(m_line.Bytes, m_charset);
-    // A card whose BEGIN was lost still starts like one.
-    if (property &&
-        (property->Name == u"VERSION" || property->Name == u"N" || property->Name == u"FN")) {
+    // A card whose BEGIN was lost still starts like one; in the middle of something else it does
+    // not.
+    if (mayBegin && StartsLikeCard()) {
       Begin(card);
       TakeProperty(card);
       return true;
     }
+    mayBegin = IsEnd(m_line.Bytes);
     ++m_strayLines;
   }
   return false;
+}
+
+bool CardReader::StartsLikeCard() const {
+  const auto property = ParseProperty(m_line.Bytes, m_charset);
+  return property &&
+         (property->Name == u"VERSION" || property->Name == u"N" || property->Name == u"FN");
 }
 
 void CardReader::Begin(Card& card) {

@@ -51,6 +51,7 @@ class CardReader {
   enum class Place { Within, After };
 
   bool FindBeginning(Card& card);
+  bool StartsLikeCard() const;
   void Begin(Card& card);
   Place Take(Card& card);
   void TakeProperty(Card& card);
