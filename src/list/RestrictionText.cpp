@@ -1,12 +1,30 @@
 #include "list/RestrictionText.h"
 
 #include "list/CategoryFilter.h"
+#include "store/Collation.h"
 #include "store/ContactFields.h"
 #include "store/Restriction.h"
 
 namespace quill {
 
 namespace {
+
+constexpr char16_t kLastUnit = 0xFFFF;
+
+char16_t Folded(char16_t unit) { return FoldCase(QStringView(&unit, 1)).front().unicode(); }
+
+// The unit raised by one. Where the store's comparison would not put that right behind the unit
+// (the lower-case letters of other scripts are folded past it), the next unit that it leaves as it
+// is.
+char16_t UnitAfter(char16_t unit) {
+  if (unit == kLastUnit) return unit;
+  const char16_t raised = unit + 1;
+  const bool isLatin = unit < 0x80;
+  if (isLatin ? Folded(raised) > Folded(unit) : Folded(raised) == Folded(unit) + 1) return raised;
+  char16_t next = Folded(unit);
+  while (next < kLastUnit && Folded(next) <= Folded(unit)) ++next;
+  return next;
+}
 
 QString Comparison(ContactField field, QStringView comparison, const QString& value) {
   return QStringLiteral("[%1] %2 ").arg(FieldRow(field).Property, comparison) +
@@ -79,7 +97,7 @@ QString RestrictionText(const ListState& list) {
 }
 
 QString PrefixEnd(QString prefix) {
-  if (!prefix.isEmpty()) prefix.back() = QChar(static_cast<char16_t>(prefix.back().unicode() + 1));
+  if (!prefix.isEmpty()) prefix.back() = QChar(UnitAfter(prefix.back().unicode()));
   return prefix;
 }
 

@@ -13,7 +13,9 @@ QString RestrictionText(const ListState& list);
 
 // Where the texts that begin with this one end: the text with its last UTF-16 unit raised by one.
 // After "z" that is "{": the store compares in upper case, so a search for z also lists names that
-// begin with one of the signs between Z and { - intended.
+// begin with one of the signs between Z and { - intended. Where that case makes the raised unit
+// sort before the last one (a small Cyrillic letter, a backquote), the end is the next unit that
+// does not.
 QString PrefixEnd(QString prefix);
 
 }  // namespace quill

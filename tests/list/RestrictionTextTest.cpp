@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "list/IndexRanges.h"
+#include "store/Collation.h"
 #include "store/Restriction.h"
 
 namespace quill {
@@ -114,6 +115,44 @@ TEST(RestrictionText, BoundsAreComparedByCodeUnitNotByAlphabet) {
   list.IndexLower = QStringLiteral("Z");
   list.IndexUpper = QStringLiteral("a");
   EXPECT_EQ(RestrictionText(list), QStringLiteral(R"([FileAs] >= "Z" AND [FileAs] < "a")"));
+}
+
+struct PrefixCase {
+  QString LastLetter;
+  bool TakesMore;  // names that begin with something else, too
+};
+class EveryPrefix : public testing::TestWithParam<PrefixCase> {};
+
+// Whatever the letter: the range holds what begins with it in either case, and nothing after it.
+TEST_P(EveryPrefix, HoldsTheNamesThatBeginWithIt) {
+  const QString prefix = QStringLiteral("Ab") + GetParam().LastLetter;
+  const QByteArray end = FoldKey(PrefixEnd(prefix));
+  for (const QString& name : {prefix, prefix.toUpper(), prefix + QChar(0xFFFF)})
+    EXPECT_LT(FoldKey(name), end) << name.toStdString();
+  const char16_t next = FoldCase(prefix).back().unicode() + 1;
+  const QString beyond = FoldCase(prefix).chopped(1) + QChar(next);
+  if (FoldCase(beyond) == beyond) {
+    EXPECT_EQ(FoldKey(beyond) < end, GetParam().TakesMore);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Letters, EveryPrefix,
+    testing::Values(PrefixCase{QStringLiteral("m"), false}, PrefixCase{QStringLiteral("M"), false},
+                    PrefixCase{QStringLiteral("z"), true}, PrefixCase{QStringLiteral("`"), false},
+                    PrefixCase{QStringLiteral("\u044F"), false},  // Cyrillic ya
+                    PrefixCase{QStringLiteral("\u0436"), false},  // Cyrillic zhe
+                    PrefixCase{QStringLiteral("\u00FF"), false},  // y with diaeresis
+                    PrefixCase{QStringLiteral("\u0131"), false},  // dotless i
+                    PrefixCase{QStringLiteral("\u017E"), false},  // z with caron
+                    PrefixCase{QStringLiteral("\u00B5"), false},  // micro sign
+                    PrefixCase{QStringLiteral("\u0130"), false},  // I with dot
+                    PrefixCase{QStringLiteral("\u01C5"), false},  // D with z
+                    PrefixCase{QStringLiteral("\uAE40"), false}));
+
+TEST(PrefixEnd, OfSharpSIsBehindIt) {  // it has no simple upper case
+  EXPECT_LT(FoldKey(QStringLiteral("Wei\u00DFmann")),
+            FoldKey(PrefixEnd(QStringLiteral("Wei\u00DF"))));
 }
 
 TEST(PrefixEnd, RaisesTheLastUnitByOne) {
