@@ -63,7 +63,8 @@ struct ListState {
   int Top = 0;                   // 0-based position of the first row shown
   int RowsPerPage = kRowsWithIndex;
   int RowsShown = 0;
-  bool RefreshNeeded = false;  // the store changed since the page was built
+  QString SearchEntry;      // what stands in the search box, searched for or not
+  bool RebuildDue = false;  // another program's change is not on the page yet
   std::array<ListRow, kRowsWithoutIndex> Rows;
 };
 extern ListState g_list;

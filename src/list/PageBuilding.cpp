@@ -46,7 +46,7 @@ void NumberRows(ListState& list) {
 }  // namespace
 
 void BuildPage(ListState& list) {
-  list.RefreshNeeded = false;
+  list.RebuildDue = false;
   TakeCollection(list);
   list.Top = std::clamp(list.Top, 0, LargestTop(list));
   RefillPage(list);

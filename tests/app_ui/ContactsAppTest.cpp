@@ -2,7 +2,9 @@
 #include "app/ui/ContactsApp.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
+#include <QLineEdit>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -36,13 +38,18 @@ class ContactsAppTest : public testing::Test {
 
   // Runs a shell; the steps are taken in whatever loop waits, the last one must end it.
   ShellEnd Run(const std::function<std::vector<Step>()>& steps) {
-    CContactsApp app(m_program, {kStartScale, ScaleOrigin::Settled});
+    CContactsApp app(m_program,
+                     {kStartScale, ScaleOrigin::Settled, ReadShellSettings(*g_services.Registry)});
     m_app = &app;
     for (QWidget* window : QApplication::topLevelWidgets())
       if (auto* outer = qobject_cast<COuterWindow*>(window)) m_outer = outer;
     m_screen = m_outer->findChild<CScreen*>();
     const Steps running(*m_screen, steps());
     return app.Run();
+  }
+
+  QLineEdit* SearchBox() const {
+    return qobject_cast<QLineEdit*>(m_screen->Topmost()->Control(ContactsViewIds::kSearchEdit));
   }
 
   Step Closing() {
@@ -80,7 +87,7 @@ TEST_F(ContactsAppTest, ShowsTheFrameWithAnOpenSessionAndEndsWhenItsWindowIsClos
                              Closing()};
   });
   EXPECT_EQ(end.ExitCode, 0);
-  EXPECT_FALSE(end.NextScale.has_value());
+  EXPECT_FALSE(end.Next.has_value());
 }
 
 TEST_F(ContactsAppTest, TheAboutBoxOpensAndDoesNothingButClose) {
@@ -97,8 +104,8 @@ TEST_F(ContactsAppTest, TheAboutBoxOpensAndDoesNothingButClose) {
 TEST_F(ContactsAppTest, ControlPlusEndsTheShellWithTheNextScaleAndRemembersIt) {
   const ShellEnd end =
       Run([this] { return std::vector<Step>{Key(Qt::Key_Plus, Qt::ControlModifier)}; });
-  ASSERT_TRUE(end.NextScale.has_value());
-  EXPECT_EQ(*end.NextScale, Scale{5});
+  ASSERT_TRUE(end.Next.has_value());
+  EXPECT_EQ(end.Next->At, Scale{5});
   EXPECT_EQ(ReadShellSettings(*g_services.Registry).WindowScale, Scale{5});
 }
 
@@ -106,7 +113,7 @@ TEST_F(ContactsAppTest, TheSmallestScaleGetsNoSmaller) {
   const ShellEnd end = Run([this] {
     return std::vector<Step>{Key(Qt::Key_Minus, Qt::ControlModifier), Closing()};
   });
-  EXPECT_FALSE(end.NextScale.has_value());
+  EXPECT_FALSE(end.Next.has_value());
 }
 
 TEST_F(ContactsAppTest, TheScaleStaysWhileADialogIsOpen) {
@@ -116,13 +123,32 @@ TEST_F(ContactsAppTest, TheScaleStaysWhileADialogIsOpen) {
         Key(Qt::Key_Plus, Qt::ControlModifier),
         [this] { EXPECT_FALSE(m_screen->IsIdle()) << "the box is open"; }, Closing()};
   });
-  EXPECT_FALSE(end.NextScale.has_value());
+  EXPECT_FALSE(end.Next.has_value());
+}
+
+TEST_F(ContactsAppTest, TheNextShellKnowsTheSettingsThoughTheyCannotBeStored) {
+  ASSERT_TRUE(QDir(m_home.path()).mkdir(QStringLiteral("settings.json")));
+  const ShellEnd end =
+      Run([this] { return std::vector<Step>{Key(Qt::Key_Plus, Qt::ControlModifier)}; });
+  ASSERT_TRUE(end.Next.has_value());
+  EXPECT_EQ(end.Next->Settings.WindowScale, Scale{5});
+}
+
+TEST_F(ContactsAppTest, WhatStandsInTheSearchBoxOutlivesAChangeOfScale) {
+  Run([this] {
+    return std::vector<Step>{[this] { SearchBox()->setText(QStringLiteral("Kim")); }, Closing()};
+  });
+  QString text;
+  Run([this, &text] {
+    return std::vector<Step>{[this, &text] { text = SearchBox()->text(); }, Closing()};
+  });
+  EXPECT_EQ(text, QStringLiteral("Kim"));
 }
 
 TEST_F(ContactsAppTest, FullScreenEndsTheShellAndIsRemembered) {
   const ShellEnd end =
       Run([this] { return std::vector<Step>{[this] { m_app->ToggleFullScreen(); }}; });
-  EXPECT_TRUE(end.NextScale.has_value());
+  EXPECT_TRUE(end.Next.has_value());
   EXPECT_TRUE(ReadShellSettings(*g_services.Registry).FullScreen);
 }
 
@@ -160,6 +186,15 @@ TEST_F(ContactsAppTest, AStoreThatIsNoStoreIsToldInAWindowThatTheUserSees) {
                              },
                              Closing()};
   });
+}
+
+TEST_F(ContactsAppTest, AScaleCommandForcedPastTheSmallestScaleDoesNothing) {
+  const ShellEnd end = Run([this] {
+    return std::vector<Step>{
+        [this] { m_screen->Topmost()->RunCommand(ID_SHELL_SMALLER, CommandCheck::Anyway); },
+        Closing()};
+  });
+  EXPECT_FALSE(end.Next.has_value());
 }
 
 }  // namespace

@@ -19,6 +19,8 @@ class WatchedStore : public test::FaultyStore {
 
 class MainFrameTest : public test::FrameFixture {
  protected:
+  ~MainFrameTest() override { CloseSession(); }  // while the watched store is there
+
   // Lets queued messages arrive.
   static void Deliver() { QCoreApplication::processEvents(); }
 
@@ -90,7 +92,8 @@ TEST_F(MainFrameTest, ShowsTheApplicationsTitleAndTheMainMenu) {
 TEST_F(MainFrameTest, TheModeInForceIsCheckedInTheViewMenu) {
   const auto checked = [this] {
     std::vector<int> ids;
-    for (const MenuItem& item : m_frame->MenuBar().Menus[1].Items)
+    const MenuBarModel bar = m_frame->MenuBar();
+    for (const MenuItem& item : bar.Menus[1].Items)
       if (item.Checked) ids.push_back(item.Id);
     return ids;
   };

@@ -161,5 +161,29 @@ TEST_F(AccessibilityTest, ARowThatIsGoneIsInvalidAndHarmless) {
   EXPECT_TRUE(m_frame.Ran.empty());
 }
 
+TEST_F(AccessibilityTest, AnActionIsAnsweredBeforeItIsCarriedOut) {
+  QAccessibleInterface* const bar = QAccessible::queryAccessibleInterface(&m_menuBar);
+  for (int i = 0; i < bar->childCount(); ++i)
+    if (bar->child(i)->text(QAccessible::Name) == QStringLiteral("New"))
+      bar->child(i)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_TRUE(m_frame.Ran.empty());
+  QCoreApplication::processEvents();
+  EXPECT_EQ(m_frame.Ran.size(), 1U);
+}
+
+TEST_F(AccessibilityTest, AWindowSaysItsKindThoughItIsStillBeingMade) {
+  test::SampleDialog dialog(*m_screen, test::SmallSample());
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(&dialog)->role(), QAccessible::Dialog);
+  const CMessageBox box(*m_screen, {.Text = QStringLiteral("Text")});
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(const_cast<CMessageBox*>(&box))->role(),
+            QAccessible::AlertMessage);
+}
+
+TEST_F(AccessibilityTest, ATitleOffersNoPressButItsMenu) {
+  QAccessibleInterface* const title = QAccessible::queryAccessibleInterface(&m_titleBar)->child(0);
+  EXPECT_EQ(title->actionInterface()->actionNames(),
+            QStringList{QAccessibleActionInterface::showMenuAction()});
+}
+
 }  // namespace
 }  // namespace quill

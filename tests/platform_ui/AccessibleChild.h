@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QCoreApplication>
 
 #include "platform/ui/PaintedWindow.h"
 
@@ -29,6 +30,7 @@ class AccessibleChild {
  private:
   void Do(const QString& action) {
     if (m_child) m_child->actionInterface()->doAction(action);
+    QCoreApplication::processEvents();  // it is carried out after the answer
   }
 
   QAccessibleInterface* m_child = nullptr;

@@ -184,5 +184,32 @@ TEST_F(MenuBarTest, BelowASmallDialogTheBarTakesNoPen) {
   EXPECT_TRUE(m_frame.Ran.empty());
 }
 
+TEST_F(MenuBarTest, BelowASmallDialogKeysOpenNoMenuOfIt) {
+  test::SampleDialog dialog(*m_screen, test::SmallSample());
+  const Steps steps(*m_screen, {[this] { m_input.Key(Qt::Key_F10); },
+                                [this, &dialog] {
+                                  EXPECT_EQ(m_screen->Popup(), nullptr);
+                                  dialog.EndDialog(kResultOK);
+                                }});
+  dialog.DoModal();
+}
+
+TEST_F(MenuBarTest, AltWithAPressOpensNothing) {
+  m_input.KeyPress(Qt::Key_Alt, Qt::AltModifier);
+  m_input.Tap({120, 150});
+  m_input.KeyRelease(Qt::Key_Alt);
+  EXPECT_EQ(m_screen->Popup(), nullptr);
+}
+
+TEST_F(MenuBarTest, AWindowThatOpensOverAMenuEndsIt) {
+  test::SampleDialog dialog(*m_screen, test::SmallSample());
+  const Steps steps(*m_screen, {[&] { dialog.DoModal(); },
+                                [&] {
+                                  EXPECT_EQ(m_screen->Popup(), nullptr);
+                                  dialog.EndDialog(kResultOK);
+                                }});
+  EXPECT_EQ(m_screen->TrackMenu({10, 40}, {{.Text = QStringLiteral("One"), .Id = 1}}), 0);
+}
+
 }  // namespace
 }  // namespace quill

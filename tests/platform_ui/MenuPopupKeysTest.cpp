@@ -1,5 +1,9 @@
 // A popup menu by the keyboard.
 #include "platform/ui/MenuPopup.h"
+
+#include <QLineEdit>
+
+#include "platform_ui/SampleWindows.h"
 #include "platform_ui/ScreenFixture.h"
 
 namespace quill {
@@ -97,6 +101,34 @@ TEST_F(MenuArrowsTest, AMenuOfTheBarIsLeftByThem) {
     EXPECT_EQ(menu.Track(), 0);
     EXPECT_EQ(menu.LeftBy(), direction);
   }
+}
+
+class MenuOverEditorTest : public test::ScreenFixture {
+ protected:
+  MenuOverEditorTest() : m_frame(*m_screen), m_editor(QStringLiteral("Kim"), &m_frame) {
+    m_editor.show();
+    m_editor.setFocus();
+    m_editor.deselect();
+  }
+
+  test::SampleFrame m_frame;
+  QLineEdit m_editor;
+};
+
+TEST_F(MenuOverEditorTest, TabStaysInTheMenu) {
+  const Steps steps(*m_screen, {[this] { m_input.Key(Qt::Key_Tab); },
+                                [this] {
+                                  EXPECT_FALSE(m_editor.hasFocus());
+                                  m_screen->Popup()->Dismiss();
+                                }});
+  m_screen->TrackMenu({10, 40}, Colours());
+}
+
+TEST_F(MenuOverEditorTest, TheEditorHasItsFocusAndItsSelectionBackAfterwards) {
+  const Steps steps(*m_screen, {[this] { m_input.Key(Qt::Key_Escape); }});
+  m_screen->TrackMenu({10, 40}, Colours());
+  EXPECT_TRUE(m_editor.hasFocus());
+  EXPECT_TRUE(m_editor.selectedText().isEmpty());
 }
 
 }  // namespace

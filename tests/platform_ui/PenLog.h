@@ -18,16 +18,12 @@ class PenLog : public CPenWidget {
 
   // What was written since the last time.
   QStringList Take() { return std::exchange(m_log, {}); }
-  bool TakesDoubleTaps = true;
 
  protected:
   void PenPress(QPoint at) override { Write("press", at); }
   void PenMove(QPoint at) override { Write("move", at); }
   void PenRelease(QPoint at) override { Write("release", at); }
   void PenHover(QPoint at) override { Write("hover", at); }
-  void PenDoubleTap(QPoint at) override {
-    TakesDoubleTaps ? Write("double", at) : CPenWidget::PenDoubleTap(at);
-  }
 
  private:
   void Write(const char* what, QPoint at) {

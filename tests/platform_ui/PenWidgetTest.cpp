@@ -78,17 +78,16 @@ TEST_F(PenWidgetTest, APenThatDoesNotTouchHovers) {
   EXPECT_EQ(m_pen->Take(), QStringList{QStringLiteral("hover 9,10")});
 }
 
-TEST_F(PenWidgetTest, TheSecondPressOfADoubleTapIsTold) {
+TEST_F(PenWidgetTest, TheSecondPressOfADoubleTapIsAPressLikeAnyOther) {
   m_input.Tap(At(3, 4));
   m_input.PressAgain(At(3, 4));
   EXPECT_EQ(m_pen->Take(), (QStringList{QStringLiteral("press 3,4"), QStringLiteral("release 3,4"),
-                                        QStringLiteral("double 3,4")}));
+                                        QStringLiteral("press 3,4")}));
 }
 
-TEST_F(PenWidgetTest, AWidgetWithoutUseForDoubleTapsTakesASecondPress) {
-  m_pen->TakesDoubleTaps = false;
-  m_input.PressAgain(At(3, 4));
-  EXPECT_EQ(m_pen->Take(), QStringList{QStringLiteral("press 3,4")});
+TEST_F(PenWidgetTest, ATabletsReleaseWithoutAPressIsNothing) {
+  m_input.TabletRelease(At(3, 4));
+  EXPECT_TRUE(m_pen->Take().isEmpty());
 }
 
 TEST_F(PenWidgetTest, OtherButtonsDoNothing) {

@@ -15,6 +15,7 @@
 #include "list/ui/ContactsView.h"
 #include "platform/Services.h"
 #include "platform/ui/Accessibility.h"
+#include "platform/ui/InputCommit.h"
 #include "platform/ui/Look.h"
 #include "platform/ui/OuterWindow.h"
 #include "platform/ui/Screen.h"
@@ -38,7 +39,7 @@ QSize DesktopPixels(QSize logical, Scale scale) { return logical * scale.Quarter
 CContactsApp::CContactsApp(Program& program, const ShellStart& start)
     : m_program(program),
       m_start(start),
-      m_settings(ReadShellSettings(*g_services.Registry)),
+      m_settings(start.Settings),
       m_outer(std::make_unique<COuterWindow>()) {
   SetUpLook(*qApp);
   InstallAccessibility();
@@ -66,7 +67,7 @@ CContactsApp::~CContactsApp() {
 
 ShellEnd CContactsApp::Run() {
   const Scale fitted = FittedScale();
-  if (fitted != m_start.At) return {0, fitted};
+  if (fitted != m_start.At) return {0, ShellStart{fitted, ScaleOrigin::Settled, m_settings}};
   InitInstance();
   if (!m_screen->IsClosing()) QApplication::exec();
   return m_end;
@@ -84,6 +85,7 @@ void CContactsApp::InitInstance() {
   m_frame = std::make_unique<CMainFrame>(*m_screen, *m_commands);
   m_frame->show();
   ShowMainWindow();  // before the session: opening it may have to show a message
+  Listen();
   if (m_program.TakeFirstStart())
     m_frame->View().OnInitialUpdate(m_program.Store());
   else
@@ -91,7 +93,10 @@ void CContactsApp::InitInstance() {
   if (m_screen->IsClosing()) return;
   m_frame->View().FocusList();
   m_frame->WatchStore();
-  Listen();
+  QTimer::singleShot(0, m_frame.get(), [this] {
+    // A refusal is logged there, and in the exit code.
+    m_program.HandleFirstRequest([this](const Request& asked) { return HandleRequest(asked); });
+  });
 }
 
 void CContactsApp::ShowMainWindow() {
@@ -103,17 +108,16 @@ void CContactsApp::ShowMainWindow() {
 }
 
 void CContactsApp::Listen() {
+  if (!m_program.IsInstance()) return;
   const RequestHandler handler = [this](const Request& request) { return HandleRequest(request); };
-  if (m_program.IsInstance()) {
-    m_channel = std::make_unique<RequestChannel>(RequestSocket(m_program.Where()), handler);
-    m_channel->Listen();
-    m_bus = std::make_unique<RequestBus>(handler);
-    QTimer::singleShot(0, m_bus.get(), [this] { m_bus->JoinSession(); });
-  }
-  QTimer::singleShot(0, m_frame.get(), [this, handler] { m_program.HandleFirstRequest(handler); });
+  m_channel = std::make_unique<RequestChannel>(RequestSocket(m_program.Where()), handler);
+  m_channel->Listen();  // a failure is logged: the window works without
+  m_bus = std::make_unique<RequestBus>(handler);
+  QTimer::singleShot(0, m_bus.get(), [this] { m_bus->JoinSession(); });
 }
 
 bool CContactsApp::HandleRequest(const Request& request) {
+  m_outer->setWindowState(m_outer->windowState() & ~Qt::WindowMinimized);
   m_outer->raise();
   m_outer->activateWindow();
   switch (request.Kind) {
@@ -153,19 +157,25 @@ std::optional<Scale> CContactsApp::SmallerScale() const {
 }
 
 void CContactsApp::ChangeScale(Scale scale) {
+  if (!MayChangeScale()) return;
   m_settings.WindowScale = scale;
-  WriteShellSettings(*g_services.Registry, m_settings);  // a failure is logged: the scale changes
-  Leave({0, scale});
+  LeaveFor(scale);
 }
 
 void CContactsApp::ToggleFullScreen() {
-  m_settings.FullScreen = !IsFullScreen();
-  WriteShellSettings(*g_services.Registry, m_settings);  // a failure is logged: the screen changes
+  if (!MayChangeScale()) return;
+  const bool fullScreen = !IsFullScreen();
   const QScreen* const screen = QGuiApplication::primaryScreen();
-  const Scale next = IsFullScreen() ? LargestFitting(DesktopPixels(screen->size(), m_start.At))
-                                    : FitScale(m_settings.WindowScale,
-                                               DesktopPixels(screen->availableSize(), m_start.At));
-  Leave({0, next});
+  const QSize whole = DesktopPixels(screen->size(), m_start.At);
+  const QSize available = DesktopPixels(screen->availableSize(), m_start.At);
+  m_settings.FullScreen = fullScreen;
+  LeaveFor(fullScreen ? LargestFitting(whole) : FitScale(m_settings.WindowScale, available));
+}
+
+void CContactsApp::LeaveFor(Scale next) {
+  CommitInput();
+  WriteShellSettings(*g_services.Registry, m_settings);  // a failure is logged: this run goes on
+  Leave({0, ShellStart{next, ScaleOrigin::Settled, m_settings}});
 }
 
 void CContactsApp::Leave(const ShellEnd& end) {

@@ -28,12 +28,13 @@ enum class ScaleOrigin { Asked, Remembered, Settled };
 struct ShellStart {
   Scale At;
   ScaleOrigin Origin = ScaleOrigin::Settled;
+  ShellSettings Settings = {};  // as they are now, whether or not they could be stored
 };
 
-// How a shell ended: with an exit code, or to be made again at another scale.
+// How a shell ended: with an exit code, or to be made again.
 struct ShellEnd {
   int ExitCode = 0;
-  std::optional<Scale> NextScale;
+  std::optional<ShellStart> Next = std::nullopt;
 };
 
 class CContactsApp {
@@ -45,8 +46,8 @@ class CContactsApp {
   // The start-up, the event loop, the end.
   ShellEnd Run();
 
-  // What the shell's commands do. A change of scale ends the shell; it is refused (nullopt, nothing
-  // happens) while a modal window is open or when there is no such scale.
+  // What the shell's commands do. There may be no larger or smaller scale. A change ends the shell;
+  // while another window or a popup is open nothing happens.
   std::optional<Scale> LargerScale() const;
   std::optional<Scale> SmallerScale() const;
   bool IsFullScreen() const;
@@ -59,6 +60,7 @@ class CContactsApp {
   Scale FittedScale() const;
   void InitInstance();
   void ShowMainWindow();
+  void LeaveFor(Scale next);
   void Leave(const ShellEnd& end);
   void Listen();
   bool HandleRequest(const Request& request);

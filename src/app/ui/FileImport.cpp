@@ -1,6 +1,7 @@
 #include "app/ui/FileImport.h"
 
 #include <QCursor>
+#include <QFileInfo>
 #include <QGuiApplication>
 
 #include "cli/ImportVerb.h"
@@ -11,7 +12,7 @@ namespace quill {
 
 namespace {
 
-constexpr int kReportLines = 12;  // as many as a message box shows
+constexpr int kReportLines = 4;  // of details, after the summary: a message box is small
 
 QString FirstLines(const QString& report) {
   QStringList lines = report.split(u'\n', Qt::SkipEmptyParts);
@@ -21,17 +22,26 @@ QString FirstLines(const QString& report) {
   return lines.join(u'\n') + QStringLiteral("\n... and %1 more lines").arg(more);
 }
 
+// A message box has no room for whole paths.
+QString WithoutFolders(QString report, const QStringList& files) {
+  for (const QString& file : files) report.replace(file, QFileInfo(file).fileName());
+  return report;
+}
+
 }  // namespace
 
 void ImportFilesAndReport(const Places& places, const QStringList& files) {
-  QString report;
-  QTextStream text(&report);
+  QString summary;
+  QString details;
+  QTextStream out(&summary);
+  QTextStream err(&details);
   QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-  const int exitCode = RunImport({.Where = places, .Arguments = files}, {text, text});
+  const int exitCode = RunImport({.Where = places, .Arguments = files}, {out, err});
   QGuiApplication::restoreOverrideCursor();
-  text.flush();
+  out.flush();
+  err.flush();
   g_services.Prompt->Show(
-      {.Text = FirstLines(report),
+      {.Text = WithoutFolders(summary + FirstLines(details), files),
        .Icon = exitCode == kExitDone ? PromptIcon::Information : PromptIcon::Warning});
 }
 

@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "list/ListState.h"
 #include "list/ui/ContactsView.h"
 #include "platform/InputPanel.h"
 #include "platform/Services.h"
@@ -81,6 +82,7 @@ void CMainFrame::LookForChanges() {
   if (!g_store.Provider) return;
   const qint64 changes = g_store.Provider->Changes();
   if (changes == std::exchange(g_store.ChangesSeen, changes)) return;
+  g_list.RebuildDue = true;  // also when a change of scale overtakes the message
   PostStoreMessage(kMessageItemWritten, 0, 0);
 }
 

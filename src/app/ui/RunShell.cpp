@@ -12,8 +12,10 @@ namespace quill {
 namespace {
 
 ShellStart FirstStart(const Program& program) {
-  if (const auto asked = program.AskedScale()) return {*asked, ScaleOrigin::Asked};
-  return {ReadShellSettings(*g_services.Registry).WindowScale, ScaleOrigin::Remembered};
+  ShellSettings settings = ReadShellSettings(*g_services.Registry);
+  const auto asked = program.AskedScale();
+  if (asked) settings.WindowScale = *asked;
+  return {settings.WindowScale, asked ? ScaleOrigin::Asked : ScaleOrigin::Remembered, settings};
 }
 
 void PrepareEnvironment(Scale scale) {
@@ -34,8 +36,8 @@ ShellEnd RunOnce(Program& program, const ShellStart& start, int& argc, char** ar
 int RunShell(Program& program, int& argc, char** argv) {
   ShellStart start = FirstStart(program);
   ShellEnd end = RunOnce(program, start, argc, argv);
-  while (end.NextScale) {
-    start = {*end.NextScale, ScaleOrigin::Settled};
+  while (end.Next) {
+    start = *end.Next;
     end = RunOnce(program, start, argc, argv);
   }
   CloseSession();

@@ -11,7 +11,9 @@ using ScaleChoice = std::optional<Scale> (CContactsApp::*)() const;
 
 CommandRow ScaleRow(int id, CContactsApp& application, ScaleChoice choose) {
   return {id, id,
-          [&application, choose](int) { application.ChangeScale(*(application.*choose)()); },
+          [&application, choose](int) {
+            if (const auto scale = (application.*choose)()) application.ChangeScale(*scale);
+          },
           [&application, choose](int, CommandState& state) {
             state.Enabled = application.MayChangeScale() && (application.*choose)().has_value();
           }};

@@ -12,8 +12,7 @@ namespace quill {
 
 namespace {
 
-constexpr int kWheelNotch = 120;  // an eighth of a degree each
-constexpr int kLinesPerNotch = 3;
+constexpr int kWheelLine = 40;  // eighths of a degree: three lines for a notch of 15 degrees
 
 }  // namespace
 
@@ -52,7 +51,9 @@ void CContactListCtrl::keyPressEvent(QKeyEvent* event) {
 }
 
 void CContactListCtrl::wheelEvent(QWheelEvent* event) {
-  const int lines = kLinesPerNotch * event->angleDelta().y() / kWheelNotch;
+  m_wheelRest += event->angleDelta().y();
+  const int lines = m_wheelRest / kWheelLine;
+  m_wheelRest -= lines * kWheelLine;
   for (int i = 0; i < std::abs(lines); ++i)
     Ask(lines > 0 ? ScrollRequest::LineUp : ScrollRequest::LineDown);
   event->accept();

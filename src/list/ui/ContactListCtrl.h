@@ -26,6 +26,8 @@ class CContactListCtrl : public CPaintedWindow {
 
  private:
   void Ask(ScrollRequest request, int thumb = 0);
+
+  int m_wheelRest = 0;  // turned but not yet a whole line, in the wheel's units
 };
 
 }  // namespace quill

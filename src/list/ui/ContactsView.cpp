@@ -49,6 +49,7 @@ CContactsView::CContactsView(QWidget* frame)
 
 CContactsView::~CContactsView() {
   if (g_services.Timers) g_services.Timers->KillAll(*this);
+  ShowWaiting(false);
 }
 
 void CContactsView::MakeControls() {
@@ -58,6 +59,8 @@ void CContactsView::MakeControls() {
   connect(button, &QPushButton::clicked, this, &CContactsView::Search);
   m_searchEdit->setAccessibleName(QStringLiteral("Search for"));
   connect(m_searchEdit, &QLineEdit::returnPressed, this, &CContactsView::Search);
+  connect(m_searchEdit, &QLineEdit::textChanged, this,
+          [](const QString& text) { g_list.SearchEntry = text; });
   m_scrollBar->setFocusPolicy(Qt::NoFocus);
   connect(m_scrollBar, &QScrollBar::actionTriggered, this, &CContactsView::RunScrollAction);
   m_list->ScrollAsked = [this](ScrollRequest request, int thumb) { Scroll(request, thumb); };
@@ -81,8 +84,8 @@ void CContactsView::OnInitialUpdate(StoreProvider& provider) {
 }
 
 void CContactsView::ShowState() {
-  m_searchEdit->setText(g_list.SearchText);
-  g_list.RefreshNeeded ? Rebuild() : ShowPage();
+  m_searchEdit->setText(g_list.SearchEntry);
+  g_list.RebuildDue ? Rebuild() : ShowPage();
 }
 
 CommandRoute CContactsView::Route() const {
@@ -93,17 +96,24 @@ CommandRoute CContactsView::Route() const {
 }
 
 void CContactsView::OnStoreNotice(int first, int) {
-  g_list.RefreshNeeded = first != 1;
-  if (!g_list.RefreshNeeded) return;
-  if (!QGuiApplication::overrideCursor()) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  if (first == 1) return;
+  g_list.RebuildDue = true;
+  ShowWaiting(true);
   g_services.Timers->Set(*this, kNoticeTimer, kNoticeDelay);
 }
 
 void CContactsView::OnTimer(int id) {
   if (id != kNoticeTimer) return;
   g_services.Timers->Kill(*this, kNoticeTimer);
-  QGuiApplication::restoreOverrideCursor();
+  ShowWaiting(false);
   if (g_list.Mode != ViewMode::ByMemo) Rebuild();
+}
+
+void CContactsView::ShowWaiting(bool waiting) {
+  if (m_waiting == waiting) return;
+  m_waiting = waiting;
+  waiting ? QGuiApplication::setOverrideCursor(Qt::WaitCursor)
+          : QGuiApplication::restoreOverrideCursor();
 }
 
 bool CContactsView::OnCopyData(int, const QString&) { return false; }
@@ -144,13 +154,13 @@ void CContactsView::RunScrollAction(int action) {
     case QAbstractSlider::SliderMove:
       return Scroll(ScrollRequest::ThumbTrack, m_scrollBar->sliderPosition());
     default:
-      m_scrollBar->setSliderPosition(g_list.Top);  // the other requests are ignored
+      m_scrollBar->setValue(g_list.Top);  // the other requests are ignored
   }
 }
 
 void CContactsView::Scroll(ScrollRequest request, int thumb) {
   if (ScrollList(g_list, request, thumb)) m_list->ShowPage();
-  m_scrollBar->setSliderPosition(g_list.Top);
+  m_scrollBar->setValue(g_list.Top);
 }
 
 void CContactsView::ShowPage() {

@@ -56,12 +56,14 @@ class CContactsView : public QWidget, public TimerTarget {
   void RunScrollAction(int action);
   void Scroll(ScrollRequest request, int thumb);
   void ShowPage();
+  void ShowWaiting(bool waiting);
 
   QLineEdit* m_searchEdit;
   CIndexStrip* m_indexStrip;
   CContactListCtrl* m_list;
   QScrollBar* m_scrollBar;
   ControlMap m_controls;
+  bool m_waiting = false;  // the wait cursor is this view's
   std::unique_ptr<CommandTarget> m_contactCommands;
   std::unique_ptr<CommandTarget> m_modeCommands;
 };

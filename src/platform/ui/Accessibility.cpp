@@ -81,12 +81,8 @@ class AccessibleRow : public QAccessibleInterface, public QAccessibleActionInter
     return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
                                                 : nullptr;
   }
-  QStringList actionNames() const override { return {pressAction(), showMenuAction()}; }
-  void doAction(const QString& action) override {
-    if (!Row()) return;
-    if (action == pressAction()) m_window->ActivateRow(m_row);
-    if (action == showMenuAction()) m_window->ShowRowMenu(m_row);
-  }
+  QStringList actionNames() const override;
+  void doAction(const QString& action) override;
   QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
  private:
@@ -110,10 +106,36 @@ QAccessible::State AccessibleRow::state() const {
   state.selected = row->State.testFlag(PaintedStateFlag::Selected);
   state.selectable = row->State.testFlag(PaintedStateFlag::Selectable);
   state.focused = row->State.testFlag(PaintedStateFlag::Current);
+  state.focusable = !state.disabled;
   state.checked = row->State.testFlag(PaintedStateFlag::Checked);
   state.checkable = state.checked;
   state.hasPopup = row->State.testFlag(PaintedStateFlag::HasPopup);
   return state;
+}
+
+QStringList AccessibleRow::actionNames() const {
+  const PaintedRow* const row = Row();
+  if (!row || row->Role == PaintedRole::Separator) return {};
+  const bool isText = row->Role == PaintedRole::Text;
+  const bool hasMenu =
+      row->Role == PaintedRole::ListItem || row->State.testFlag(PaintedStateFlag::HasPopup);
+  QStringList names;
+  if (!isText) names.append(pressAction());
+  if (hasMenu) names.append(showMenuAction());
+  return names;
+}
+
+// Later, not now: what it begins may wait for the user, and the caller waits for an answer.
+void AccessibleRow::doAction(const QString& action) {
+  if (!actionNames().contains(action)) return;
+  const bool presses = action == pressAction();
+  QMetaObject::invokeMethod(
+      m_window,
+      [window = m_window.data(), row = m_row, presses] {
+        if (row >= static_cast<int>(window->Rows().size())) return;
+        presses ? window->ActivateRow(row) : window->ShowRowMenu(row);
+      },
+      Qt::QueuedConnection);
 }
 
 class AccessiblePaintedWindow : public QAccessibleWidget {
@@ -135,6 +157,10 @@ class AccessiblePaintedWindow : public QAccessibleWidget {
   QAccessibleInterface* childAt(int x, int y) const override {
     return child(m_window.RowAt(m_window.mapFromGlobal(QPoint(x, y))));
   }
+  QAccessibleInterface* focusChild() const override {
+    const int current = m_window.CurrentRow();
+    return current < 0 ? nullptr : child(current);
+  }
   int indexOfChild(const QAccessibleInterface* child) const override {
     const auto id = QAccessible::uniqueId(const_cast<QAccessibleInterface*>(child));
     for (std::size_t i = 0; i < m_children.size(); ++i)
@@ -147,11 +173,20 @@ class AccessiblePaintedWindow : public QAccessibleWidget {
   mutable std::vector<QAccessible::Id> m_children;  // made when asked for
 };
 
+// The kind is asked each time: assistive technology may look while the window is still being made.
+class AccessibleWindow : public QAccessibleWidget {
+ public:
+  explicit AccessibleWindow(CWindow& window) : QAccessibleWidget(&window), m_window(window) {}
+  QAccessible::Role role() const override { return RoleOf(m_window.Kind()); }
+
+ private:
+  CWindow& m_window;
+};
+
 QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
   if (auto* const painted = qobject_cast<CPaintedWindow*>(object))
     return new AccessiblePaintedWindow(*painted);
-  if (auto* const window = qobject_cast<CWindow*>(object))
-    return new QAccessibleWidget(window, RoleOf(window->Kind()));
+  if (auto* const window = qobject_cast<CWindow*>(object)) return new AccessibleWindow(*window);
   return nullptr;
 }
 

@@ -24,12 +24,10 @@ QRect ToRect(const resources::Rectangle& place) {
 CDialog::CDialog(CScreen& screen, const resources::DialogResource& resource)
     : CModalWindow(screen),
       m_size(resource.Place.Width == 0 ? WindowSize::FullScreen : WindowSize::Small) {
-  if (m_size == WindowSize::Small) PlaceOnScreen(ToRect(resource.Place));
+  if (m_size == WindowSize::Small) setGeometry(ToRect(resource.Place));
   SetCaption(resource.Caption.toString());
   for (const resources::DialogControl& control : resource.Controls) AddDialogControl(control);
 }
-
-void CDialog::PlaceOnScreen(QRect place) { setGeometry(place); }
 
 QWidget* CDialog::AddDialogControl(const resources::DialogControl& control) {
   QWidget* const widget = MakeControl(control, *this);

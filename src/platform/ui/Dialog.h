@@ -10,15 +10,12 @@ namespace quill {
 class CDialog : public CModalWindow {
   Q_OBJECT
  public:
-  // The resource must outlive the dialog only while it is made.
   CDialog(CScreen& screen, const resources::DialogResource& resource);
 
   WindowKind Kind() const override { return WindowKind::Dialog; }
   WindowSize Size() const override { return m_size; }
 
  protected:
-  // The place on the screen of a small dialog, its caption included.
-  void PlaceOnScreen(QRect place);
   QWidget* AddDialogControl(const resources::DialogControl& control);
   void paintEvent(QPaintEvent* event) override;
 

@@ -52,6 +52,7 @@ void CMenuBar::PenRelease(QPoint at) {
 }
 
 void CMenuBar::ActivateRow(int row) {
+  if (!m_screen.IsChromeUsable()) return;
   m_screen.UpdateChrome();
   row < ButtonCount() ? RunButton(row) : OpenMenus(row);
 }
@@ -62,6 +63,7 @@ void CMenuBar::RunButton(int position) {
 }
 
 void CMenuBar::OpenFirstMenu() {
+  if (!m_screen.IsChromeUsable()) return;
   m_screen.UpdateChrome();
   if (!m_model.Menus.empty()) OpenMenus(ButtonCount());
 }

@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QWheelEvent>
 
+#include "platform/ui/InputCommit.h"
 #include "platform/ui/RowPainter.h"
 #include "platform/ui/Screen.h"
 #include "platform/ui/Shade.h"
@@ -77,7 +78,9 @@ CMenuPopup& CMenuPopup::Root() { return m_parentMenu ? m_parentMenu->Root() : *t
 
 int CMenuPopup::Track() {
   if (m_screen.IsClosing() || m_items.empty()) return 0;
+  CommitInput();
   const QPointer<QWidget> focusBefore = m_screen.window()->focusWidget();
+  CMenuPopup* const popupBefore = m_screen.Popup();
   CMenuShade shade(m_screen, *this);
   LayOut(0);
   if (m_request.Current >= 0) LayOut(FirstItemToShow(m_items, m_layout, m_request.Current));
@@ -89,7 +92,7 @@ int CMenuPopup::Track() {
   m_loop = &loop;
   loop.exec(QEventLoop::DialogExec);
   m_loop = nullptr;
-  m_screen.SetPopup(nullptr);
+  m_screen.SetPopup(popupBefore);
   m_submenu.reset();
   hide();
   if (focusBefore) focusBefore->setFocus(Qt::PopupFocusReason);
@@ -219,8 +222,11 @@ void CMenuPopup::PenRelease(QPoint at) {
 }
 
 void CMenuPopup::wheelEvent(QWheelEvent* event) {
-  LayOut(m_layout.FirstItem + (event->angleDelta().y() > 0 ? -1 : 1));
   event->accept();
+  const int turn = event->angleDelta().y();
+  if (turn == 0) return;
+  CloseSubmenu();
+  LayOut(m_layout.FirstItem + (turn > 0 ? -1 : 1));
 }
 
 void CMenuPopup::GoSideways(int direction) {

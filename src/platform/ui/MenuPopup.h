@@ -35,7 +35,8 @@ class CMenuPopup : public CPaintedWindow {
   int Track();
 
   const std::vector<MenuItem>& Items() const { return m_items; }
-  // Ends the menu with an item of it or of its submenus. False, and nothing happens, when there is
+  // Ends the menu with an item of it or of its submenus, for those who have neither pen nor keys.
+  // False, and nothing happens, when there is
   // no such item or it is disabled.
   bool Choose(int id);
   void Dismiss() { End(0); }
@@ -55,6 +56,8 @@ class CMenuPopup : public CPaintedWindow {
   void PenHover(QPoint at) override;
   void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  // Tab stays in the menu, and hiding it moves the focus nowhere.
+  bool focusNextPrevChild(bool) override { return true; }
 
  private:
   CMenuPopup(CMenuPopup& parent, std::vector<MenuItem> items, QRect anchor);

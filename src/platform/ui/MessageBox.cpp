@@ -97,6 +97,7 @@ void CMessageBox::AddText(const PromptMessage& message, int textHeight) {
                         message.Text,
                         {left, kMargin, kWidth - left - kMargin, textHeight}}));
   text->setWordWrap(true);
+  text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   const IconResource& icon = IconOf(message.Icon);
   auto* const picture = new CPictureLabel(icon.Image, this);
   picture->setAccessibleName(QString::fromLatin1(icon.Name));
@@ -112,8 +113,9 @@ void CMessageBox::AddButtons(int top) {
   for (DialogControl button : buttons) {
     button.Place = {left, top, kButtonWidth, kButtonHeight};
     QWidget* const widget = AddDialogControl(button);
-    connect(qobject_cast<QPushButton*>(widget), &QPushButton::clicked, this,
-            [this, id = button.Id] { EndDialog(id); });
+    if (m_buttons == PromptButtons::YesNo)  // OK and Cancel every dialog follows
+      connect(qobject_cast<QPushButton*>(widget), &QPushButton::clicked, this,
+              [this, id = button.Id] { EndDialog(id); });
     left += kButtonWidth + kMargin;
   }
 }

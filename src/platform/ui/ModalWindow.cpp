@@ -1,10 +1,10 @@
 #include "platform/ui/ModalWindow.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QPushButton>
 
 #include "platform/ui/InputCommit.h"
 #include "platform/ui/Screen.h"
@@ -15,6 +15,7 @@ namespace quill {
 int CModalWindow::DoModal() {
   if (Screen().IsClosing()) return kResultCancel;
   CommitInput();
+  Screen().DropPopup();
   const QPointer<QWidget> focusBefore = window()->focusWidget();
   CShade shade(Screen());
   m_result.reset();
@@ -53,14 +54,15 @@ void CModalWindow::FocusFirstControl() {
 
 void CModalWindow::keyPressEvent(QKeyEvent* event) {
   const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (event->key() == Qt::Key_Escape) {
+  const bool isEscape = event->key() == Qt::Key_Escape;
+  if (!isReturn && !isEscape) return CWindow::keyPressEvent(event);
+  if (event->isAutoRepeat()) return;  // a held key ends one window, not the next one too
+  CommitInput();
+  auto* const button = qobject_cast<QPushButton*>(QApplication::focusWidget());
+  if (isEscape)
     OnCancel();
-  } else if (isReturn) {
-    auto* button = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
+  else
     button ? button->click() : OnOK();
-  } else {
-    CWindow::keyPressEvent(event);
-  }
 }
 
 void CModalWindow::paintEvent(QPaintEvent* event) {

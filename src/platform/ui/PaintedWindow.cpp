@@ -22,13 +22,28 @@ void CPaintedWindow::ActivateRow(int) {}
 
 void CPaintedWindow::ShowRowMenu(int) {}
 
+int CPaintedWindow::CurrentRow() const {
+  for (std::size_t i = 0; i < m_rows.size(); ++i)
+    if (m_rows[i].State.testFlag(PaintedStateFlag::Current)) return static_cast<int>(i);
+  return -1;
+}
+
 void CPaintedWindow::SetRows(std::vector<PaintedRow> rows) {
+  const int currentBefore = CurrentRow();
   const bool structureChanged = rows.size() != m_rows.size();
   m_rows = std::move(rows);
   update();
   if (!QAccessible::isActive()) return;
-  QAccessibleEvent event(
-      this, structureChanged ? QAccessible::ObjectReorder : QAccessible::VisibleDataChanged);
+  TellAssistiveTechnology(structureChanged ? QAccessible::ObjectReorder
+                                           : QAccessible::VisibleDataChanged);
+  if (CurrentRow() != currentBefore && CurrentRow() >= 0)
+    TellAssistiveTechnology(QAccessible::Focus);
+}
+
+// A focus event is the current row's, any other the window's.
+void CPaintedWindow::TellAssistiveTechnology(QAccessible::Event type) {
+  QAccessibleEvent event(this, type);
+  if (type == QAccessible::Focus) event.setChild(CurrentRow());
   QAccessible::updateAccessibility(&event);
 }
 

@@ -20,6 +20,8 @@ class CPaintedWindow : public CPenWidget {
   QAccessible::Role Role() const { return m_role; }
 
   const std::vector<PaintedRow>& Rows() const { return m_rows; }
+  // The row that keys act on, -1 when there is none.
+  int CurrentRow() const;
   // The row at a point, -1 when there is none.
   int RowAt(QPoint at) const;
   // What assistive technology does to a row: press it, or open its popup. Nothing by default.
@@ -32,6 +34,8 @@ class CPaintedWindow : public CPenWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void TellAssistiveTechnology(QAccessible::Event type);
+
   const QAccessible::Role m_role;
   std::vector<PaintedRow> m_rows;
   Rgb m_background = 0xFFFFFF;

@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QPointerEvent>
+#include <QTouchEvent>
 
 #include "platform/ui/PenWidget.h"
 
@@ -34,31 +34,45 @@ PalmGuard::PalmGuard() {
   QCoreApplication::instance()->installEventFilter(this);
 }
 
-// Ends of touches pass: a window that saw the beginning must see the end.
 bool PalmGuard::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::TabletEnterProximity:
+      m_tellsProximity = true;
+      m_filter.PenNear();
+      return false;
     case QEvent::TabletPress:
     case QEvent::TabletMove:
       m_filter.PenNear();
       return false;
     case QEvent::TabletRelease:
+      if (!m_tellsProximity) m_filter.PenAway(m_time.elapsed());
+      return false;
     case QEvent::TabletLeaveProximity:
       m_filter.PenAway(m_time.elapsed());
       return false;
     default:
-      if (IsTouch(*event) && !m_filter.AcceptsTouch(m_time.elapsed())) return true;
-      return IsSecondFinger(watched, *event);
+      return KeepsTouchAway(watched, *event);
   }
 }
 
-bool PalmGuard::IsSecondFinger(QObject* watched, const QEvent& event) {
-  const bool begins = event.type() == QEvent::TouchBegin;
-  const bool goesOn = event.type() == QEvent::TouchUpdate;
+bool PalmGuard::KeepsTouchAway(QObject* watched, const QEvent& event) {
+  const bool accepts = m_filter.AcceptsTouch(m_time.elapsed());
+  if (IsTouch(event) && !accepts) return true;
+  auto* const widget = qobject_cast<CPenWidget*>(watched);
+  if (!widget) return false;
+  if (event.type() != QEvent::TouchEnd || accepts) return IsSecondFinger(*widget, event);
+  // A window that saw the beginning must see an end, but no tap.
+  QTouchEvent cancel(QEvent::TouchCancel);
+  QCoreApplication::sendEvent(watched, &cancel);
+  return true;
+}
+
+bool PalmGuard::IsSecondFinger(CPenWidget& watched, const QEvent& event) {
   const bool ends = event.type() == QEvent::TouchEnd || event.type() == QEvent::TouchCancel;
-  if (!(begins || goesOn || ends) || !qobject_cast<CPenWidget*>(watched)) return false;
-  if (m_touched && m_touched != watched) return true;
-  m_touched = ends ? nullptr : watched;
+  const bool goesOn = event.type() == QEvent::TouchBegin || event.type() == QEvent::TouchUpdate;
+  if (!ends && !goesOn) return false;
+  if (m_touched && m_touched->isVisible() && m_touched != &watched) return true;
+  m_touched = ends ? nullptr : &watched;
   return false;
 }
 

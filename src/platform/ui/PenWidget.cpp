@@ -28,7 +28,6 @@ void CPenWidget::PenCancel() {
   PenRelease(kOutside);
 }
 
-void CPenWidget::PenDoubleTap(QPoint at) { PenPress(at); }
 void CPenWidget::PenHover(QPoint) {}
 
 bool CPenWidget::event(QEvent* event) {
@@ -52,18 +51,31 @@ bool CPenWidget::event(QEvent* event) {
   }
 }
 
+void CPenWidget::Press(QPoint at) {
+  m_pressed = true;
+  PenPress(at);
+}
+
+void CPenWidget::Move(QPoint at) {
+  if (m_pressed) PenMove(at);
+}
+
+void CPenWidget::Release(QPoint at) {
+  if (std::exchange(m_pressed, false)) PenRelease(at);
+}
+
 bool CPenWidget::HandleMouse(QEvent* event) {
   const auto* mouse = static_cast<QMouseEvent*>(event);
   const QPoint at = mouse->position().toPoint();
   const bool isLeft = mouse->button() == Qt::LeftButton;
-  if (mouse->type() == QEvent::MouseButtonPress && isLeft) {
-    PenPress(at);
-  } else if (mouse->type() == QEvent::MouseButtonDblClick && isLeft) {
-    PenDoubleTap(at);
+  const bool presses =
+      mouse->type() == QEvent::MouseButtonPress || mouse->type() == QEvent::MouseButtonDblClick;
+  if (presses && isLeft) {
+    Press(at);
   } else if (mouse->type() == QEvent::MouseButtonRelease && isLeft) {
-    PenRelease(at);
+    Release(at);
   } else if (mouse->type() == QEvent::MouseMove) {
-    mouse->buttons().testFlag(Qt::LeftButton) ? PenMove(at) : PenHover(at);
+    mouse->buttons().testFlag(Qt::LeftButton) ? Move(at) : PenHover(at);
   }
   event->accept();
   return true;
@@ -73,11 +85,11 @@ bool CPenWidget::HandleTablet(QEvent* event) {
   const auto* pen = static_cast<QTabletEvent*>(event);
   const QPoint at = pen->position().toPoint();
   if (pen->type() == QEvent::TabletPress) {
-    PenPress(at);
+    Press(at);
   } else if (pen->type() == QEvent::TabletRelease) {
-    PenRelease(at);
+    Release(at);
   } else {
-    pen->buttons() == Qt::NoButton ? PenHover(at) : PenMove(at);
+    pen->buttons() == Qt::NoButton ? PenHover(at) : Move(at);
   }
   event->accept();  // or the window system makes a second, mouse event of it
   return true;
@@ -88,7 +100,8 @@ bool CPenWidget::HandleTouch(QEvent* event) {
   event->accept();
   const auto* touch = static_cast<QTouchEvent*>(event);
   if (touch->type() == QEvent::TouchCancel) {
-    if (std::exchange(m_finger, std::nullopt)) PenCancel();
+    m_finger.reset();
+    if (std::exchange(m_pressed, false)) PenCancel();
     return true;
   }
   if (touch->type() == QEvent::TouchBegin && !touch->points().isEmpty())
@@ -103,12 +116,12 @@ void CPenWidget::HandleFinger(const QEventPoint& finger) {
   const QPoint at = finger.position().toPoint();
   switch (finger.state()) {
     case QEventPoint::Pressed:
-      return PenPress(at);
+      return Press(at);
     case QEventPoint::Updated:
-      return PenMove(at);
+      return Move(at);
     case QEventPoint::Released:
       m_finger.reset();
-      return PenRelease(at);
+      return Release(at);
     default:
       return;
   }

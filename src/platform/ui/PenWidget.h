@@ -1,5 +1,6 @@
 // A widget that a pen works on. Mouse, tablet and touch events arrive as one press, moves and one
-// release, in logical pixels of the widget; the release comes to the widget of its press.
+// release, in logical pixels of the widget; the release comes to the widget of its press, and no
+// release without one. The second press of a double tap is a press like any other.
 #pragma once
 
 #include <QEventPoint>
@@ -20,8 +21,6 @@ class CPenWidget : public QWidget {
   virtual void PenRelease(QPoint at);
   // The system took the touch away: by default a release outside, which acts on nothing.
   virtual void PenCancel();
-  // The second press of a double tap, instead of PenPress.
-  virtual void PenDoubleTap(QPoint at);
   // The pen moves above the widget without touching it.
   virtual void PenHover(QPoint at);
 
@@ -32,7 +31,11 @@ class CPenWidget : public QWidget {
   bool HandleTablet(QEvent* event);
   bool HandleTouch(QEvent* event);
   void HandleFinger(const QEventPoint& finger);
+  void Press(QPoint at);
+  void Move(QPoint at);
+  void Release(QPoint at);
 
+  bool m_pressed = false;
   std::optional<int> m_finger;  // the touching finger that is the pen
 };
 

@@ -1,10 +1,12 @@
 #include "platform/ui/Screen.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPainter>
 
 #include <algorithm>
 #include <ranges>
+#include <utility>
 
 #include "platform/InputPanel.h"
 #include "platform/Services.h"
@@ -37,12 +39,20 @@ CScreen::CScreen(QWidget* outer)
               state.Checked = state.Enabled && g_services.InputPanel->IsUp();
             }}}) {
   setFixedSize(kScreenWidth, kScreenHeight);
+  QCoreApplication::instance()->installEventFilter(this);
   if (g_services.InputPanel) g_services.InputPanel->Changed = [this] { TellVisibleArea(); };
   UpdateChrome();
 }
 
 CScreen::~CScreen() {
   if (g_services.InputPanel) g_services.InputPanel->Changed = nullptr;
+}
+
+void CScreen::DropPopup() {
+  if (!m_popup) return;
+  m_popup->Dismiss();
+  m_popup->hide();
+  m_popup = nullptr;
 }
 
 void CScreen::Push(CWindow& window) {
@@ -71,7 +81,7 @@ void CScreen::UpdateChrome() {
   CWindow* const owner = ChromeOwner();
   m_titleBar->ShowFor(owner);
   m_menuBar->ShowFor(owner);
-  if (owner != Topmost()) return;
+  if (!IsChromeUsable()) return;
   m_titleBar->raise();
   m_menuBar->raise();
 }
@@ -109,6 +119,8 @@ void CScreen::TellVisibleArea() {
   for (CWindow* window : m_windows) window->OnVisibleAreaChanged(area);
 }
 
+bool CScreen::IsChromeUsable() const { return !m_popup && ChromeOwner() == Topmost(); }
+
 bool CScreen::IsIdle() const { return !m_popup && m_windows.size() <= 1; }
 
 void CScreen::CloseAll() {
@@ -120,7 +132,6 @@ void CScreen::CloseAll() {
 }
 
 void CScreen::keyPressEvent(QKeyEvent* event) {
-  m_altAlone = event->key() == Qt::Key_Alt && !event->isAutoRepeat();
   if (!HandleKey(event)) QWidget::keyPressEvent(event);
 }
 
@@ -143,8 +154,26 @@ bool CScreen::HandleKey(QKeyEvent* event) {
 }
 
 void CScreen::keyReleaseEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Alt && m_altAlone) m_menuBar->OpenFirstMenu();
-  m_altAlone = false;
+  if (event->key() == Qt::Key_Alt && std::exchange(m_altAlone, false)) m_menuBar->OpenFirstMenu();
+}
+
+// Sees every event of the application: whatever else is pressed, Alt was not alone.
+bool CScreen::eventFilter(QObject*, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::KeyPress:
+      m_altAlone = static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt;
+      break;
+    case QEvent::MouseButtonPress:
+    case QEvent::TabletPress:
+    case QEvent::TouchBegin:
+    case QEvent::Wheel:
+    case QEvent::WindowDeactivate:
+      m_altAlone = false;
+      break;
+    default:
+      break;
+  }
+  return false;
 }
 
 // The menu key opens the window's own popup; where it has none, the shell's menu.

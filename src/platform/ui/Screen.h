@@ -38,6 +38,8 @@ class CScreen : public QWidget {
   // The open popup menu (its root, when a submenu is open), or null.
   CMenuPopup* Popup() const { return m_popup; }
   void SetPopup(CMenuPopup* popup) { m_popup = popup; }
+  // Dismisses the open popup and takes it out of sight at once.
+  void DropPopup();
   // Opens a popup at a point of the screen and returns the chosen id, 0 when dismissed.
   int TrackMenu(QPoint at, const std::vector<MenuItem>& items);
 
@@ -53,7 +55,9 @@ class CScreen : public QWidget {
   // Title bar and menu bar show the topmost full-screen window and stand above its shade.
   void UpdateChrome();
 
-  // True when no modal window and no popup is open: the only time at which the scale may change.
+  // True when title bar and menu bar can be used: no popup and no small window lies over them.
+  bool IsChromeUsable() const;
+  // True when no other window and no popup is open: the only time at which the scale may change.
   bool IsIdle() const;
   // Ends popup and modal windows from the top with Cancel, then calls Closed.
   void CloseAll();
@@ -63,6 +67,7 @@ class CScreen : public QWidget {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
@@ -79,7 +84,7 @@ class CScreen : public QWidget {
   CommandTarget m_screenCommands;
   const CommandTarget* m_shellCommands = nullptr;
   bool m_closing = false;
-  bool m_altAlone = false;  // Alt is down and no other key came since
+  bool m_altAlone = false;  // Alt is down and nothing else was pressed since
 };
 
 }  // namespace quill

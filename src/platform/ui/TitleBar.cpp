@@ -1,6 +1,7 @@
 #include "platform/ui/TitleBar.h"
 
 #include "platform/Services.h"
+#include "platform/ui/InputCommit.h"
 #include "platform/ui/Screen.h"
 
 namespace quill {
@@ -64,7 +65,8 @@ void CTitleBar::PenRelease(QPoint at) {
 
 void CTitleBar::Press(int key) {
   CWindow* const window = m_screen.Topmost();
-  if (!window) return;
+  if (!window || !m_screen.IsChromeUsable()) return;
+  CommitInput();
   if (key == kTitleOKKey) window->OnOK();
   if (key == kTitleCloseKey) window->OnCancel();
 }
@@ -77,6 +79,8 @@ void CTitleBar::OnTimer(int id) {
 
 void CTitleBar::ActivateRow(int row) { Press(Rows()[static_cast<std::size_t>(row)].Key); }
 
-void CTitleBar::ShowRowMenu(int) { m_screen.ShowShellMenu(rect().bottomLeft()); }
+void CTitleBar::ShowRowMenu(int) {
+  if (m_screen.IsChromeUsable()) m_screen.ShowShellMenu(rect().bottomLeft());
+}
 
 }  // namespace quill

@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "platform/Services.h"
+#include "platform/ui/InputCommit.h"
 #include "platform/ui/Screen.h"
 
 namespace quill {
@@ -31,6 +32,7 @@ QWidget* CWindow::Control(int id) const {
 MenuBarModel CWindow::MenuBar() const { return {{m_screen.InputPanelButton()}, {}}; }
 
 CommandResult CWindow::RunCommand(int id, CommandCheck check) {
+  CommitInput();
   CommandRoute route = Route();
   route.Add(m_screen.ScreenCommands());
   return route.Run(id, check);
