@@ -10,6 +10,7 @@
 #include "driver/ControlState.h"
 #include "driver/Operations.h"
 #include "driver/Pen.h"
+#include "driver/PopupSteps.h"
 #include "driver/Steps.h"
 #include "driver/Targets.h"
 #include "platform/ui/Screen.h"
@@ -56,13 +57,20 @@ Handler OnControl(ControlAction action) {
   return [action](const QJsonObject& arguments, OperationContext& context) {
     const std::optional<int> id = WholeNumber(arguments, u"id");
     if (!id) return Refusal(kMalformed);
-    if (context.Pen.IsDown() || FindPopup() != nullptr) return Refusal(kBusy);
     const CWindow* window = FindTopmost();
     QWidget* control = window ? window->Control(*id) : nullptr;
     if (control == nullptr) return Refusal(kUnknown);
     if (!control->isVisible()) return Refusal(kHidden);
     if (!control->isEnabled()) return Refusal(kDisabled);
     return action(*control, arguments, context.Steps);
+  };
+}
+
+// One that a pen that is down or a menu that is open would keep its user from.
+Handler WhenIdle(Handler handler) {
+  return [handler](const QJsonObject& arguments, OperationContext& context) {
+    if (context.Pen.IsDown() || FindPopup() != nullptr) return Refusal(kBusy);
+    return handler(arguments, context);
   };
 }
 
@@ -89,6 +97,7 @@ Answer Click(QWidget& control, const QJsonObject&, Steps& steps) {
 Answer Drop(QWidget& control, const QJsonObject&, Steps& steps) {
   auto* list = qobject_cast<QComboBox*>(&control);
   if (list == nullptr) return Refusal(kUnknown);
+  AddDismissal(steps);
   steps.Add([target = QPointer(list)] {
     if (target) target->showPopup();
   });
@@ -112,9 +121,12 @@ Answer Focus(const QJsonObject&, OperationContext&) {
 
 OperationTable ControlOperations() {
   return {
-      {u"controls", Controls},    {u"get", Get},
-      {u"set", OnControl(Set)},   {u"click", OnControl(Click)},
-      {u"drop", OnControl(Drop)}, {u"focus", Focus},
+      {u"controls", Controls},
+      {u"get", Get},
+      {u"set", WhenIdle(OnControl(Set))},
+      {u"click", WhenIdle(OnControl(Click))},
+      {u"drop", OnControl(Drop)},
+      {u"focus", Focus},
   };
 }
 

@@ -1,7 +1,8 @@
 #include "driver/Driver.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 
+#include <poll.h>
 #include <unistd.h>
 
 #include <array>
@@ -17,6 +18,15 @@ constexpr qsizetype kLongestLine = 4 * 1024 * 1024;  // bytes
 constexpr int kMostTurns = 100;  // a window that never comes to rest is answered all the same
 
 Driver* s_following = nullptr;
+
+// A blinking cursor would make pictures of one screen differ.
+void StillCursor() { QApplication::setCursorFlashTime(0); }
+
+// Returns when more can be written, or when nobody reads any more.
+void AwaitReader(int output) {
+  pollfd wanted{output, POLLOUT, 0};
+  poll(&wanted, 1, -1);
+}
 
 }  // namespace
 
@@ -50,6 +60,8 @@ void Driver::Attach() {
   m_link = std::make_unique<ShellLink>(m_input,
                                        ShellLink::Calls{[this] { Tick(); }, [this] { Read(); }});
   if (m_inputEnded) m_link->StopReading();
+  // The application is only half made here; the first loop finds it whole.
+  QMetaObject::invokeMethod(m_link.get(), StillCursor, Qt::QueuedConnection);
   m_link->Arm(0);
 }
 
@@ -133,16 +145,18 @@ void Driver::BeginNext() {
   m_answer = request ? RunOperation(m_parts.Operations, *request, m_context) : Refusal(kMalformed);
 }
 
-// Nobody reads any more: that is the end of a script as well.
+// A slow reader is waited for. When nobody reads any more, that is the end of a script as well.
 void Driver::Write(const QByteArray& bytes) {
   for (qsizetype done = 0; done < bytes.size();) {
     const ssize_t count = write(m_output, bytes.data() + done, bytes.size() - done);
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0) {
+    if (count >= 0) {
+      done += count;
+    } else if (errno == EAGAIN || errno == EWOULDBLOCK) {
+      AwaitReader(m_output);
+    } else if (errno != EINTR) {
       m_ended = true;
       return;
     }
-    done += count;
   }
 }
 

@@ -51,8 +51,11 @@ QString TextOf(const NamedKey& key, QStringView name) {
     case Qt::Key_Space:
       return QStringLiteral(" ");
     default:
-      return name.size() == 1 ? name.toString() : QString();
+      break;
   }
+  if (name.size() != 1) return {};
+  const bool shifted = key.Modifiers.testFlag(Qt::ShiftModifier);
+  return shifted ? name.toString().toUpper() : name.toString();
 }
 
 }  // namespace
@@ -69,7 +72,9 @@ std::optional<NamedKey> ParseKey(const QString& name) {
 }
 
 NamedKey KeyOf(QChar character) {
-  if (character == u'\n') return {Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r")};
+  if (character == u'\t') return {Qt::Key_Tab, Qt::NoModifier, QStringLiteral("\t")};
+  if (character == u'\n' || character == u'\r')
+    return {Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r")};
   const Qt::KeyboardModifiers modifiers = character.isUpper() ? Qt::ShiftModifier : Qt::NoModifier;
   return {character.toUpper().unicode(), modifiers, QString(character)};
 }

@@ -122,7 +122,8 @@ Answer Scroll(const QJsonObject& arguments, OperationContext& context) {
   if (!action) return Refusal(kMalformed);
   const QJsonValue on = arguments.value(u"on");
   const auto target = on.isUndefined() ? FindTarget(QStringLiteral("view")) : FindTarget(on);
-  QWidget* window = target ? target->Window : nullptr;
+  if (!target) return RefuseTarget(on);
+  QWidget* window = target->Window;
   // The list's bar stands beside it, in the view.
   QScrollBar* bar = FindBar(window == FindList() ? FindView() : window);
   if (bar == nullptr) bar = qobject_cast<QScrollBar*>(window);

@@ -17,7 +17,7 @@ constexpr double kLargestPicture = 8;  // image pixels for each logical pixel
 
 Answer Where(const QJsonObject& arguments, OperationContext&) {
   const std::optional<Target> target = FindTarget(arguments.value(u"on"));
-  if (!target) return Refusal(kUnknown);
+  if (!target) return RefuseTarget(arguments.value(u"on"));
   return Result(u"where", RectangleJson(OnScreen(*target)));
 }
 
@@ -30,7 +30,7 @@ QJsonObject TextJson(const RecordedText& text, QPoint origin) {
 
 Answer Texts(const QJsonObject& arguments, OperationContext&) {
   const std::optional<Target> target = FindTarget(arguments.value(u"on"));
-  if (!target) return Refusal(kUnknown);
+  if (!target) return RefuseTarget(arguments.value(u"on"));
   QWidget::RenderFlags flags = QWidget::DrawWindowBackground;
   if (arguments.value(u"children").toBool(true)) flags |= QWidget::DrawChildren;
   TextRecorder recorder(target->Window->size());

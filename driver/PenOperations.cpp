@@ -50,7 +50,7 @@ Handler AtPoint(PenGesture gesture) {
     const std::optional<double> y = Number(arguments, u"y");
     if (!x || !y) return Refusal(kMalformed);
     const std::optional<Target> target = FindTarget(arguments.value(u"on"));
-    if (!target) return Refusal(kUnknown);
+    if (!target) return RefuseTarget(arguments.value(u"on"));
     gesture(context, OnScreen(*target, QPoint(0, 0)) + QPointF(*x, *y));
     return Done();
   };
@@ -77,7 +77,7 @@ std::optional<std::vector<StrokePoint>> ReadPoints(const QJsonValue& value, QPoi
 
 Answer Stroke(const QJsonObject& arguments, OperationContext& context) {
   const std::optional<Target> target = FindTarget(arguments.value(u"on"));
-  if (!target) return Refusal(kUnknown);
+  if (!target) return RefuseTarget(arguments.value(u"on"));
   const auto points = ReadPoints(arguments.value(u"points"), OnScreen(*target, QPoint(0, 0)));
   if (!points) return Refusal(kMalformed);
   Pen& pen = context.Pen;

@@ -3,6 +3,7 @@
 #include "driver/MenuJson.h"
 #include "driver/Operations.h"
 #include "driver/Pen.h"
+#include "driver/PopupSteps.h"
 #include "driver/Steps.h"
 #include "driver/Targets.h"
 #include "platform/ui/MenuPopup.h"
@@ -38,9 +39,7 @@ Answer Choose(const QJsonObject& arguments, OperationContext& context) {
 Answer Dismiss(const QJsonObject&, OperationContext& context) {
   if (FindPopup() == nullptr && !context.Pen.IsDown()) return Refusal(kUnknown);
   LiftPen(context);
-  context.Steps.Add([] {
-    if (CMenuPopup* open = FindPopup()) open->Dismiss();
-  });
+  AddDismissal(context.Steps);
   return Done();
 }
 

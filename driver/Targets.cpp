@@ -71,12 +71,18 @@ Target ClientOf(CWindow& window) {
 
 std::optional<Target> FindTarget(const QJsonValue& on) {
   if (const std::optional<int> id = WholeNumber(on)) return FindControl(*id);
-  const QString name = on.toString(QStringLiteral("screen"));
+  if (on.isUndefined()) return Whole(FindScreen());
+  const QString name = on.toString();
   if (name == u"screen") return Whole(FindScreen());
   if (name == u"view") return Whole(FindView());
   if (name == u"list") return Whole(FindList());
   if (name == u"top") return FindTop();
   return std::nullopt;
+}
+
+Answer RefuseTarget(const QJsonValue& on) {
+  const bool named = on.isUndefined() || on.isString() || WholeNumber(on).has_value();
+  return Refusal(named ? kUnknown : kMalformed);
 }
 
 QRect OnScreen(const Target& target) {

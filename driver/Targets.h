@@ -9,6 +9,8 @@
 
 #include <optional>
 
+#include "driver/Request.h"
+
 namespace quill {
 class CContactListCtrl;
 class CMainFrame;
@@ -34,8 +36,11 @@ struct Target {
   QRect Client = {};
 };
 Target ClientOf(CWindow& window);
-// What "on" names; the screen without it. Nothing when there is no such window just now.
+// What "on" names; the screen without it. Nothing when there is no such window just now, or when it
+// is neither a text nor a whole number.
 std::optional<Target> FindTarget(const QJsonValue& on);
+// The refusal of an operation for which FindTarget found nothing.
+Answer RefuseTarget(const QJsonValue& on);
 
 // Rectangles and points of the screen, in logical pixels.
 QRect OnScreen(const Target& target);

@@ -10,9 +10,9 @@
 #include "driver/ClassName.h"
 #include "driver/Geometry.h"
 #include "driver/Operations.h"
+#include "driver/PopupSteps.h"
 #include "driver/Steps.h"
 #include "driver/Targets.h"
-#include "platform/ui/MenuPopup.h"
 #include "platform/ui/Screen.h"
 #include "resources/Ids.h"
 
@@ -92,21 +92,13 @@ Answer Message(const QJsonObject&, OperationContext&) {
   return Result(u"message", message ? QJsonValue(MessageJson(*message)) : QJsonValue());
 }
 
-// A menu above a window goes before the window is used, as it does for a pen.
-void DismissPopup(OperationContext& context) {
-  if (FindPopup() == nullptr) return;
-  context.Steps.Add([] {
-    if (CMenuPopup* open = FindPopup()) open->Dismiss();
-  });
-}
-
 Answer AnswerMessage(const QJsonObject& arguments, OperationContext& context) {
   const std::optional<QString> name = Text(arguments, u"button");
   if (!name) return Refusal(kMalformed);
   const CWindow* message = FindMessage();
   QAbstractButton* button = message ? FindButton(*message, *name) : nullptr;
   if (button == nullptr) return Refusal(kUnknown);
-  DismissPopup(context);
+  AddDismissal(context.Steps);
   context.Steps.Add([target = QPointer(button)] {
     if (target) target->click();
   });
@@ -116,7 +108,7 @@ Answer AnswerMessage(const QJsonObject& arguments, OperationContext& context) {
 Answer Ok(const QJsonObject&, OperationContext& context) {
   CWindow* window = FindTopmost();
   if (window == nullptr || !window->HasOK()) return Refusal(kUnknown);
-  DismissPopup(context);
+  AddDismissal(context.Steps);
   context.Steps.Add([target = QPointer(window)] {
     if (target) target->OnOK();
   });
@@ -126,7 +118,7 @@ Answer Ok(const QJsonObject&, OperationContext& context) {
 Answer Cancel(const QJsonObject&, OperationContext& context) {
   CWindow* window = FindTopmost();
   if (window == nullptr) return Refusal(kUnknown);
-  DismissPopup(context);
+  AddDismissal(context.Steps);
   context.Steps.Add([target = QPointer(window)] {
     if (target) target->OnCancel();
   });

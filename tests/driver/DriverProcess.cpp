@@ -13,6 +13,15 @@ constexpr int kPatience = 60000;  // milliseconds for one answer, on a busy mach
 }  // namespace
 
 DriverProcess::DriverProcess(const QStringList& arguments, const QString& program) {
+  Start(arguments, program);
+}
+
+DriverProcess::DriverProcess(const std::function<void()>& inChild) {
+  m_process.setChildProcessModifier(inChild);
+  Start({}, QStringLiteral(QUILL_DRIVER_PROGRAM));
+}
+
+void DriverProcess::Start(const QStringList& arguments, const QString& program) {
   m_process.start(program, arguments);
   EXPECT_TRUE(m_process.waitForStarted(kPatience)) << qPrintable(m_process.errorString());
 }

@@ -6,12 +6,16 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <functional>
+
 namespace quill::test {
 
 class DriverProcess {
  public:
   explicit DriverProcess(const QStringList& arguments = {},
                          const QString& program = QStringLiteral(QUILL_DRIVER_PROGRAM));
+  // The driver without arguments, whose process runs this before the program.
+  explicit DriverProcess(const std::function<void()>& inChild);
   ~DriverProcess();
   DriverProcess(const DriverProcess&) = delete;
   DriverProcess& operator=(const DriverProcess&) = delete;
@@ -36,6 +40,8 @@ class DriverProcess {
   QByteArray StandardError() { return m_process.readAllStandardError(); }
 
  private:
+  void Start(const QStringList& arguments, const QString& program);
+
   QProcess m_process;
 };
 

@@ -28,6 +28,9 @@ INSTANTIATE_TEST_SUITE_P(Names, KeyName,
                                          KeyCase{"PgDown", Qt::Key_PageDown, Qt::NoModifier, ""},
                                          KeyCase{"Alt", Qt::Key_Alt, Qt::NoModifier, ""},
                                          KeyCase{"a", Qt::Key_A, Qt::NoModifier, "a"},
+                                         KeyCase{"Shift+a", Qt::Key_A, Qt::ShiftModifier, "A"},
+                                         KeyCase{"Ctrl+Shift+a", Qt::Key_A,
+                                                 Qt::ControlModifier | Qt::ShiftModifier, ""},
                                          KeyCase{"Shift+F10", Qt::Key_F10, Qt::ShiftModifier, ""},
                                          KeyCase{"Ctrl+Z", Qt::Key_Z, Qt::ControlModifier, ""},
                                          KeyCase{"Ctrl+Shift+Home", Qt::Key_Home,
@@ -43,5 +46,11 @@ TEST(KeyNames, RefuseWhatIsNoKey) {
 TEST(KeyNames, CapitalLettersAreTypedWithShift) {
   EXPECT_EQ(KeyOf(u'A').Modifiers, Qt::ShiftModifier);
   EXPECT_EQ(KeyOf(u'a').Key, Qt::Key_A);
+}
+
+TEST(KeyNames, TabsAndLineEndsAreTypedWithTheirKeys) {
+  EXPECT_EQ(KeyOf(u'\t').Key, Qt::Key_Tab);
+  EXPECT_EQ(KeyOf(u'\t').Text, QStringLiteral("\t"));
   EXPECT_EQ(KeyOf(u'\n').Key, Qt::Key_Return);
+  EXPECT_EQ(KeyOf(u'\r').Key, Qt::Key_Return);
 }

@@ -62,6 +62,21 @@ TEST(Picture, IsTheSameFromRunToRun) {
   EXPECT_EQ(pictures[0], pictures[1]);
 }
 
+TEST(Picture, OfAFocusedEditorStaysTheSameInEveryShell) {
+  const QTemporaryDir folder;
+  const QString early = folder.filePath(QStringLiteral("early.png"));
+  const QString late = folder.filePath(QStringLiteral("late.png"));
+  ReadyDriver driver({QStringLiteral("--now"), QStringLiteral("2004-09-15T09:30:05")});
+  for (int shell = 0; shell < 2; ++shell) {
+    driver.Do(R"({"op":"set","id":1028,"text":"Baker"})");
+    driver.Do(PictureLine(early));
+    driver.Do(R"({"op":"wait","ms":700})");
+    driver.Do(PictureLine(late));
+    EXPECT_EQ(QImage(early), QImage(late)) << "shell " << shell;
+    driver.Do(R"({"op":"command","id":60001})");
+  }
+}
+
 TEST(Picture, ThatCannotBeWrittenIsRefused) {
   ReadyDriver driver;
   EXPECT_EQ(driver.Error(PictureLine(QStringLiteral("/no/such/folder/x.png"))),

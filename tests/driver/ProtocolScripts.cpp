@@ -3,10 +3,25 @@
 
 #include <QTemporaryDir>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include "driver/DriverProcess.h"
 
 using quill::test::DriverProcess;
 using quill::test::ReadyDriver;
+
+namespace {
+
+// Its output is a pipe that refuses what it cannot hold just now.
+class SlowlyReadDriver : public DriverProcess {
+ public:
+  SlowlyReadDriver() : DriverProcess([] { fcntl(STDOUT_FILENO, F_SETFL, O_WRONLY | O_NONBLOCK); }) {
+    ReadLine();
+  }
+};
+
+}  // namespace
 
 TEST(Protocol, ReadyLineComesFirst) {
   DriverProcess driver;
@@ -45,6 +60,16 @@ TEST(Protocol, LinesThatComeTogetherAreAnsweredInOrder) {
   EXPECT_EQ(driver.ReadLine(), R"({"ok":true})");
   EXPECT_EQ(driver.ReadLine(), R"({"ok":false,"error":"unknown operation"})");
   EXPECT_EQ(driver.ReadLine(), R"({"ok":true,"popup":null})");
+}
+
+TEST(Protocol, SlowReaderOfAPipeThatDoesNotBlockGetsWholeAnswers) {
+  SlowlyReadDriver driver;
+  const QByteArray ink(3 * 1024 * 1024, 'n');
+  driver.Result(R"({"op":"put","fields":{"FileAs":"Adams","BodyInk":")" + ink + R"("}})", u"oid");
+  const QJsonArray contacts = driver.Result(R"({"op":"contacts"})", u"contacts").toArray();
+  const QJsonObject fields = contacts.at(0).toObject().value(u"fields").toObject();
+  EXPECT_EQ(fields.value(u"BodyInk").toString().size(), ink.size());
+  EXPECT_EQ(driver.Finish(), 0);
 }
 
 TEST(Protocol, QuitIsAnsweredAndEndsTheProgram) {

@@ -88,6 +88,13 @@ TEST(Commands, AreRefusedWhileAPopupIsOpenOrThePenIsDown) {
   EXPECT_EQ(Windows(driver).size(), 2);
 }
 
+TEST(Drop, IsAnsweredWhileAPopupIsOpenOrThePenIsDown) {
+  ReadyDriver driver;
+  driver.Do(R"({"op":"hold","x":80,"y":12})");
+  EXPECT_EQ(driver.Error(R"({"op":"drop","id":1028})"), QStringLiteral("unknown"));
+  EXPECT_EQ(driver.Error(R"({"op":"set","id":1028,"text":"x"})"), QStringLiteral("busy"));
+}
+
 TEST(Menus, ListEveryItemWithItsStateAndTheBarsButtonsLast) {
   ReadyDriver driver;
   const QJsonArray menus = driver.Result(R"({"op":"menus"})", u"menus").toArray();
@@ -177,6 +184,18 @@ TEST(Pen, WindowsThatAreNotThereAreUnknown) {
     EXPECT_EQ(driver.Error(QByteArray(R"({"op":"tap","x":1,"y":1,"on":)") + window + '}'),
               QStringLiteral("unknown"))
         << window;
+}
+
+TEST(Pen, WindowsOfAWrongTypeAreMalformed) {
+  ReadyDriver driver;
+  for (const char* const window : {"null", "true", "{}", "[]", "1.5"}) {
+    const QByteArray on = QByteArray(R"(,"on":)") + window + '}';
+    EXPECT_EQ(driver.Error(R"({"op":"tap","x":1,"y":1)" + on), QStringLiteral("malformed"))
+        << window;
+    EXPECT_EQ(driver.Error(R"({"op":"where")" + on), QStringLiteral("malformed")) << window;
+    EXPECT_EQ(driver.Error(R"({"op":"scroll","code":"top")" + on), QStringLiteral("malformed"))
+        << window;
+  }
 }
 
 TEST(Where, GivesClientAreasInPixelsOfTheScreen) {
