@@ -53,7 +53,7 @@ using ControlAction =
     std::function<Answer(QWidget& control, const QJsonObject& arguments, Steps& steps)>;
 
 // An operation on a control that a user could reach just now.
-Handler OnControl(ControlAction action) {
+Handler OnControl(const ControlAction& action) {
   return [action](const QJsonObject& arguments, OperationContext& context) {
     const std::optional<int> id = WholeNumber(arguments, u"id");
     if (!id) return Refusal(kMalformed);
@@ -67,7 +67,7 @@ Handler OnControl(ControlAction action) {
 }
 
 // One that a pen that is down or a menu that is open would keep its user from.
-Handler WhenIdle(Handler handler) {
+Handler WhenIdle(const Handler& handler) {
   return [handler](const QJsonObject& arguments, OperationContext& context) {
     if (context.Pen.IsDown() || FindPopup() != nullptr) return Refusal(kBusy);
     return handler(arguments, context);

@@ -59,7 +59,7 @@ Handler AtPoint(PenGesture gesture) {
 // [x, y] or [x, y, pressure] relative to the origin; without a pressure it is a full one.
 std::optional<StrokePoint> ReadPoint(const QJsonArray& numbers, QPointF origin) {
   if (numbers.size() < 2 || numbers.size() > 3) return std::nullopt;
-  for (const QJsonValue& number : numbers)
+  for (const auto& number : numbers)
     if (!number.isDouble()) return std::nullopt;
   const QPointF at(numbers[0].toDouble(), numbers[1].toDouble());
   return StrokePoint{origin + at, numbers.size() == 3 ? numbers[2].toDouble() : 1.0};
@@ -67,7 +67,8 @@ std::optional<StrokePoint> ReadPoint(const QJsonArray& numbers, QPointF origin) 
 
 std::optional<std::vector<StrokePoint>> ReadPoints(const QJsonValue& value, QPointF origin) {
   std::vector<StrokePoint> points;
-  for (const QJsonValue& numbers : value.toArray()) {
+  const QJsonArray list = value.toArray();
+  for (const auto& numbers : list) {
     const std::optional<StrokePoint> point = ReadPoint(numbers.toArray(), origin);
     if (!point) return std::nullopt;
     points.push_back(*point);

@@ -80,7 +80,7 @@ int DriverProcess::Finish() {
 }
 
 QJsonObject FindText(const QJsonValue& texts, const QString& words) {
-  for (const QJsonValue& text : texts.toArray())
+  for (const auto& text : texts.toArray())
     if (text.toObject().value(u"text") == words) return text.toObject();
   return {};
 }
