@@ -74,6 +74,8 @@ ContactsFolder* FaultyStore::Contacts() { return m_inner.Contacts() ? m_contacts
 
 CalendarFolder* FaultyStore::Calendar() { return m_inner.Calendar(); }
 
+CategoryLibrary* FaultyStore::Categories() { return m_inner.Categories(); }
+
 std::unique_ptr<StoreTransaction> FaultyStore::Begin() { return m_inner.Begin(); }
 
 qint64 FaultyStore::Changes() { return m_inner.Changes(); }

@@ -23,6 +23,7 @@ class FaultyStore : public StoreProvider {
   void Close() override;
   ContactsFolder* Contacts() override;
   CalendarFolder* Calendar() override;
+  CategoryLibrary* Categories() override;
   std::unique_ptr<StoreTransaction> Begin() override;
   qint64 Changes() override;
   QString LastError() const override;

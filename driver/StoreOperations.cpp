@@ -1,6 +1,8 @@
-// contacts, contact, put, drop-contact, notify: the store's back door, and the notice that the
-// program gets of it.
+// contacts, contact, put, drop-contact, categories, notify: the store's back door, and the notice
+// that the program gets of it.
 #include <QJsonArray>
+
+#include <algorithm>
 
 #include "app/ui/MainFrame.h"
 #include "driver/Arguments.h"
@@ -90,6 +92,29 @@ Answer DropContact(const QJsonObject& arguments, ContactsFolder& folder,
   return Done();
 }
 
+std::optional<QStringList> NamesIn(const QJsonValue& value) {
+  const QJsonArray array = value.toArray();
+  const bool isTexts =
+      value.isArray() &&
+      std::all_of(array.begin(), array.end(), [](const auto& name) { return name.isString(); });
+  if (!isTexts) return std::nullopt;
+  QStringList names;
+  for (const QJsonValue& name : array) names.append(name.toString());
+  return names;
+}
+
+Answer Categories(const QJsonObject& arguments, OperationContext& context) {
+  CategoryLibrary* library = context.Store.Categories();
+  if (!library) return Refusal(u"no store");
+  if (arguments.contains(u"names")) {
+    const auto names = NamesIn(arguments.value(u"names"));
+    if (!names) return Refusal(kMalformed);
+    if (!library->SetNames(*names)) return Refusal(u"not written");
+    NotifyUnlessQuiet(arguments, context);
+  }
+  return Result(u"categories", QJsonArray::fromStringList(library->Names()));
+}
+
 Answer SendNotice(const QJsonObject& arguments, OperationContext& context) {
   const std::optional<int> first = WholeNumber(arguments, u"param");
   if (!first) return Refusal(kMalformed);
@@ -103,7 +128,7 @@ OperationTable StoreOperations() {
   return {
       {u"contacts", OnFolder(Contacts)}, {u"contact", OnFolder(Contact)},
       {u"put", OnFolder(Put)},           {u"drop-contact", OnFolder(DropContact)},
-      {u"notify", SendNotice},
+      {u"categories", Categories},       {u"notify", SendNotice},
   };
 }
 

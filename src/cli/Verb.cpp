@@ -4,6 +4,7 @@
 #include <array>
 #include <limits>
 
+#include "cli/CheckVerb.h"
 #include "cli/ImportVerb.h"
 #include "cli/ListVerb.h"
 
@@ -12,6 +13,8 @@ namespace {
 
 constexpr int kAny = std::numeric_limits<int>::max();
 constexpr auto kVerbs = std::to_array<Verb>({
+    {u"check", u"[--json]", u"look the store over and mend its index", 0, 0, VerbOutput::TextOrJson,
+     RunCheck},
     {u"import", u"FILE...", u"bring in the contacts of vCard files", 1, kAny, VerbOutput::Text,
      RunImport},
     {u"list", u"[--json]", u"print the contacts' names, one on a line", 0, 0,

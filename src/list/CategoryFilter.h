@@ -8,7 +8,6 @@
 namespace quill {
 
 inline constexpr QStringView kShowAllCategories = u"Show All";  // no category is chosen
-inline constexpr QStringView kNoCategories = u"No Categories";  // contacts without a category
 
 inline constexpr int kSeveralCategoriesLimit = 1023;  // UTF-16 units of either list of names
 

@@ -41,4 +41,13 @@ bool CategoriesMatch(QStringView chosen, QStringView categories) {
   });
 }
 
+QStringList ValidCategories(const QStringList& names) {
+  QStringList valid;
+  for (const QString& name : names) {
+    const bool isOneName = SplitCategories(name) == QStringList(name);
+    if (isOneName && name != kNoCategories && !valid.contains(name)) valid.append(name);
+  }
+  return valid;
+}
+
 }  // namespace quill

@@ -7,6 +7,8 @@
 
 namespace quill {
 
+inline constexpr QStringView kNoCategories = u"No Categories";  // contacts without a category
+
 // The pieces between the commas, leading blanks skipped, trailing ones kept. Empty pieces name no
 // category and are left out.
 QStringList SplitCategories(QStringView categories);
@@ -15,5 +17,9 @@ QString JoinCategories(const QStringList& names);
 // True when any name in chosen equals any name in categories exactly. An empty choice matches only
 // an empty text.
 bool CategoriesMatch(QStringView chosen, QStringView categories);
+
+// What a list of categories can hold of these: no empty name, none with a comma or a leading blank,
+// none twice, and not kNoCategories.
+QStringList ValidCategories(const QStringList& names);
 
 }  // namespace quill

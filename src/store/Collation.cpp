@@ -5,7 +5,10 @@ namespace quill {
 namespace {
 
 void AppendUnit(QByteArray& key, char16_t unit) {
-  if (unit < 0x80) {
+  if (unit < 2) {
+    // In two bytes, so that the byte 0 is free to end a key.
+    key.append('\1').append(static_cast<char>(unit + 1));
+  } else if (unit < 0x80) {
     key.append(static_cast<char>(unit));
   } else if (unit < 0x800) {
     key.append(static_cast<char>(0xC0 | (unit >> 6)));

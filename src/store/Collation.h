@@ -8,7 +8,9 @@
 //
 // A key is a text in bytes, one to three for each unit (surrogates too), made so that comparing two
 // keys with memcmp compares the texts unit by unit. A key that is the beginning of another one
-// comes first.
+// comes first. No key holds the byte 0, so one may stand between two keys, and the byte 1 never
+// begins a unit alone: a key followed by it comes after every text that ends with that key and
+// before every longer one.
 #pragma once
 
 #include <QByteArray>

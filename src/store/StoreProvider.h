@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -65,6 +66,18 @@ class CalendarFolder {
   virtual ~CalendarFolder() = default;
 };
 
+// The categories that the user keeps, in their order. "No Categories" is not one of them.
+class CategoryLibrary {
+ public:
+  virtual ~CategoryLibrary() = default;
+
+  // Empty when the store fails.
+  virtual QStringList Names() = 0;
+  // Takes the place of the whole list, as far as ValidCategories lets it; the contacts keep theirs.
+  // False when the store fails: then the list is as before.
+  virtual bool SetNames(const QStringList& names) = 0;
+};
+
 // One durable unit of work: rolled back when it goes without a Commit.
 class StoreTransaction {
  public:
@@ -86,6 +99,8 @@ class StoreProvider {
   // Null before the folder is open. Owned by the provider, gone after Close.
   virtual ContactsFolder* Contacts() = 0;
   virtual CalendarFolder* Calendar() = 0;
+  // Null before the contacts folder is open. Owned by the provider, gone after Close.
+  virtual CategoryLibrary* Categories() = 0;
 
   // Null when no transaction can be begun.
   virtual std::unique_ptr<StoreTransaction> Begin() = 0;

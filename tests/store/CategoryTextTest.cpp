@@ -52,5 +52,14 @@ TEST(CategoryText, JoinsWithACommaAndABlank) {
   EXPECT_EQ(JoinCategories({}), QString());
 }
 
+TEST(CategoryText, AListHoldsEachNameOnceAndOnlyWhatIsOneName) {
+  EXPECT_EQ(ValidCategories({QStringLiteral("Work"), QString(), QStringLiteral("가족"),
+                             QStringLiteral("A,B"), QStringLiteral(" Lead"), QStringLiteral("Work"),
+                             QStringLiteral("No Categories"), QStringLiteral("work"),
+                             QStringLiteral("Trail "), QStringLiteral(" ")}),
+            QStringList({QStringLiteral("Work"), QStringLiteral("가족"), QStringLiteral("work"),
+                         QStringLiteral("Trail ")}));
+}
+
 }  // namespace
 }  // namespace quill

@@ -75,6 +75,22 @@ TEST(Collation, ABeginningComesFirst) {
   EXPECT_EQ(KeyOrder(FoldKey(u"K"), FoldKey(QStringView(withNul, 2))), -1);
 }
 
+TEST(Collation, NoKeyHoldsTheByteThatEndsKeys) {
+  for (int unit = 0; unit <= 0xFFFF; ++unit) {
+    const QChar text(static_cast<char16_t>(unit));
+    ASSERT_FALSE(UnitKey(QStringView(&text, 1)).contains('\0')) << unit;
+  }
+}
+
+TEST(Collation, TheByteOneComesAfterAKeysEndAndBeforeEveryLongerText) {
+  const QByteArray kim = UnitKey(u"Kim");
+  for (int unit = 0; unit <= 0xFFFF; ++unit) {
+    const QChar text[]{u'K', u'i', u'm', QChar(static_cast<char16_t>(unit))};
+    ASSERT_EQ(KeyOrder(kim + '\1', UnitKey(QStringView(text, 4))), -1) << unit;
+  }
+  EXPECT_EQ(KeyOrder(kim + '\0', kim + '\1'), -1);
+}
+
 TEST(Collation, EveryUnitsKeyIsInItsPlace) {
   QByteArray before = UnitKey(QStringView(u"\0", 1));
   for (int unit = 1; unit <= 0xFFFF; ++unit) {

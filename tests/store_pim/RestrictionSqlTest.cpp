@@ -16,7 +16,8 @@ TEST(RestrictionSql, ValuesAreParametersAndNeverPartOfTheText) {
   const auto sql = ConditionOf(u"[FileAs] >= \"Kim'; DROP\" AND [Categories] = \"?1\"");
   ASSERT_TRUE(sql);
   EXPECT_EQ(sql->Values, QStringList({QStringLiteral("Kim'; DROP"), QStringLiteral("?1")}));
-  EXPECT_EQ(sql->Condition, "(FileAsKey >= fold_key(?1) AND categories_match(?2, Categories))");
+  EXPECT_EQ(sql->Condition,
+            "(fold_key(FileAs) >= fold_key(?1) AND categories_match(?2, Categories))");
 }
 
 TEST(RestrictionSql, AnAppointmentsPropertyIsRefused) {

@@ -35,7 +35,7 @@ INSTANTIATE_TEST_SUITE_P(
     Files, ExaminedFile,
     testing::Values(FileCase{"empty", {}, 0}, FileCase{"a store", Header(0x5175696C, 1), 0},
                     FileCase{"without an id", Header(0, 9), 0},
-                    FileCase{"newer", Header(0x5175696C, 2), SQLITE_SCHEMA},
+                    FileCase{"newer", Header(0x5175696C, 99), SQLITE_SCHEMA},
                     FileCase{"another program's", Header(0x12345678, 1), SQLITE_NOTADB},
                     FileCase{"short", Header(0x5175696C, 1).left(99), SQLITE_NOTADB},
                     FileCase{"a text", QByteArray(5000, 'x'), SQLITE_NOTADB},

@@ -51,6 +51,7 @@ class FaultyStore : public StoreProvider {
   void Close() override { m_inner.Close(); }
   ContactsFolder* Contacts() override;
   CalendarFolder* Calendar() override { return m_inner.Calendar(); }
+  CategoryLibrary* Categories() override { return m_inner.Categories(); }
   std::unique_ptr<StoreTransaction> Begin() override { return m_inner.Begin(); }
   qint64 Changes() override { return m_inner.Changes(); }
   QString LastError() const override { return m_inner.LastError(); }

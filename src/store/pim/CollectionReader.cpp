@@ -1,23 +1,14 @@
 #include "store/pim/CollectionReader.h"
 
-#include "store/pim/RestrictionSql.h"
+#include <utility>
+
+#include "store/pim/PlainOids.h"
 
 namespace quill {
 
 namespace {
 
 constexpr int kWindowSize = 64;
-
-RestrictionSql ConditionOf(const ContactCollection& collection) {
-  if (!collection.Restriction) return {.Condition = "1", .Values = {}};
-  const RestrictionSql nothing{.Condition = "0", .Values = {}};
-  return MakeContactCondition(*collection.Restriction).value_or(nothing);
-}
-
-QByteArray OrderOf(const ContactCollection& collection) {
-  return collection.Order == ContactOrder::ByCompany ? "CompanyKey, FileAsKey, Oid"
-                                                     : "FileAsKey, Oid";
-}
 
 bool SameItems(const ContactCollection& a, const ContactCollection& b) {
   if (a.Order != b.Order) return false;
@@ -29,19 +20,16 @@ bool SameItems(const ContactCollection& a, const ContactCollection& b) {
 
 int CollectionReader::Count(const ContactCollection& collection) {
   TurnTo(collection);
-  if (!m_count) ReadCount();
-  return m_count.value_or(0);
+  if (!m_count) m_count = CountRanges();
+  return *m_count;
 }
 
 Oid CollectionReader::OidAt(const ContactCollection& collection, int position) {
   if (position < 1) return 0;
   TurnTo(collection);
-  const auto inWindow = [this, position] {
-    return position >= m_windowStart &&
-           position - m_windowStart < static_cast<int>(m_window.size());
-  };
-  if (!inWindow()) ReadWindow(position);
-  return inWindow() ? m_window[static_cast<std::size_t>(position - m_windowStart)] : 0;
+  if (m_ranges && !m_window.Holds(position)) ReadWindow(position);
+  if (!m_window.Holds(position)) return 0;
+  return m_window.Oids[static_cast<std::size_t>(position - m_window.Start)];
 }
 
 void CollectionReader::TurnTo(const ContactCollection& collection) {
@@ -49,29 +37,61 @@ void CollectionReader::TurnTo(const ContactCollection& collection) {
   if (stamp == m_stamp && SameItems(collection, m_collection)) return;
   m_stamp = stamp;
   m_collection = collection;
+  m_ranges = ContactRanges(collection);
   m_count.reset();
-  m_window.clear();
+  m_window = {};
+  if (m_ranges) return;
+  m_window = {.Start = 1, .Oids = PlainContactOids(m_database, collection)};
+  m_count = static_cast<int>(m_window.Oids.size());
 }
 
-void CollectionReader::ReadCount() {
-  const RestrictionSql sql = ConditionOf(m_collection);
-  Query query = m_database.Prepare("SELECT count(*) FROM contact WHERE " + sql.Condition);
-  sql.Bind(query);
-  if (query.Next()) m_count = static_cast<int>(query.Number(0));
+int CollectionReader::CountRanges() {
+  // The page that is read next mostly begins at the first item; a short collection is in it whole.
+  if (m_window.Start == 0) ReadWindow(1);
+  if (m_window.Start == 1 && m_window.Oids.size() < kWindowSize) return m_window.End() - 1;
+  int count = 0;
+  for (const KeyRange& range : *m_ranges) count += m_index.Count(range);
+  return count;
 }
 
 void CollectionReader::ReadWindow(int position) {
-  const RestrictionSql sql = ConditionOf(m_collection);
-  const int limit = static_cast<int>(sql.Values.size()) + 1;
-  Query query = m_database.Prepare("SELECT Oid FROM contact WHERE " + sql.Condition + " ORDER BY " +
-                                   OrderOf(m_collection) + " LIMIT ?" + QByteArray::number(limit) +
-                                   " OFFSET ?" + QByteArray::number(limit + 1));
-  sql.Bind(query);
-  query.BindNumber(limit, kWindowSize);
-  query.BindNumber(limit + 1, position - 1);
-  m_windowStart = position;
-  m_window.clear();
-  while (query.Next()) m_window.push_back(static_cast<Oid>(query.Number(0)));
+  if (m_window.Start != 0 && position == m_window.End()) {
+    ReadOn();
+  } else {
+    ReadFrom(position);
+  }
+}
+
+void CollectionReader::ReadFrom(int position) {
+  int offset = position - 1;
+  std::size_t range = 0;
+  // The last range needs no count: nothing follows it.
+  for (; range + 1 < m_ranges->size(); ++range) {
+    const int entries = m_index.Count((*m_ranges)[range]);
+    if (offset < entries) break;
+    offset -= entries;
+  }
+  m_window = {.Start = position, .Range = range};
+  if (range < m_ranges->size()) Fill(m_index.Slice((*m_ranges)[range], offset, kWindowSize));
+}
+
+void CollectionReader::ReadOn() {
+  const auto last = std::exchange(m_window.Last, std::nullopt);
+  m_window.Start = m_window.End();
+  m_window.Oids.clear();
+  if (last) Fill(m_index.SliceAfter(*last, (*m_ranges)[m_window.Range], kWindowSize));
+}
+
+// With this slice of the window's range, and with the ranges after it as long as there is room.
+void CollectionReader::Fill(EntrySlice slice) {
+  m_window.Oids = std::move(slice.Oids);
+  m_window.Last = std::move(slice.Last);
+  while (!m_window.Last && m_window.Range + 1 < m_ranges->size()) {
+    const int room = kWindowSize - static_cast<int>(m_window.Oids.size());
+    slice = m_index.Slice((*m_ranges)[++m_window.Range], 0, room);
+    m_window.Oids.insert(m_window.Oids.end(), slice.Oids.begin(), slice.Oids.end());
+    m_window.Last = std::move(slice.Last);
+  }
 }
 
 }  // namespace quill

@@ -1,4 +1,5 @@
-// Counts a collection and finds its items by position, by plain SQL over the restriction.
+// Counts a collection and finds its items by position: over the list index where the restriction is
+// a range of keys, else over a list of all its Oids.
 //
 // The count and a window of Oids of the collection asked for last are kept until the data change,
 // so that a page read item by item costs one query.
@@ -10,12 +11,14 @@
 #include "store/ContactCollection.h"
 #include "store/ContactRecord.h"
 #include "store/pim/Database.h"
+#include "store/pim/KeyRanges.h"
+#include "store/pim/ListIndex.h"
 
 namespace quill {
 
 class CollectionReader {
  public:
-  explicit CollectionReader(Database& database) : m_database(database) {}
+  explicit CollectionReader(Database& database) : m_database(database), m_index(database) {}
 
   // 0 when the store fails.
   int Count(const ContactCollection& collection);
@@ -23,16 +26,31 @@ class CollectionReader {
   Oid OidAt(const ContactCollection& collection, int position);
 
  private:
+  // A window of consecutive items, and where the items after it stand in the index.
+  struct Window {
+    int Start = 0;  // the position of the first Oid; 0 before anything was read
+    std::vector<Oid> Oids = {};
+    std::optional<EntryPlace> Last = {};
+    std::size_t Range = 0;
+
+    int End() const { return Start + static_cast<int>(Oids.size()); }
+    bool Holds(int position) const { return position >= Start && position < End(); }
+  };
+
   void TurnTo(const ContactCollection& collection);
-  void ReadCount();
+  int CountRanges();
   void ReadWindow(int position);
+  void ReadFrom(int position);
+  void ReadOn();
+  void Fill(EntrySlice slice);
 
   Database& m_database;
+  ListIndex m_index;
   DataStamp m_stamp;
   ContactCollection m_collection;
+  std::optional<KeyRanges> m_ranges;
   std::optional<int> m_count;
-  int m_windowStart = 0;  // the position of the window's first Oid
-  std::vector<Oid> m_window;
+  Window m_window;
 };
 
 }  // namespace quill

@@ -9,7 +9,6 @@ namespace quill {
 namespace {
 
 constexpr int Parameter(int column) { return column + 1; }
-constexpr int ColumnOf(ContactField field) { return static_cast<int>(field); }
 constexpr bool IsDate(int column) { return column >= kDateColumn && column < kBodyInkColumn; }
 
 QByteArray Placeholder(int column) { return '?' + QByteArray::number(Parameter(column)); }
@@ -22,10 +21,6 @@ QByteArray Written(int column, const QByteArray& otherwise) {
   return "coalesce(" + Placeholder(column) + ", " + otherwise + ')';
 }
 
-QByteArray FoldedKey(ContactField field) {
-  return "fold_key(" + Placeholder(ColumnOf(field)) + ')';
-}
-
 bool EditWrites(int column) {
   if (column < kDateColumn) return kContactFields[static_cast<std::size_t>(column)].WrittenBack();
   return IsDate(column) || column == kBodyInkColumn;
@@ -34,9 +29,7 @@ bool EditWrites(int column) {
 QByteArray InsertSql(const QByteArrayList& names) {
   QByteArrayList values;
   for (int i = 0; i < kContactColumnCount; ++i) values.append(Written(i, EmptyDate()));
-  return "INSERT INTO contact (" + names.join(", ") + ", FileAsKey, CompanyKey) VALUES (" +
-         values.join(", ") + ", " + FoldedKey(ContactField::FileAs) + ", " +
-         FoldedKey(ContactField::CompanyName) + ')';
+  return "INSERT INTO contact (" + names.join(", ") + ") VALUES (" + values.join(", ") + ')';
 }
 
 template <typename Includes>
@@ -45,8 +38,6 @@ QByteArray UpdateSql(const QByteArrayList& names, Includes includes) {
   for (int i = 0; i < kContactColumnCount; ++i) {
     if (includes(i)) assignments.append(names[i] + " = " + Written(i, names[i]));
   }
-  assignments.append("FileAsKey = " + FoldedKey(ContactField::FileAs));
-  assignments.append("CompanyKey = " + FoldedKey(ContactField::CompanyName));
   return "UPDATE contact SET " + assignments.join(", ") + " WHERE Oid = ?" +
          QByteArray::number(kOidParameter);
 }

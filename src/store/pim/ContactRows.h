@@ -20,7 +20,7 @@ inline constexpr int kCarriedLinesColumn = kUidColumn + 1;
 inline constexpr int kContactColumnCount = kCarriedLinesColumn + 1;
 inline constexpr int kOidParameter = kContactColumnCount + 1;
 
-// Names in the order of the columns; Oid and the folded keys are not among them.
+// Names in the order of the columns; the Oid is not among them.
 QByteArrayList ContactColumnNames();
 // Each column with its type and default, as a table declares it.
 QByteArrayList ContactColumnDeclarations();

@@ -52,6 +52,8 @@ void Database::Close() {
   m_handle = nullptr;
 }
 
+QString Database::Path() const { return QFile::decodeName(sqlite3_db_filename(m_handle, "main")); }
+
 // Through SQLite's own file: closing another descriptor of the same file would give up the locks
 // that this process holds on it.
 QByteArray Database::FirstBytes(int count) {
@@ -97,10 +99,14 @@ DataStamp Database::Stamp() {
           .Rollbacks = m_rollbacks};
 }
 
-bool Database::AutoCommits() const { return sqlite3_get_autocommit(m_handle) != 0; }
+bool Database::InTransaction() const { return sqlite3_get_autocommit(m_handle) == 0; }
 
 bool Database::Begin() {
-  if (m_transaction || Execute("BEGIN IMMEDIATE") != SQLITE_OK) return false;
+  if (m_transaction) {
+    Fail(SQLITE_MISUSE, QStringLiteral("a transaction is open already"));
+    return false;
+  }
+  if (Execute("BEGIN IMMEDIATE") != SQLITE_OK) return false;
   m_transaction = true;
   return true;
 }
@@ -112,11 +118,17 @@ bool Database::Commit() {
 }
 
 void Database::Rollback() {
-  if (m_transaction && !AutoCommits()) Execute("ROLLBACK");
+  if (m_transaction && InTransaction()) Execute("ROLLBACK");
   m_transaction = false;
 }
 
-bool Database::TransactionLost() const { return m_transaction && AutoCommits(); }
+bool Database::TransactionLost() const { return m_transaction && !InTransaction(); }
+
+bool Database::MayWrite() {
+  if (!TransactionLost()) return true;
+  Fail(SQLITE_ABORT, QStringLiteral("the transaction has been rolled back"));
+  return false;
+}
 
 int Database::Fail(int code, const QString& text) {
   m_failureCode = PrimaryCode(code);

@@ -38,6 +38,8 @@ class Database {
   int Open(const QString& path);
   void Close();
   sqlite3* Handle() const { return m_handle; }
+  // Empty for a store without a file.
+  QString Path() const;
   // Up to so many bytes from the beginning of the file, read without a lock; empty without a file.
   QByteArray FirstBytes(int count);
 
@@ -58,6 +60,10 @@ class Database {
   bool Commit();
   void Rollback();
   bool TransactionLost() const;
+  // False, with a failure, when the transaction is lost.
+  bool MayWrite();
+  // Whether anything is still to be committed.
+  bool InTransaction() const;
 
   int FailureCode() const { return m_failureCode; }
   const QString& FailureText() const { return m_failureText; }
@@ -65,8 +71,6 @@ class Database {
   int Fail(int code, const QString& text = {});
 
  private:
-  bool AutoCommits() const;
-
   sqlite3* m_handle = nullptr;
   QHash<QByteArray, sqlite3_stmt*> m_statements;
   bool m_transaction = false;

@@ -34,11 +34,11 @@ PimContacts::PimContacts(Database& database)
 
 int PimContacts::Check() {
   Query columns = m_database.Prepare(m_sql.Read);
-  Query order = m_database.Prepare("SELECT Oid FROM contact ORDER BY FileAsKey, Oid LIMIT 1");
+  Query index = m_database.Prepare("SELECT n FROM bucket, entry LIMIT 1");
   columns.BindNumber(1, 0);
   columns.Next();
-  order.Next();
-  return columns.Failed() || order.Failed() ? m_database.FailureCode() : SQLITE_OK;
+  index.Next();
+  return columns.Failed() || index.Failed() ? m_database.FailureCode() : SQLITE_OK;
 }
 
 ContactCollection PimContacts::Items() { return {}; }
@@ -92,7 +92,7 @@ Oid PimContacts::SaveWhole(Oid oid, const ContactItem& item) {
 }
 
 bool PimContacts::Remove(Oid oid) {
-  if (!MayWrite()) return false;
+  if (!m_database.MayWrite()) return false;
   Query query = m_database.Prepare("DELETE FROM contact WHERE Oid = ?1");
   query.BindNumber(1, oid);
   return query.Run() && m_database.ChangedRows() == 1;
@@ -104,17 +104,12 @@ std::vector<Oid> PimContacts::FindByUid(const QString& uid) {
 }
 
 std::vector<Oid> PimContacts::FindByFileAs(const QString& fileAs) {
-  return Find("FileAsKey = fold_key(?1) AND FileAs = ?1", fileAs);
-}
-
-bool PimContacts::MayWrite() {
-  if (!m_database.TransactionLost()) return true;
-  m_database.Fail(SQLITE_ABORT, QStringLiteral("the transaction has been rolled back"));
-  return false;
+  return Find("Oid IN (SELECT oid FROM entry WHERE key = entry_key(?1, '', '', 0)) AND FileAs = ?1",
+              fileAs);
 }
 
 Oid PimContacts::Insert(ContactItem item) {
-  if (!MayWrite()) return 0;
+  if (!m_database.MayWrite()) return 0;
   QString& fileAs = item.Record[ContactField::FileAs];
   if (fileAs.isEmpty()) fileAs = MakeFileAs(item.Record);
   Query query = m_database.Prepare(m_sql.Insert);
@@ -123,7 +118,7 @@ Oid PimContacts::Insert(ContactItem item) {
 }
 
 Oid PimContacts::Update(const QByteArray& sql, Oid oid, const ContactItem& item) {
-  if (!MayWrite()) return 0;
+  if (!m_database.MayWrite()) return 0;
   Query query = m_database.Prepare(sql);
   BindContact(query, item);
   query.BindNumber(kOidParameter, oid);

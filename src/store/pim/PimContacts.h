@@ -12,7 +12,7 @@ class PimContacts : public ContactsFolder {
  public:
   explicit PimContacts(Database& database);
 
-  // Whether the table answers: 0 or the failure.
+  // Whether the tables answer: 0 or the failure.
   int Check();
 
   ContactCollection Items() override;
@@ -30,7 +30,6 @@ class PimContacts : public ContactsFolder {
   std::vector<Oid> FindByFileAs(const QString& fileAs) override;
 
  private:
-  bool MayWrite();
   Oid Insert(ContactItem item);
   Oid Update(const QByteArray& sql, Oid oid, const ContactItem& item);
   std::vector<Oid> Find(const QByteArray& condition, const QString& value);

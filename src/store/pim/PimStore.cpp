@@ -9,6 +9,8 @@
 
 #include "store/StoreLog.h"
 #include "store/pim/Database.h"
+#include "store/pim/Journal.h"
+#include "store/pim/PimCategories.h"
 #include "store/pim/PimContacts.h"
 #include "store/pim/Schema.h"
 #include "store/pim/SqlFunctions.h"
@@ -79,8 +81,12 @@ int PimStore::Refuse(int code, const QString& reason) {
 int PimStore::Logon() {
   if (!m_database) return Refuse(SQLITE_MISUSE, QStringLiteral("the store is not open"));
   if (const int code = RegisterFunctions(*m_database)) return code;
-  return PrepareSchema(*m_database);
+  if (const int code = PrepareSchema(*m_database)) return code;
+  PurgeJournals(*m_database);
+  return SQLITE_OK;
 }
+
+StoreHealth PimStore::Check() { return m_database ? CheckStore(*m_database) : StoreHealth{}; }
 
 int PimStore::OpenFolder(FolderKind kind) {
   if (!m_database) return Refuse(SQLITE_MISUSE, QStringLiteral("the store is not open"));
@@ -92,8 +98,10 @@ int PimStore::OpenFolder(FolderKind kind) {
 int PimStore::OpenContacts() {
   auto contacts = std::make_unique<PimContacts>(*m_database);
   const int code = contacts->Check();
-  if (code == SQLITE_OK) m_contacts = std::move(contacts);
-  return code;
+  if (code != SQLITE_OK) return code;
+  m_contacts = std::move(contacts);
+  m_categories = std::make_unique<PimCategories>(*m_database);
+  return SQLITE_OK;
 }
 
 void PimStore::Close() { Release(); }
@@ -102,6 +110,7 @@ void PimStore::Release() {
   if (!m_database) return;
   m_lastError = m_database->FailureText();
   m_contacts.reset();
+  m_categories.reset();
   m_calendar.reset();
   m_database.reset();
 }
@@ -109,6 +118,8 @@ void PimStore::Release() {
 ContactsFolder* PimStore::Contacts() { return m_contacts.get(); }
 
 CalendarFolder* PimStore::Calendar() { return m_calendar.get(); }
+
+CategoryLibrary* PimStore::Categories() { return m_categories.get(); }
 
 std::unique_ptr<StoreTransaction> PimStore::Begin() {
   if (!m_database || !m_database->Begin()) return nullptr;

@@ -6,10 +6,12 @@
 #pragma once
 
 #include "store/StoreProvider.h"
+#include "store/pim/StoreCheck.h"
 
 namespace quill {
 
 class Database;
+class PimCategories;
 class PimContacts;
 
 class PimStore : public StoreProvider {
@@ -22,11 +24,14 @@ class PimStore : public StoreProvider {
 
   int Create() override;  // finds the file fit and opens it
   int Logon() override;   // finds the tables or makes them
+  // After Logon, with or without the folders: whether the file is sound.
+  StoreHealth Check();
   int OpenFolder(FolderKind kind) override;
   void Close() override;
 
   ContactsFolder* Contacts() override;
   CalendarFolder* Calendar() override;
+  CategoryLibrary* Categories() override;
 
   // One transaction at a time: null while another one is open. One that outlives Close does
   // nothing.
@@ -45,6 +50,7 @@ class PimStore : public StoreProvider {
   std::shared_ptr<Database> m_database;
   std::unique_ptr<PimContacts> m_contacts;
   std::unique_ptr<CalendarFolder> m_calendar;
+  std::unique_ptr<PimCategories> m_categories;
 };
 
 }  // namespace quill

@@ -33,10 +33,10 @@ bool AppendComparison(const RestrictionNode& node, RestrictionSql& sql) {
   const QByteArray folded = Sign(node.Operator) + "fold_key(" + value + ')';
   switch (node.Property) {
     case RestrictionProperty::FileAs:
-      sql.Condition += "FileAsKey" + folded;
+      sql.Condition += "fold_key(FileAs)" + folded;
       return true;
     case RestrictionProperty::CompanyName:
-      sql.Condition += "CompanyKey" + folded;
+      sql.Condition += "fold_key(CompanyName)" + folded;
       return true;
     case RestrictionProperty::Categories:
       sql.Condition += CategoriesCondition(node.Operator, value);

@@ -4,6 +4,10 @@
 
 #include "store/pim/ContactRows.h"
 #include "store/pim/Database.h"
+#include "store/pim/Journal.h"
+#include "store/pim/ListIndex.h"
+#include "store/pim/Migration.h"
+#include "store/pim/PimCategories.h"
 #include "store/pim/StoreFile.h"
 
 namespace quill {
@@ -14,9 +18,7 @@ QByteArray ContactTable() {
   return "CREATE TABLE contact ("
          "Oid INTEGER PRIMARY KEY AUTOINCREMENT CHECK (Oid BETWEEN 1 AND 2147483647), " +
          ContactColumnDeclarations().join(", ") +
-         ", FileAsKey BLOB NOT NULL, CompanyKey BLOB NOT NULL);"
-         "CREATE INDEX contact_by_file_as ON contact (FileAsKey);"
-         "CREATE INDEX contact_by_company ON contact (CompanyKey, FileAsKey);"
+         ");"
          "CREATE INDEX contact_by_uid ON contact (Uid) WHERE Uid <> '';";
 }
 
@@ -37,7 +39,11 @@ QByteArray Identity() {
          "; PRAGMA user_version = " + QByteArray::number(kStoreVersion) + ';';
 }
 
-enum class SchemaState { Empty, Current, Refused };
+QByteArray AllTables() {
+  return ContactTable() + JournalTable() + ListIndexTables() + CategoryTables() + JournalIndexes();
+}
+
+enum class SchemaState { Empty, Older, Current, Refused };
 
 SchemaState Refuse(Database& database, const StoreFileFault& fault) {
   database.Fail(fault.Code, fault.Reason);
@@ -52,18 +58,16 @@ SchemaState Examine(Database& database) {
   if (*applicationId == 0 && *version == 0 && *objects == 0) return SchemaState::Empty;
   if (*applicationId != kStoreApplicationId) return Refuse(database, ForeignStoreFault());
   if (*version > kStoreVersion) return Refuse(database, NewerStoreFault(*version));
-  return SchemaState::Current;
+  return *version < kStoreVersion ? SchemaState::Older : SchemaState::Current;
 }
 
-// Another program may be making the same file: the second look, under the lock, is the one that
-// counts.
-int MakeTables(Database& database) {
+// Another program may be at the same file: the second look, under the lock, is the one that counts.
+int BringUpToDate(Database& database) {
   if (!database.Begin()) return database.FailureCode();
   const SchemaState state = Examine(database);
   bool done = state == SchemaState::Current;
-  if (state == SchemaState::Empty) {
-    done = database.Execute(ContactTable() + JournalTable() + Identity()) == SQLITE_OK;
-  }
+  if (state == SchemaState::Empty) done = database.Execute(AllTables() + Identity()) == SQLITE_OK;
+  if (state == SchemaState::Older) done = MigrateStore(database) == SQLITE_OK;
   if (done && database.Commit()) return SQLITE_OK;
   const int code = database.FailureCode();
   database.Rollback();
@@ -77,8 +81,8 @@ int PrepareSchema(Database& database) {
   if (const int code = database.Execute("PRAGMA encoding = 'UTF-16le'")) return code;
   const SchemaState state = Examine(database);
   if (state == SchemaState::Refused) return database.FailureCode();
-  if (state == SchemaState::Empty) {
-    if (const int code = MakeTables(database)) return code;
+  if (state != SchemaState::Current) {
+    if (const int code = BringUpToDate(database)) return code;
   }
   // Only now, so that the identity of a new file stands in the file itself and not in its log.
   return database.Execute(

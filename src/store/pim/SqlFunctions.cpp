@@ -7,6 +7,7 @@
 #include "store/CategoryText.h"
 #include "store/Collation.h"
 #include "store/pim/Database.h"
+#include "store/pim/EntryKeys.h"
 
 namespace quill {
 
@@ -34,24 +35,48 @@ void CategoriesMatchFunction(sqlite3_context* context, int, sqlite3_value** argu
   sqlite3_result_int(context, CategoriesMatch(ViewOf(arguments[0]), ViewOf(arguments[1])) ? 1 : 0);
 }
 
+void EntryNumbersFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+  const int count = ContactEntryCount(ViewOf(arguments[0]));
+  QByteArray numbers = "[0";
+  for (int number = 1; number < count; ++number) numbers += ',' + QByteArray::number(number);
+  numbers += ']';
+  sqlite3_result_text(context, numbers.constData(), static_cast<int>(numbers.size()),
+                      SQLITE_TRANSIENT);
+}
+
+void EntryKeyFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+  const ContactKeyTexts texts{.FileAs = ViewOf(arguments[0]),
+                              .CompanyName = ViewOf(arguments[1]),
+                              .Categories = ViewOf(arguments[2])};
+  Answer(context, ContactEntryKey(texts, sqlite3_value_int(arguments[3])));
+}
+
+void SubjectEntryKeyFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+  Answer(context, SubjectEntryKey(ViewOf(arguments[0])));
+}
+
 struct FunctionRow {
   const char* Name;
   int Arguments;
   void (*Function)(sqlite3_context*, int, sqlite3_value**);
 };
-constexpr std::array<FunctionRow, 3> kFunctions{{
+constexpr std::array<FunctionRow, 6> kFunctions{{
     {"fold_key", 1, FoldKeyFunction},
     {"unit_key", 1, UnitKeyFunction},
     {"categories_match", 2, CategoriesMatchFunction},
+    {"entry_numbers", 1, EntryNumbersFunction},
+    {"entry_key", 4, EntryKeyFunction},
+    {"subject_entry_key", 1, SubjectEntryKeyFunction},
 }};
 
 }  // namespace
 
 int RegisterFunctions(Database& database) {
   for (const FunctionRow& row : kFunctions) {
-    const int code = sqlite3_create_function_v2(database.Handle(), row.Name, row.Arguments,
-                                                SQLITE_UTF16 | SQLITE_DETERMINISTIC, nullptr,
-                                                row.Function, nullptr, nullptr, nullptr);
+    const int code =
+        sqlite3_create_function_v2(database.Handle(), row.Name, row.Arguments,
+                                   SQLITE_UTF16 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS, nullptr,
+                                   row.Function, nullptr, nullptr, nullptr);
     if (code != SQLITE_OK) return database.Fail(code);
   }
   return SQLITE_OK;

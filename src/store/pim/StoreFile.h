@@ -11,7 +11,7 @@ namespace quill {
 
 // Both stand in the header of every store file.
 inline constexpr quint32 kStoreApplicationId = 0x5175696C;  // "Quil"
-inline constexpr quint32 kStoreVersion = 1;
+inline constexpr quint32 kStoreVersion = 2;
 
 struct StoreFileFault {
   int Code;  // an SQLite result code

@@ -1,0 +1,29 @@
+#include "store/Categories.h"
+
+#include "store/CategoryText.h"
+#include "store/ContactStore.h"
+#include "store/StoreLog.h"
+
+namespace quill {
+
+namespace {
+
+CategoryLibrary* Library() { return g_store.Provider ? g_store.Provider->Categories() : nullptr; }
+
+}  // namespace
+
+QStringList UserCategories() {
+  CategoryLibrary* library = Library();
+  return library ? library->Names() : QStringList();
+}
+
+QStringList OfferedCategories() { return UserCategories() << kNoCategories.toString(); }
+
+bool SetUserCategories(const QStringList& names) {
+  CategoryLibrary* library = Library();
+  if (library && library->SetNames(names)) return true;
+  qCWarning(storeLog) << "Categories not written";
+  return false;
+}
+
+}  // namespace quill

@@ -1,0 +1,14 @@
+// The category library of the open session: the names the user keeps, and those to choose from.
+#pragma once
+
+#include <QStringList>
+
+namespace quill {
+
+QStringList UserCategories();
+// The user's, then "No Categories".
+QStringList OfferedCategories();
+// False when no session is open or the store fails (the reason goes to the log).
+bool SetUserCategories(const QStringList& names);
+
+}  // namespace quill

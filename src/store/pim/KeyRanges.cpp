@@ -1,0 +1,184 @@
+#include "store/pim/KeyRanges.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "store/CategoryText.h"
+#include "store/Collation.h"
+
+namespace quill {
+
+namespace {
+
+// Texts from one key to before another one, or without an upper end.
+struct TextRange {
+  QByteArray From;
+  std::optional<QByteArray> To;
+};
+using TextRanges = std::vector<TextRange>;  // ascending, apart from each other
+
+// What a part of a restriction lets through.
+struct Shape {
+  TextRanges Texts;
+  std::optional<QString> Category;  // a name, or empty: without categories
+};
+
+TextRanges Everything() { return {{.From = {}, .To = std::nullopt}}; }
+
+bool EndsBefore(const TextRange& range, const QByteArray& key) {
+  return range.To && *range.To <= key;
+}
+
+std::optional<QByteArray> LowerEnd(const TextRange& a, const TextRange& b) {
+  if (!a.To || !b.To) return a.To ? a.To : b.To;
+  return std::min(*a.To, *b.To);
+}
+
+std::optional<QByteArray> UpperEnd(const TextRange& a, const TextRange& b) {
+  if (!a.To || !b.To) return std::nullopt;
+  return std::max(*a.To, *b.To);
+}
+
+TextRanges Intersection(const TextRanges& first, const TextRanges& second) {
+  TextRanges both;
+  for (const TextRange& a : first) {
+    for (const TextRange& b : second) {
+      TextRange common{.From = std::max(a.From, b.From), .To = LowerEnd(a, b)};
+      if (!EndsBefore(common, common.From)) both.push_back(std::move(common));
+    }
+  }
+  return both;
+}
+
+TextRanges Union(TextRanges ranges, const TextRanges& more) {
+  ranges.insert(ranges.end(), more.begin(), more.end());
+  std::sort(ranges.begin(), ranges.end(),
+            [](const TextRange& a, const TextRange& b) { return a.From < b.From; });
+  TextRanges joined;
+  for (TextRange& range : ranges) {
+    if (joined.empty() || (joined.back().To && *joined.back().To < range.From)) {
+      joined.push_back(std::move(range));
+    } else {
+      joined.back().To = UpperEnd(joined.back(), range);
+    }
+  }
+  return joined;
+}
+
+class Compiler {
+ public:
+  explicit Compiler(RestrictionProperty name) : m_name(name) {}
+
+  // Nothing when the index cannot answer it.
+  std::optional<Shape> Compile(const RestrictionNode& node) const {
+    switch (node.Kind) {
+      case RestrictionKind::And:
+        return CompileAnd(node.Children);
+      case RestrictionKind::Or:
+        return CompileOr(node.Children);
+      case RestrictionKind::Comparison:
+        break;
+    }
+    if (node.Property == m_name) return Shape{.Texts = Compared(node), .Category = std::nullopt};
+    return CompileCategory(node);
+  }
+
+ private:
+  QByteArray KeyOf(const QString& text) const {
+    return m_name == RestrictionProperty::Subject ? UnitKey(text) : FoldKey(text);
+  }
+
+  TextRanges Compared(const RestrictionNode& node) const {
+    const QByteArray key = KeyOf(node.Value);
+    switch (node.Operator) {
+      case RestrictionOperator::AtLeast:
+        return {{.From = key, .To = std::nullopt}};
+      case RestrictionOperator::Below:
+        return key.isEmpty() ? TextRanges() : TextRanges{{.From = {}, .To = key}};
+      case RestrictionOperator::Equal:
+        break;
+    }
+    return {{.From = key, .To = key + '\1'}};
+  }
+
+  static std::optional<Shape> CompileCategory(const RestrictionNode& node) {
+    if (node.Property != RestrictionProperty::Categories ||
+        node.Operator != RestrictionOperator::Equal) {
+      return std::nullopt;
+    }
+    if (node.Value.isEmpty()) return Shape{.Texts = Everything(), .Category = QString()};
+    const QStringList names = SplitCategories(node.Value);
+    // A text of commas and blanks names no category, and no contact is in it.
+    if (names.isEmpty()) return Shape{};
+    if (names.size() > 1) return std::nullopt;
+    return Shape{.Texts = Everything(), .Category = names.front()};
+  }
+
+  std::optional<Shape> CompileAnd(const std::vector<RestrictionNode>& children) const {
+    Shape all{.Texts = Everything(), .Category = std::nullopt};
+    for (const RestrictionNode& child : children) {
+      auto shape = Compile(child);
+      if (!shape) return std::nullopt;
+      // A contact may well be in both.
+      if (all.Category && shape->Category && *all.Category != *shape->Category) return std::nullopt;
+      all.Texts = Intersection(all.Texts, shape->Texts);
+      if (!all.Category) all.Category = std::move(shape->Category);
+    }
+    return all;
+  }
+
+  std::optional<Shape> CompileOr(const std::vector<RestrictionNode>& children) const {
+    Shape any;
+    for (const RestrictionNode& child : children) {
+      auto shape = Compile(child);
+      if (!shape) return std::nullopt;
+      if (shape->Texts.empty()) continue;
+      if (any.Texts.empty()) {
+        any = std::move(*shape);
+      } else if (any.Category == shape->Category) {
+        any.Texts = Union(std::move(any.Texts), shape->Texts);
+      } else {
+        return std::nullopt;
+      }
+    }
+    return any;
+  }
+
+  RestrictionProperty m_name;
+};
+
+KeyRanges Within(const KeyRange& whole, const TextRanges& texts) {
+  KeyRanges ranges;
+  for (const TextRange& text : texts) {
+    ranges.push_back(
+        {.From = whole.From + text.From, .To = text.To ? whole.From + *text.To : whole.To});
+  }
+  return ranges;
+}
+
+KeyRange WholeOf(ContactOrder order, const std::optional<QString>& category) {
+  const bool byCompany = order == ContactOrder::ByCompany;
+  if (!category) return WholeOrder(byCompany ? EntryOrder::Company : EntryOrder::FileAs);
+  return WholeCategory(byCompany ? EntryOrder::CategoryCompany : EntryOrder::CategoryFileAs,
+                       *category);
+}
+
+}  // namespace
+
+std::optional<KeyRanges> ContactRanges(const ContactCollection& collection) {
+  const bool byCompany = collection.Order == ContactOrder::ByCompany;
+  const Compiler compiler(byCompany ? RestrictionProperty::CompanyName
+                                    : RestrictionProperty::FileAs);
+  const auto shape =
+      compiler.Compile(collection.Restriction ? *collection.Restriction : RestrictionNode{});
+  if (!shape) return std::nullopt;
+  return Within(WholeOf(collection.Order, shape->Category), shape->Texts);
+}
+
+std::optional<KeyRanges> SubjectRanges(const RestrictionNode& restriction) {
+  const auto shape = Compiler(RestrictionProperty::Subject).Compile(restriction);
+  if (!shape || shape->Category) return std::nullopt;
+  return Within(WholeOrder(EntryOrder::Subject), shape->Texts);
+}
+
+}  // namespace quill

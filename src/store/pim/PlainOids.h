@@ -1,0 +1,17 @@
+// The items of a collection by plain SQL over the contacts: right for every restriction, but it
+// looks at each contact of the store. The list index answers the usual ones, with the same Oids.
+#pragma once
+
+#include <vector>
+
+#include "store/ContactCollection.h"
+#include "store/ContactRecord.h"
+
+namespace quill {
+
+class Database;
+
+// In the collection's order; empty when the store fails.
+std::vector<Oid> PlainContactOids(Database& database, const ContactCollection& collection);
+
+}  // namespace quill
