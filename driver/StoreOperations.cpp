@@ -99,7 +99,7 @@ std::optional<QStringList> NamesIn(const QJsonValue& value) {
       std::all_of(array.begin(), array.end(), [](const auto& name) { return name.isString(); });
   if (!isTexts) return std::nullopt;
   QStringList names;
-  for (const QJsonValue& name : array) names.append(name.toString());
+  for (const auto& name : array) names.append(name.toString());
   return names;
 }
 

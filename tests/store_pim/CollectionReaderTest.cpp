@@ -18,11 +18,7 @@ class Collections : public test::TemporaryStore {
   }
 
   std::vector<Oid> Oids(const ContactCollection& collection) {
-    std::vector<Oid> oids;
-    for (int i = 1; i <= Contacts().Count(collection); ++i) {
-      oids.push_back(Contacts().OidAt(collection, i));
-    }
-    return oids;
+    return test::Oids(Contacts(), collection);
   }
 
   void AddMany(int count) {

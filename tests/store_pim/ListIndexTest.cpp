@@ -208,9 +208,7 @@ class RandomStore : public ListIndexOf {
   }
 
   void ExpectWalkGivesAll(const ContactCollection& collection) {
-    std::vector<Oid> walked;
-    for (int i = 1; const Oid oid = Contacts().OidAt(collection, i); ++i) walked.push_back(oid);
-    EXPECT_EQ(walked, PlainContactOids(m_raw, collection));
+    EXPECT_EQ(test::Oids(Contacts(), collection), PlainContactOids(m_raw, collection));
   }
 
   std::mt19937 m_random{20040915};

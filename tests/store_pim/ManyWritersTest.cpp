@@ -37,8 +37,7 @@ class Told {
 
 std::map<Oid, QString> Stored(ContactsFolder& contacts) {
   std::map<Oid, QString> names;
-  const ContactCollection all = contacts.Items();
-  for (int position = 1; const Oid oid = contacts.OidAt(all, position); ++position) {
+  for (const Oid oid : test::Oids(contacts, contacts.Items())) {
     ContactRecord record;
     if (contacts.ReadListRow(oid, record)) names[oid] = record[ContactField::FileAs];
   }

@@ -37,10 +37,20 @@ class TemporaryStore : public testing::Test {
   PimStore m_store;
 };
 
-// The names in a collection, in its order.
+// The items of a collection, in its order.
+inline std::vector<Oid> Oids(ContactsFolder& folder, const ContactCollection& collection) {
+  std::vector<Oid> oids;
+  const int count = folder.Count(collection);
+  for (int position = 1; position <= count; ++position) {
+    oids.push_back(folder.OidAt(collection, position));
+  }
+  return oids;
+}
+
+// Their names.
 inline QStringList Names(ContactsFolder& folder, const ContactCollection& collection) {
   QStringList names;
-  for (int position = 1; const Oid oid = folder.OidAt(collection, position); ++position) {
+  for (const Oid oid : Oids(folder, collection)) {
     ContactRecord record;
     if (folder.ReadListRow(oid, record)) names.append(record[ContactField::FileAs]);
   }
