@@ -1,7 +1,5 @@
 #include "store/AutomationDate.h"
 
-#include <QDateTime>
-
 #include <cmath>
 
 namespace quill {
@@ -15,8 +13,11 @@ constexpr double kEndOfDates = 2958466.0;  // 10000-01-01
 constexpr int kFirstContactYear = 1900;
 constexpr int kLastContactYear = 2999;
 
-CalendarDate FromParts(QDate date, QTime time) {
+}  // namespace
+
+CalendarDate MakeCalendarDate(QDate date, QTime time) {
   const auto part = [](int value) { return static_cast<quint16>(value); };
+  if (!date.isValid() || !time.isValid()) return {};
   return {.Year = part(date.year()),
           .Month = part(date.month()),
           .DayOfWeek = part(date.dayOfWeek() % 7),
@@ -27,7 +28,11 @@ CalendarDate FromParts(QDate date, QTime time) {
           .Millisecond = part(time.msec())};
 }
 
-}  // namespace
+QDate DayOf(const CalendarDate& date) { return {date.Year, date.Month, date.Day}; }
+
+QTime TimeOfDay(const CalendarDate& date) {
+  return {date.Hour, date.Minute, date.Second, date.Millisecond};
+}
 
 std::optional<CalendarDate> ToCalendarDate(double automationDate) {
   if (!(automationDate > kFirstDate - 1 && automationDate < kEndOfDates)) return std::nullopt;
@@ -39,13 +44,13 @@ std::optional<CalendarDate> ToCalendarDate(double automationDate) {
   }
   const QDate date = QDate::fromJulianDay(kJulianDayZero + static_cast<qint64>(days));
   if (date.year() > 9999) return std::nullopt;
-  return FromParts(date, QTime::fromMSecsSinceStartOfDay(static_cast<int>(milliseconds)));
+  return MakeCalendarDate(date, QTime::fromMSecsSinceStartOfDay(static_cast<int>(milliseconds)));
 }
 
 std::optional<double> ToAutomationDate(const CalendarDate& date) {
   if (date.Year == 0) return kEmptyAutomationDate;
-  const QDate day(date.Year, date.Month, date.Day);
-  const QTime time(date.Hour, date.Minute, date.Second, date.Millisecond);
+  const QDate day = DayOf(date);
+  const QTime time = TimeOfDay(date);
   if (!day.isValid() || !time.isValid() || date.Year < 100 || date.Year > 9999) {
     return std::nullopt;
   }

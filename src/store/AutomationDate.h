@@ -3,6 +3,8 @@
 // 1899-12-29 06:00). Times are local, to the millisecond.
 #pragma once
 
+#include <QDateTime>
+
 #include <optional>
 
 #include "store/ContactRecord.h"
@@ -16,6 +18,12 @@ std::optional<CalendarDate> ToCalendarDate(double automationDate);
 // Year 0 gives the empty date; nothing for parts that make no date or time. The day of the week is
 // not looked at.
 std::optional<double> ToAutomationDate(const CalendarDate& date);
+
+// The parts of a day and a time of that day; the empty date when one of them is none. The other way
+// round each is invalid when the parts make none.
+CalendarDate MakeCalendarDate(QDate date, QTime time);
+QDate DayOf(const CalendarDate& date);
+QTime TimeOfDay(const CalendarDate& date);
 
 // A contact's date: outside the years 1900 to 2999 there is none, which covers the empty date.
 CalendarDate ToContactDate(double automationDate);

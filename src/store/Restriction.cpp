@@ -3,7 +3,7 @@
 #include <array>
 #include <utility>
 
-#include "store/ContactFields.h"
+#include "store/AppointmentFields.h"
 
 namespace quill {
 
@@ -17,7 +17,7 @@ constexpr std::array<PropertyName, 4> kProperties{{
     {RestrictionProperty::FileAs, FieldRow(ContactField::FileAs).Property},
     {RestrictionProperty::CompanyName, FieldRow(ContactField::CompanyName).Property},
     {RestrictionProperty::Categories, FieldRow(ContactField::Categories).Property},
-    {RestrictionProperty::Subject, u"Subject"},
+    {RestrictionProperty::Subject, PropertyOf(&AppointmentItem::Subject)},
 }};
 
 struct OperatorSign {
@@ -146,6 +146,13 @@ class Parser {
 }  // namespace
 
 std::optional<RestrictionNode> ParseRestriction(QStringView text) { return Parser(text).Parse(); }
+
+RestrictionNode MakeBoth(RestrictionNode first, RestrictionNode second) {
+  RestrictionNode both{.Kind = RestrictionKind::And};
+  both.Children.push_back(std::move(first));
+  both.Children.push_back(std::move(second));
+  return both;
+}
 
 QString QuoteRestrictionValue(QStringView text) {
   QString quoted = text.toString();

@@ -40,6 +40,9 @@ inline constexpr int kRestrictionComparisonLimit = 256;  // in one text
 // Nothing when the text does not follow the grammar or passes a limit.
 std::optional<RestrictionNode> ParseRestriction(QStringView text);
 
+// What satisfies both.
+RestrictionNode MakeBoth(RestrictionNode first, RestrictionNode second);
+
 // The text as a value of a restriction, quotes included.
 QString QuoteRestrictionValue(QStringView text);
 

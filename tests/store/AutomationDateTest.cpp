@@ -109,5 +109,20 @@ INSTANTIATE_TEST_SUITE_P(Edges, ContactDateWindow,
                                          WindowCase{401768.999, 2999}, WindowCase{401769.0, 0},
                                          WindowCase{949998.0, 0}, WindowCase{-5.0, 0}));
 
+TEST(CalendarDate, IsMadeOfADayAndATimeAndGivesThemBack) {
+  const CalendarDate date = MakeCalendarDate(QDate(2004, 2, 1), QTime(10, 30, 5, 125));
+  EXPECT_EQ(date, (CalendarDate{2004, 2, 0, 1, 10, 30, 5, 125}));
+  EXPECT_EQ(MakeCalendarDate(QDate(2004, 2, 7), QTime(0, 0)).DayOfWeek, 6);
+  EXPECT_EQ(DayOf(date), QDate(2004, 2, 1));
+  EXPECT_EQ(TimeOfDay(date), QTime(10, 30, 5, 125));
+}
+
+TEST(CalendarDate, OfWhatIsNoneIsEmpty) {
+  EXPECT_EQ(MakeCalendarDate(QDate(), QTime(10, 0)), CalendarDate());
+  EXPECT_EQ(MakeCalendarDate(QDate(2004, 2, 1), QTime()), CalendarDate());
+  EXPECT_FALSE(DayOf({}).isValid());
+  EXPECT_FALSE(TimeOfDay({.Hour = 24}).isValid());
+}
+
 }  // namespace
 }  // namespace quill

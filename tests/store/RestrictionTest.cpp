@@ -128,5 +128,13 @@ INSTANTIATE_TEST_SUITE_P(Texts, QuotedValue,
                                          QStringLiteral("\" OR [FileAs] >= \""),
                                          QStringLiteral("a\nb")));
 
+TEST(Restriction, BothIsASequenceOfTheTwo) {
+  const RestrictionNode kim{.Kind = RestrictionKind::Comparison, .Value = QStringLiteral("Kim")};
+  const RestrictionNode nothing{.Kind = RestrictionKind::Or};
+  const RestrictionNode both = MakeBoth(kim, nothing);
+  EXPECT_EQ(both.Kind, RestrictionKind::And);
+  EXPECT_EQ(both.Children, std::vector<RestrictionNode>({kim, nothing}));
+}
+
 }  // namespace
 }  // namespace quill
