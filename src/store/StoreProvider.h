@@ -12,6 +12,8 @@
 #include <optional>
 #include <vector>
 
+#include "store/AppointmentCollection.h"
+#include "store/AppointmentItem.h"
 #include "store/ContactCollection.h"
 #include "store/ContactRecord.h"
 
@@ -60,10 +62,32 @@ class ContactsFolder {
   virtual std::vector<Oid> FindByFileAs(const QString& fileAs) = 0;
 };
 
-// Appointments: so far the folder can only be opened.
 class CalendarFolder {
  public:
   virtual ~CalendarFolder() = default;
+
+  // Every appointment, in the order of the Oids.
+  virtual AppointmentCollection Items() = 0;
+  // As for contacts: nothing when the text cannot be parsed or the store fails.
+  virtual std::optional<AppointmentCollection> Restrict(const AppointmentCollection& collection,
+                                                        const QString& restriction) = 0;
+  virtual int Count(const AppointmentCollection& collection) = 0;
+  // The item at a position, 1-based; 0 when there is none.
+  virtual Oid OidAt(const AppointmentCollection& collection, int position) = 0;
+
+  // Fills the whole item and returns true, or leaves it untouched and returns false.
+  virtual bool Read(Oid oid, AppointmentItem& item) = 0;
+  // Writes the whole item, unchecked: what may be saved is a rule above the store. Without an Id it
+  // makes a new appointment. Returns its Oid, 0 on failure (nothing written).
+  virtual Oid Save(const AppointmentItem& item) = 0;
+  // Puts ink on the item in hand, which is not saved by that. False, and the item untouched, when
+  // the store would not take so much.
+  virtual bool PutInk(AppointmentItem& item, const QByteArray& ink) = 0;
+  // True when the appointment existed and is gone now.
+  virtual bool Remove(Oid oid) = 0;
+
+  // Appointments with this UID, in Oid order; none for an empty one.
+  virtual std::vector<Oid> FindByUid(const QString& uid) = 0;
 };
 
 // The categories that the user keeps, in their order. "No Categories" is not one of them.

@@ -105,6 +105,15 @@ TEST_P(QueryAsStored, AParameterThatIsNotThereFails) {
   EXPECT_FALSE(query.Next());
 }
 
+TEST_P(QueryAsStored, NullIsToldApartFromWhatIsEmpty) {
+  Query query = m_database.Prepare("SELECT ?1, ?2, ?3, 0");
+  query.BindText(2, u"");
+  query.BindBlob(3, {});
+  ASSERT_TRUE(query.Next());
+  EXPECT_TRUE(query.IsNull(0));
+  for (const int column : {1, 2, 3}) EXPECT_FALSE(query.IsNull(column)) << column;
+}
+
 INSTANTIATE_TEST_SUITE_P(Encodings, QueryAsStored, testing::Values("UTF-16le"));
 
 }  // namespace

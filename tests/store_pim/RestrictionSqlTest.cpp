@@ -25,6 +25,25 @@ TEST(RestrictionSql, AnAppointmentsPropertyIsRefused) {
   EXPECT_FALSE(ConditionOf(u"[FileAs] = \"a\" OR ([FileAs] = \"b\" AND [Subject] = \"c\")"));
 }
 
+std::optional<RestrictionSql> AppointmentConditionOf(QStringView text) {
+  const auto node = ParseRestriction(text);
+  return node ? MakeAppointmentCondition(*node) : std::nullopt;
+}
+
+TEST(RestrictionSql, AnAppointmentsValuesAreParametersToo) {
+  const auto sql = AppointmentConditionOf(u"[Subject] >= \"?1\" AND [Categories] = \"b\"");
+  ASSERT_TRUE(sql);
+  EXPECT_EQ(sql->Values, QStringList({QStringLiteral("?1"), QStringLiteral("b")}));
+  EXPECT_EQ(sql->Condition,
+            "(unit_key(Subject) >= unit_key(?1) AND categories_match(?2, Categories))");
+}
+
+TEST(RestrictionSql, AContactsPropertyIsRefusedForAppointments) {
+  EXPECT_FALSE(AppointmentConditionOf(u"[FileAs] = \"Kim\""));
+  EXPECT_FALSE(AppointmentConditionOf(u"[CompanyName] = \"Kim\""));
+  EXPECT_FALSE(AppointmentConditionOf(u"[Subject] = \"a\" OR [FileAs] = \"b\""));
+}
+
 TEST(RestrictionSql, EmptySequencesHoldForEverythingAndNothing) {
   EXPECT_EQ(MakeContactCondition({.Kind = RestrictionKind::And})->Condition, "1");
   EXPECT_EQ(MakeContactCondition({.Kind = RestrictionKind::Or})->Condition, "0");

@@ -46,6 +46,40 @@ std::vector<Oid> FaultyContacts::FindByFileAs(const QString& fileAs) {
   return Inner->FindByFileAs(fileAs);
 }
 
+AppointmentCollection FaultyCalendar::Items() { return Inner->Items(); }
+
+std::optional<AppointmentCollection> FaultyCalendar::Restrict(
+    const AppointmentCollection& collection, const QString& restriction) {
+  return Faults.Restrict ? std::nullopt : Inner->Restrict(collection, restriction);
+}
+
+int FaultyCalendar::Count(const AppointmentCollection& collection) {
+  return Inner->Count(collection);
+}
+
+Oid FaultyCalendar::OidAt(const AppointmentCollection& collection, int position) {
+  return Inner->OidAt(collection, position);
+}
+
+bool FaultyCalendar::Read(Oid oid, AppointmentItem& item) { return Inner->Read(oid, item); }
+
+Oid FaultyCalendar::Save(const AppointmentItem& item) {
+  return Faults.Save ? 0 : Inner->Save(item);
+}
+
+bool FaultyCalendar::PutInk(AppointmentItem& item, const QByteArray& ink) {
+  return Inner->PutInk(item, ink);
+}
+
+bool FaultyCalendar::Remove(Oid oid) { return Inner->Remove(oid); }
+
+std::vector<Oid> FaultyCalendar::FindByUid(const QString& uid) { return Inner->FindByUid(uid); }
+
+CalendarFolder* FaultyStore::Calendar() {
+  m_calendar.Inner = m_inner.Calendar();
+  return m_calendar.Inner ? &m_calendar : nullptr;
+}
+
 ContactsFolder* FaultyStore::Contacts() {
   m_contacts.Inner = m_inner.Contacts();
   return m_contacts.Inner ? &m_contacts : nullptr;

@@ -11,6 +11,11 @@ struct StoreFaults {
   Oid ReadListRow = 0;
 };
 
+struct CalendarFaults {
+  bool Restrict = false;
+  bool Save = false;
+};
+
 struct StoreCounts {
   int Items = 0;
   int Restrict = 0;
@@ -40,6 +45,23 @@ class FaultyContacts : public ContactsFolder {
   StoreCounts Counts;
 };
 
+class FaultyCalendar : public CalendarFolder {
+ public:
+  AppointmentCollection Items() override;
+  std::optional<AppointmentCollection> Restrict(const AppointmentCollection& collection,
+                                                const QString& restriction) override;
+  int Count(const AppointmentCollection& collection) override;
+  Oid OidAt(const AppointmentCollection& collection, int position) override;
+  bool Read(Oid oid, AppointmentItem& item) override;
+  Oid Save(const AppointmentItem& item) override;
+  bool PutInk(AppointmentItem& item, const QByteArray& ink) override;
+  bool Remove(Oid oid) override;
+  std::vector<Oid> FindByUid(const QString& uid) override;
+
+  CalendarFolder* Inner = nullptr;
+  CalendarFaults Faults;
+};
+
 class FaultyStore : public StoreProvider {
  public:
   // Does not own the store below.
@@ -50,7 +72,7 @@ class FaultyStore : public StoreProvider {
   int OpenFolder(FolderKind kind) override { return m_inner.OpenFolder(kind); }
   void Close() override { m_inner.Close(); }
   ContactsFolder* Contacts() override;
-  CalendarFolder* Calendar() override { return m_inner.Calendar(); }
+  CalendarFolder* Calendar() override;
   CategoryLibrary* Categories() override { return m_inner.Categories(); }
   std::unique_ptr<StoreTransaction> Begin() override { return m_inner.Begin(); }
   qint64 Changes() override { return m_inner.Changes(); }
@@ -58,10 +80,12 @@ class FaultyStore : public StoreProvider {
 
   StoreFaults& Faults() { return m_contacts.Faults; }
   StoreCounts& Counts() { return m_contacts.Counts; }
+  CalendarFaults& OfCalendar() { return m_calendar.Faults; }
 
  private:
   StoreProvider& m_inner;
   FaultyContacts m_contacts;
+  FaultyCalendar m_calendar;
 };
 
 }  // namespace quill::test

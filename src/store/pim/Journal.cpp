@@ -8,7 +8,7 @@ namespace quill {
 
 namespace {
 
-constexpr std::array<const char*, 1> kJournals{"contact_journal"};
+constexpr std::array<const char*, 2> kJournals{"contact_journal", "appointment_journal"};
 constexpr char kIsOld[] = " WHERE DeletedAt < CAST(strftime('%s', 'now') AS INTEGER) - ";
 constexpr int kSecondsPerDay = 24 * 60 * 60;
 

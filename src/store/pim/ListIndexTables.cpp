@@ -10,6 +10,9 @@ constexpr char kRemove[] = R"sql(
 DROP TRIGGER IF EXISTS contact_entered;
 DROP TRIGGER IF EXISTS contact_left;
 DROP TRIGGER IF EXISTS contact_moved;
+DROP TRIGGER IF EXISTS appointment_entered;
+DROP TRIGGER IF EXISTS appointment_left;
+DROP TRIGGER IF EXISTS appointment_moved;
 DROP TABLE IF EXISTS entry;
 DROP TABLE IF EXISTS bucket;
 )sql";
@@ -69,20 +72,41 @@ WHEN OLD.FileAs <> NEW.FileAs OR OLD.CompanyName <> NEW.CompanyName
 END;
 )sql";
 
+constexpr char kAppointmentTriggers[] = R"sql(
+CREATE TRIGGER appointment_entered AFTER INSERT ON appointment BEGIN
+  INSERT INTO entry VALUES (subject_entry_key(NEW.Subject), NEW.Oid);
+END;
+
+CREATE TRIGGER appointment_left AFTER DELETE ON appointment BEGIN
+  DELETE FROM entry WHERE key = subject_entry_key(OLD.Subject) AND oid = OLD.Oid;
+END;
+
+CREATE TRIGGER appointment_moved AFTER UPDATE OF Subject ON appointment
+WHEN OLD.Subject <> NEW.Subject BEGIN
+  DELETE FROM entry WHERE key = subject_entry_key(OLD.Subject) AND oid = OLD.Oid;
+  INSERT INTO entry VALUES (subject_entry_key(NEW.Subject), NEW.Oid);
+END;
+)sql";
+
 // In the order of the keys, so that every page of the file is written once.
 constexpr char kFill[] = R"sql(
 INSERT INTO entry
   SELECT entry_key(FileAs, CompanyName, Categories, value) AS key, Oid
   FROM contact, json_each(entry_numbers(Categories))
   ORDER BY key, Oid;
+INSERT INTO entry
+  SELECT subject_entry_key(Subject) AS key, Oid FROM appointment ORDER BY key, Oid;
 )sql";
 
 }  // namespace
 
-QByteArray ListIndexTables() { return QByteArray(kTables) + kContactTriggers; }
+QByteArray ListIndexTables() {
+  return QByteArray(kTables) + kContactTriggers + kAppointmentTriggers;
+}
 
 int RebuildListIndex(Database& database) {
-  return database.Execute(QByteArray(kRemove) + kTables + kFill + kContactTriggers);
+  return database.Execute(QByteArray(kRemove) + kTables + kFill + kContactTriggers +
+                          kAppointmentTriggers);
 }
 
 }  // namespace quill

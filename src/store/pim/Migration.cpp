@@ -7,6 +7,7 @@
 #include <array>
 
 #include "store/StoreLog.h"
+#include "store/pim/AppointmentRows.h"
 #include "store/pim/Database.h"
 #include "store/pim/Journal.h"
 #include "store/pim/ListIndex.h"
@@ -17,12 +18,13 @@ namespace quill {
 
 namespace {
 
-// The keys that stood beside each contact give way to the list index.
+// The keys that stood beside each contact give way to the list index; appointments are new.
 int FromVersion1(Database& database) {
   const int code = database.Execute(
       "DROP INDEX contact_by_file_as; DROP INDEX contact_by_company;"
       "ALTER TABLE contact DROP COLUMN FileAsKey; ALTER TABLE contact DROP COLUMN CompanyKey;");
   if (code != SQLITE_OK) return code;
+  if (const int failed = database.Execute(AppointmentTables())) return failed;
   if (const int failed = RebuildListIndex(database)) return failed;
   return database.Execute(CategoryTables() + JournalIndexes());
 }

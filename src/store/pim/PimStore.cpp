@@ -10,6 +10,7 @@
 #include "store/StoreLog.h"
 #include "store/pim/Database.h"
 #include "store/pim/Journal.h"
+#include "store/pim/PimCalendar.h"
 #include "store/pim/PimCategories.h"
 #include "store/pim/PimContacts.h"
 #include "store/pim/Schema.h"
@@ -22,7 +23,13 @@ namespace {
 
 constexpr QLatin1String kWithoutFile(":memory:");
 
-class PimCalendar : public CalendarFolder {};
+// Keeps the folder if its table answers: 0 or the failure.
+template <typename Folder>
+int Open(std::unique_ptr<Folder> folder, std::unique_ptr<Folder>& kept) {
+  const int code = folder->Check();
+  if (code == SQLITE_OK) kept = std::move(folder);
+  return code;
+}
 
 class PimTransaction : public StoreTransaction {
  public:
@@ -45,7 +52,8 @@ class PimTransaction : public StoreTransaction {
 
 }  // namespace
 
-PimStore::PimStore(QString path) : m_path(std::move(path)) {}
+PimStore::PimStore(QString path, PimStoreOptions options)
+    : m_path(std::move(path)), m_options(options) {}
 
 PimStore::~PimStore() { Release(); }
 
@@ -90,18 +98,13 @@ StoreHealth PimStore::Check() { return m_database ? CheckStore(*m_database) : St
 
 int PimStore::OpenFolder(FolderKind kind) {
   if (!m_database) return Refuse(SQLITE_MISUSE, QStringLiteral("the store is not open"));
-  if (kind == FolderKind::Contacts) return OpenContacts();
-  m_calendar = std::make_unique<PimCalendar>();
-  return SQLITE_OK;
-}
-
-int PimStore::OpenContacts() {
-  auto contacts = std::make_unique<PimContacts>(*m_database);
-  const int code = contacts->Check();
-  if (code != SQLITE_OK) return code;
-  m_contacts = std::move(contacts);
-  m_categories = std::make_unique<PimCategories>(*m_database);
-  return SQLITE_OK;
+  if (kind == FolderKind::Calendar) {
+    return Open(std::make_unique<PimCalendar>(*m_database, m_options.AppointmentInkLimit),
+                m_calendar);
+  }
+  const int code = Open(std::make_unique<PimContacts>(*m_database), m_contacts);
+  if (code == SQLITE_OK) m_categories = std::make_unique<PimCategories>(*m_database);
+  return code;
 }
 
 void PimStore::Close() { Release(); }

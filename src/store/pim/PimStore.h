@@ -11,14 +11,19 @@
 namespace quill {
 
 class Database;
+class PimCalendar;
 class PimCategories;
 class PimContacts;
+
+struct PimStoreOptions {
+  qsizetype AppointmentInkLimit = 64 * 1024;  // bytes of ink that one appointment takes
+};
 
 class PimStore : public StoreProvider {
  public:
   // A file's path, made at the first start with the folders above it; ":memory:" for a store
   // without a file.
-  explicit PimStore(QString path);
+  explicit PimStore(QString path, PimStoreOptions options = {});
   ~PimStore() override;
   Q_DISABLE_COPY_MOVE(PimStore)
 
@@ -42,14 +47,14 @@ class PimStore : public StoreProvider {
  private:
   int Refuse(int code, const QString& reason);
   int OpenFile();
-  int OpenContacts();
   void Release();
 
   QString m_path;
+  PimStoreOptions m_options;
   QString m_lastError;  // of a file that did not open, and of a store that is closed
   std::shared_ptr<Database> m_database;
   std::unique_ptr<PimContacts> m_contacts;
-  std::unique_ptr<CalendarFolder> m_calendar;
+  std::unique_ptr<PimCalendar> m_calendar;
   std::unique_ptr<PimCategories> m_categories;
 };
 

@@ -63,6 +63,10 @@ bool Query::Run() {
   return !m_failed;
 }
 
+bool Query::IsNull(int column) const {
+  return sqlite3_column_type(m_statement, column) == SQLITE_NULL;
+}
+
 QString Query::Text(int column) const {
   const auto* units = static_cast<const QChar*>(sqlite3_column_text16(m_statement, column));
   const int bytes = sqlite3_column_bytes16(m_statement, column);

@@ -36,6 +36,7 @@ class Query {
   bool Run();
   bool Failed() const { return m_failed; }
 
+  bool IsNull(int column) const;
   QString Text(int column) const;
   QByteArray Blob(int column) const;
   qint64 Number(int column) const;

@@ -1,5 +1,6 @@
 #include "store/pim/RestrictionSql.h"
 
+#include "store/AppointmentFields.h"
 #include "store/pim/Query.h"
 
 namespace quill {
@@ -25,29 +26,48 @@ QByteArray CategoriesCondition(RestrictionOperator comparison, const QByteArray&
   return "unit_key(Categories)" + Sign(comparison) + "unit_key(" + value + ')';
 }
 
-bool AppendNode(const RestrictionNode& node, RestrictionSql& sql);
+// A comparison with the parameter of this name; empty when the property is not one of these items.
+using MakeComparison = QByteArray (*)(const RestrictionNode& node, const QByteArray& value);
 
-bool AppendComparison(const RestrictionNode& node, RestrictionSql& sql) {
-  sql.Values.append(node.Value);
-  const QByteArray value = '?' + QByteArray::number(sql.Values.size());
+QByteArray ContactComparison(const RestrictionNode& node, const QByteArray& value) {
   const QByteArray folded = Sign(node.Operator) + "fold_key(" + value + ')';
   switch (node.Property) {
     case RestrictionProperty::FileAs:
-      sql.Condition += "fold_key(FileAs)" + folded;
-      return true;
+      return "fold_key(FileAs)" + folded;
     case RestrictionProperty::CompanyName:
-      sql.Condition += "fold_key(CompanyName)" + folded;
-      return true;
+      return "fold_key(CompanyName)" + folded;
     case RestrictionProperty::Categories:
-      sql.Condition += CategoriesCondition(node.Operator, value);
-      return true;
+      return CategoriesCondition(node.Operator, value);
     case RestrictionProperty::Subject:
       break;
   }
-  return false;
+  return {};
 }
 
-bool AppendSequence(const RestrictionNode& node, RestrictionSql& sql) {
+QByteArray AppointmentComparison(const RestrictionNode& node, const QByteArray& value) {
+  switch (node.Property) {
+    case RestrictionProperty::Subject:
+      return "unit_key(" + PropertyOf(&AppointmentItem::Subject).toUtf8() + ')' +
+             Sign(node.Operator) + "unit_key(" + value + ')';
+    case RestrictionProperty::Categories:
+      return CategoriesCondition(node.Operator, value);
+    case RestrictionProperty::FileAs:
+    case RestrictionProperty::CompanyName:
+      break;
+  }
+  return {};
+}
+
+bool AppendNode(const RestrictionNode& node, MakeComparison compare, RestrictionSql& sql);
+
+bool AppendComparison(const RestrictionNode& node, MakeComparison compare, RestrictionSql& sql) {
+  sql.Values.append(node.Value);
+  const QByteArray comparison = compare(node, '?' + QByteArray::number(sql.Values.size()));
+  sql.Condition += comparison;
+  return !comparison.isEmpty();
+}
+
+bool AppendSequence(const RestrictionNode& node, MakeComparison compare, RestrictionSql& sql) {
   const bool all = node.Kind == RestrictionKind::And;
   if (node.Children.empty()) {
     sql.Condition += all ? "1" : "0";
@@ -57,16 +77,21 @@ bool AppendSequence(const RestrictionNode& node, RestrictionSql& sql) {
   QByteArray before = "(";
   for (const RestrictionNode& child : node.Children) {
     sql.Condition += before;
-    if (!AppendNode(child, sql)) return false;
+    if (!AppendNode(child, compare, sql)) return false;
     before = word;
   }
   sql.Condition += ')';
   return true;
 }
 
-bool AppendNode(const RestrictionNode& node, RestrictionSql& sql) {
-  return node.Kind == RestrictionKind::Comparison ? AppendComparison(node, sql)
-                                                  : AppendSequence(node, sql);
+bool AppendNode(const RestrictionNode& node, MakeComparison compare, RestrictionSql& sql) {
+  return node.Kind == RestrictionKind::Comparison ? AppendComparison(node, compare, sql)
+                                                  : AppendSequence(node, compare, sql);
+}
+
+std::optional<RestrictionSql> MakeCondition(const RestrictionNode& node, MakeComparison compare) {
+  RestrictionSql sql;
+  return AppendNode(node, compare, sql) ? std::optional(std::move(sql)) : std::nullopt;
 }
 
 }  // namespace
@@ -77,8 +102,11 @@ void RestrictionSql::Bind(Query& query) const {
 }
 
 std::optional<RestrictionSql> MakeContactCondition(const RestrictionNode& node) {
-  RestrictionSql sql;
-  return AppendNode(node, sql) ? std::optional(std::move(sql)) : std::nullopt;
+  return MakeCondition(node, ContactComparison);
+}
+
+std::optional<RestrictionSql> MakeAppointmentCondition(const RestrictionNode& node) {
+  return MakeCondition(node, AppointmentComparison);
 }
 
 }  // namespace quill

@@ -1,4 +1,5 @@
-// A restriction of contacts as a condition of SQL over the contact table.
+// A restriction of contacts as a condition of SQL over the contact table, and one of appointments
+// over the appointment table.
 #pragma once
 
 #include <QByteArray>
@@ -19,7 +20,8 @@ struct RestrictionSql {
   void Bind(Query& query) const;
 };
 
-// Nothing when a property is not one of contacts.
+// Each is nothing when a property is not one of these items.
 std::optional<RestrictionSql> MakeContactCondition(const RestrictionNode& node);
+std::optional<RestrictionSql> MakeAppointmentCondition(const RestrictionNode& node);
 
 }  // namespace quill

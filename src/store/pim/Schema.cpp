@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include "store/pim/AppointmentRows.h"
 #include "store/pim/ContactRows.h"
 #include "store/pim/Database.h"
 #include "store/pim/Journal.h"
@@ -40,7 +41,8 @@ QByteArray Identity() {
 }
 
 QByteArray AllTables() {
-  return ContactTable() + JournalTable() + ListIndexTables() + CategoryTables() + JournalIndexes();
+  return ContactTable() + JournalTable() + AppointmentTables() + ListIndexTables() +
+         CategoryTables() + JournalIndexes();
 }
 
 enum class SchemaState { Empty, Older, Current, Refused };

@@ -3,6 +3,8 @@
 //   contact          Oid (1 to 2^31 - 1, never used again) and the columns of ContactRows.h
 //   contact_journal  what every deleted contact had, with the time (UTC, seconds since 1970) of its
 //                    deletion; filled by a trigger, so that no deletion goes round it
+//   appointment, appointment_journal
+//                    the same for appointments: AppointmentRows.h
 //   entry, bucket    the list index: ListIndex.h
 //   category         the user's categories, in their order
 //

@@ -14,18 +14,23 @@ struct IndexRule {
   const char* CountSql;  // the number of faults
 };
 // The entries are right when each expected one is there and there are no more.
-constexpr std::array<IndexRule, 5> kIndexRules{{
+constexpr std::array<IndexRule, 6> kIndexRules{{
     {"The index lacks %1 of its triggers.",
-     "SELECT 7 - count(*) FROM sqlite_master WHERE type = 'trigger' AND "
+     "SELECT 10 - count(*) FROM sqlite_master WHERE type = 'trigger' AND "
      "(tbl_name IN ('entry', 'bucket') OR name IN ('contact_entered', 'contact_left', "
-     "'contact_moved'))"},
+     "'contact_moved', 'appointment_entered', 'appointment_left', 'appointment_moved'))"},
     {"The index lacks %1 entries of contacts.",
      "SELECT count(*) FROM contact, json_each(entry_numbers(Categories)) WHERE NOT EXISTS ("
      "SELECT 1 FROM entry WHERE entry.oid = contact.Oid AND "
      "entry.key = entry_key(FileAs, CompanyName, Categories, value))"},
+    {"The index lacks %1 entries of appointments.",
+     "SELECT count(*) FROM appointment WHERE NOT EXISTS ("
+     "SELECT 1 FROM entry WHERE entry.oid = appointment.Oid AND "
+     "entry.key = subject_entry_key(Subject))"},
     {"The index has %1 entries more than it should.",
      "SELECT max(0, (SELECT count(*) FROM entry) - "
-     "(SELECT count(*) FROM contact, json_each(entry_numbers(Categories))))"},
+     "(SELECT count(*) FROM contact, json_each(entry_numbers(Categories))) - "
+     "(SELECT count(*) FROM appointment))"},
     {"The index lacks its first bucket.",
      "SELECT 1 - count(*) FROM bucket WHERE key = x'' AND oid = 0"},
     {"%1 buckets of the index are counted wrongly.",
