@@ -1,0 +1,46 @@
+#include "appointments/ContactLink.h"
+
+#include "store/AppointmentFields.h"
+#include "store/AppointmentStore.h"
+#include "store/Restriction.h"
+
+namespace quill {
+
+namespace {
+
+AppointmentCollection AppointmentsOf(const QString& fileAs) {
+  return RestrictAppointments(AllAppointments(), ContactLinkRestriction(fileAs));
+}
+
+}  // namespace
+
+QString ContactLinkPrefix(const QString& fileAs) { return u'(' + fileAs + u')'; }
+
+SubjectRange ContactLinkRange(const QString& fileAs) {
+  const QString lower = ContactLinkPrefix(fileAs);
+  QString upper = lower;
+  QChar& raised = upper[upper.size() - 2];
+  raised = QChar(static_cast<char16_t>(raised.unicode() + 1));
+  return {.Lower = lower, .Upper = upper};
+}
+
+QString ContactLinkRestriction(const QString& fileAs) {
+  const SubjectRange range = ContactLinkRange(fileAs);
+  const QString subject = u'[' + PropertyOf(&AppointmentItem::Subject).toString() + u']';
+  return subject + QStringLiteral(" >= ") + QuoteRestrictionValue(range.Lower) +
+         QStringLiteral(" AND ") + subject + QStringLiteral(" < ") +
+         QuoteRestrictionValue(range.Upper);
+}
+
+std::vector<Oid> FindContactAppointments(const QString& fileAs) {
+  const AppointmentCollection collection = AppointmentsOf(fileAs);
+  std::vector<Oid> found;
+  for (int position = 1; const Oid oid = AppointmentAt(collection, position); ++position) {
+    found.push_back(oid);
+  }
+  return found;
+}
+
+int CountContactAppointments(const QString& fileAs) { return Count(AppointmentsOf(fileAs)); }
+
+}  // namespace quill
