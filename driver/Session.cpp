@@ -8,10 +8,12 @@
 #include <cstdio>
 
 #include "app/Program.h"
+#include "app/StoreSettings.h"
 #include "app/ui/RunShell.h"
 #include "driver/Driver.h"
 #include "driver/FaultyStore.h"
 #include "driver/SettableClock.h"
+#include "platform/JsonRegistry.h"
 #include "platform/Services.h"
 #include "store/pim/PimStore.h"
 
@@ -44,7 +46,7 @@ int RunSession(const OperationTable& operations, int& argc, char** argv) {
   for (const NamedFault& fault : options.Faults) faults.Switch(fault.Name, fault.What);
   SettableClock clock;
   clock.Set(options.Now);
-  PimStore store(places.StoreFile);
+  PimStore store(places.StoreFile, ReadStoreSettings(JsonRegistry(places.SettingsFile)));
   ProgramOptions programOptions;
   programOptions.Where = places;
   programOptions.AskedScale = options.Scale;

@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "app/StoreSettings.h"
 #include "platform/Clock.h"
 #include "platform/DesktopInputPanel.h"
 #include "platform/JsonRegistry.h"
@@ -27,7 +28,10 @@ struct Program::Services {
 
 Program::Program(ProgramOptions options)
     : m_options(std::move(options)), m_services(std::make_unique<Services>(m_options.Where)) {
-  if (!m_options.Store) m_options.Store = std::make_unique<PimStore>(m_options.Where.StoreFile);
+  if (!m_options.Store) {
+    m_options.Store = std::make_unique<PimStore>(m_options.Where.StoreFile,
+                                                 ReadStoreSettings(m_services->Registry));
+  }
   g_services.Clock = &m_services->Clock;
   g_services.Registry = &m_services->Registry;
   g_services.InputPanel = &m_services->InputPanel;

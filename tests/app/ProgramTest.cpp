@@ -44,6 +44,21 @@ TEST_F(ProgramAt, AHomeOpensTheEmbeddedStoreThere) {
   EXPECT_TRUE(QFileInfo::exists(program.Where().StoreFile));
 }
 
+TEST_F(ProgramAt, AHomeSetsUpItsStoreAsItsSettingsSay) {
+  {
+    const Program program(Options());
+    ASSERT_TRUE(g_services.Registry->PutNumber(u"\\Software\\Fennick\\Quill\\Store"_qs,
+                                               u"AppointmentInkLimit"_qs, 3));
+  }
+  Program program(Options());
+  ASSERT_EQ(program.Store().Create(), 0);
+  ASSERT_EQ(program.Store().Logon(), 0);
+  ASSERT_EQ(program.Store().OpenFolder(FolderKind::Calendar), 0);
+  AppointmentItem item;
+  EXPECT_TRUE(program.Store().Calendar()->PutInk(item, "ink"));
+  EXPECT_FALSE(program.Store().Calendar()->PutInk(item, "ink."));
+}
+
 TEST_F(ProgramAt, AHomeStartsForTheFirstTimeOnce) {
   Program program(Options());
   EXPECT_TRUE(program.TakeFirstStart());
