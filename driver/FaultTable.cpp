@@ -7,9 +7,9 @@ namespace quill::driver {
 
 namespace {
 
-constexpr std::array<QStringView, 8> kNames = {
-    u"store-create", u"store-logon", u"contacts-folder", u"calendar-folder",
-    u"restrict",     u"read",        u"write",           u"delete",
+constexpr std::array<QStringView, 10> kNames = {
+    u"store-create", u"store-logon", u"contacts-folder", u"calendar-folder",  u"restrict",
+    u"read",         u"write",       u"delete",          u"save-appointment", u"appointment-ink",
 };
 
 }  // namespace

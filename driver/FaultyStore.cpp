@@ -45,10 +45,45 @@ class FaultyContactsFolder : public ContactsFolder {
   const FaultTable& m_faults;
 };
 
+class FaultyCalendarFolder : public CalendarFolder {
+ public:
+  FaultyCalendarFolder(StoreProvider& store, const FaultTable& faults)
+      : m_store(store), m_faults(faults) {}
+
+  AppointmentCollection Items() override { return Inner().Items(); }
+  std::optional<AppointmentCollection> Restrict(const AppointmentCollection& collection,
+                                                const QString& restriction) override {
+    if (m_faults.CodeOf(u"restrict") != 0) return std::nullopt;
+    return Inner().Restrict(collection, restriction);
+  }
+  int Count(const AppointmentCollection& collection) override { return Inner().Count(collection); }
+  Oid OidAt(const AppointmentCollection& collection, int position) override {
+    return Inner().OidAt(collection, position);
+  }
+  bool Read(Oid oid, AppointmentItem& item) override {
+    return !m_faults.Fails(u"read", oid) && Inner().Read(oid, item);
+  }
+  Oid Save(const AppointmentItem& item) override {
+    return m_faults.Fails(u"save-appointment", item.Id) ? 0 : Inner().Save(item);
+  }
+  bool PutInk(AppointmentItem& item, const QByteArray& ink) override {
+    return !m_faults.Fails(u"appointment-ink", item.Id) && Inner().PutInk(item, ink);
+  }
+  bool Remove(Oid oid) override { return !m_faults.Fails(u"delete", oid) && Inner().Remove(oid); }
+  std::vector<Oid> FindByUid(const QString& uid) override { return Inner().FindByUid(uid); }
+
+ private:
+  CalendarFolder& Inner() { return *m_store.Calendar(); }
+
+  StoreProvider& m_store;
+  const FaultTable& m_faults;
+};
+
 FaultyStore::FaultyStore(StoreProvider& inner, const FaultTable& faults)
     : m_inner(inner),
       m_faults(faults),
-      m_contacts(std::make_unique<FaultyContactsFolder>(inner, faults)) {}
+      m_contacts(std::make_unique<FaultyContactsFolder>(inner, faults)),
+      m_calendar(std::make_unique<FaultyCalendarFolder>(inner, faults)) {}
 
 FaultyStore::~FaultyStore() = default;
 
@@ -72,7 +107,7 @@ void FaultyStore::Close() { m_inner.Close(); }
 
 ContactsFolder* FaultyStore::Contacts() { return m_inner.Contacts() ? m_contacts.get() : nullptr; }
 
-CalendarFolder* FaultyStore::Calendar() { return m_inner.Calendar(); }
+CalendarFolder* FaultyStore::Calendar() { return m_inner.Calendar() ? m_calendar.get() : nullptr; }
 
 CategoryLibrary* FaultyStore::Categories() { return m_inner.Categories(); }
 

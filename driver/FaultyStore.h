@@ -9,6 +9,7 @@
 
 namespace quill::driver {
 
+class FaultyCalendarFolder;
 class FaultyContactsFolder;
 
 class FaultyStore : public StoreProvider {
@@ -32,6 +33,7 @@ class FaultyStore : public StoreProvider {
   StoreProvider& m_inner;
   const FaultTable& m_faults;
   std::unique_ptr<FaultyContactsFolder> m_contacts;
+  std::unique_ptr<FaultyCalendarFolder> m_calendar;
 };
 
 }  // namespace quill::driver

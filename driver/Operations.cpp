@@ -23,6 +23,7 @@ OperationTable AllOperations() {
   Append(table, PaintOperations());
   Append(table, ListOperations());
   Append(table, StoreOperations());
+  Append(table, AppointmentOperations());
   Append(table, DeviceOperations());
   return table;
 }

@@ -49,6 +49,7 @@ OperationTable ControlOperations();
 OperationTable PaintOperations();
 OperationTable ListOperations();
 OperationTable StoreOperations();
+OperationTable AppointmentOperations();
 OperationTable DeviceOperations();
 
 // The answer of the operation with this name; unknown ones are refused.

@@ -4,20 +4,16 @@
 
 #include <algorithm>
 
-#include "app/ui/MainFrame.h"
 #include "driver/Arguments.h"
 #include "driver/ContactJson.h"
 #include "driver/Operations.h"
 #include "driver/RawDates.h"
-#include "driver/Steps.h"
-#include "driver/Targets.h"
+#include "driver/StoreNotice.h"
 #include "resources/Ids.h"
 
 namespace quill::driver {
 
 namespace {
-
-constexpr int kOthersChange = 0;  // a notice's first parameter: not the program's own change
 
 using FolderAction = Answer (*)(const QJsonObject& arguments, ContactsFolder& folder,
                                 OperationContext& context);
@@ -28,16 +24,6 @@ Handler OnFolder(FolderAction action) {
     ContactsFolder* folder = context.Store.Contacts();
     return folder ? action(arguments, *folder, context) : Refusal(u"no store");
   };
-}
-
-void Notify(OperationContext& context, int message, int first) {
-  context.Steps.Add([message, first] {
-    if (CMainFrame* frame = FindMainFrame()) frame->PostStoreMessage(message, first, 0);
-  });
-}
-
-void NotifyUnlessQuiet(const QJsonObject& arguments, OperationContext& context) {
-  if (!IsSet(arguments, u"quiet")) Notify(context, kMessageItemWritten, kOthersChange);
 }
 
 Answer Contacts(const QJsonObject&, ContactsFolder& folder, OperationContext&) {

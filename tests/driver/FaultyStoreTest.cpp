@@ -100,3 +100,55 @@ TEST_F(FaultyStoreTest, WriteDeleteAndRestrictFailUntilSwitchedOff) {
   EXPECT_NE(Add(QStringLiteral("Baker")), 0);
   EXPECT_TRUE(store.Contacts()->Remove(oid));
 }
+
+TEST_F(FaultyStoreTest, WithoutFaultsTheCalendarGoesThrough) {
+  EXPECT_EQ(store.Calendar(), nullptr);
+  Open();
+  CalendarFolder& calendar = *store.Calendar();
+  AppointmentItem item{.Subject = QStringLiteral("(Kim)"), .Uid = QStringLiteral("uid")};
+  EXPECT_TRUE(calendar.PutInk(item, "ink"));
+  EXPECT_EQ(calendar.Save(item), 1);
+  const auto found = calendar.Restrict(calendar.Items(), QStringLiteral("[Subject] = \"(Kim)\""));
+  ASSERT_TRUE(found.has_value());
+  EXPECT_EQ(calendar.Count(*found), 1);
+  EXPECT_EQ(calendar.OidAt(*found, 1), 1);
+  EXPECT_EQ(calendar.FindByUid(QStringLiteral("uid")), std::vector<Oid>({1}));
+  AppointmentItem read;
+  EXPECT_TRUE(calendar.Read(1, read));
+  EXPECT_EQ(read.BodyInk, "ink");
+  EXPECT_TRUE(calendar.Remove(1));
+  EXPECT_FALSE(calendar.Remove(1));
+}
+
+TEST_F(FaultyStoreTest, SavingAnAppointmentFailsUntilSwitchedOff) {
+  Open();
+  faults.Switch(QStringLiteral("save-appointment"), Fault{});
+  EXPECT_EQ(store.Calendar()->Save({}), 0);
+  EXPECT_NE(Add(QStringLiteral("Adams")), 0);
+  faults.Switch(QStringLiteral("save-appointment"), std::nullopt);
+  EXPECT_EQ(store.Calendar()->Save({}), 1);
+}
+
+TEST_F(FaultyStoreTest, AppointmentInkFailsForOneItemOnly) {
+  Open();
+  faults.Switch(QStringLiteral("appointment-ink"), Fault{.OnlyItem = 2});
+  AppointmentItem first{.Id = 1};
+  AppointmentItem second{.Id = 2};
+  EXPECT_TRUE(store.Calendar()->PutInk(first, "ink"));
+  EXPECT_FALSE(store.Calendar()->PutInk(second, "ink"));
+  EXPECT_TRUE(second.BodyInk.isEmpty());
+}
+
+TEST_F(FaultyStoreTest, ReadDeleteAndRestrictFailInTheCalendarToo) {
+  Open();
+  CalendarFolder& calendar = *store.Calendar();
+  const Oid oid = calendar.Save({});
+  for (const char* const name : {"read", "delete", "restrict", "write"})
+    faults.Switch(QString::fromLatin1(name), Fault{});
+  AppointmentItem item;
+  EXPECT_FALSE(calendar.Read(oid, item));
+  EXPECT_FALSE(calendar.Remove(oid));
+  EXPECT_FALSE(calendar.Restrict(calendar.Items(), QStringLiteral("[Subject] >= \"\"")));
+  EXPECT_EQ(calendar.Count(calendar.Items()), 1);
+  EXPECT_EQ(calendar.Save({.Id = oid}), oid);
+}
