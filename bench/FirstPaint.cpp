@@ -7,6 +7,7 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include "ProcessMemory.h"
 #include "app/Program.h"
 #include "app/ui/RunShell.h"
 
@@ -18,21 +19,13 @@ struct StartWatch {
 };
 StartWatch g_watch;
 
-// A line of the kernel's account of this process, such as "VmRSS", in KiB.
-QString MemoryLine(const QString& file, const QByteArray& name) {
-  QFile account(file);
-  if (!account.open(QIODevice::ReadOnly)) return QStringLiteral("unknown");
-  for (const QByteArray& line : account.readAll().split('\n'))
-    if (line.startsWith(name + ':'))
-      return QString::fromLatin1(line.mid(name.size() + 1)).trimmed();
-  return QStringLiteral("unknown");
-}
-
 void Report() {
   QTextStream(stdout) << "main to first paint: " << g_watch.FirstPaint << " ms\n"
-                      << "resident: " << MemoryLine(QStringLiteral("/proc/self/status"), "VmRSS")
+                      << "resident: "
+                      << quill::bench::MemoryLine(QStringLiteral("/proc/self/status"), "VmRSS")
                       << "\nproportional: "
-                      << MemoryLine(QStringLiteral("/proc/self/smaps_rollup"), "Pss") << '\n';
+                      << quill::bench::MemoryLine(QStringLiteral("/proc/self/smaps_rollup"), "Pss")
+                      << '\n';
   QApplication::exit(0);
 }
 
