@@ -6,6 +6,7 @@
 #include "list/IndexRanges.h"
 #include "list/RestrictionText.h"
 #include "list/Search.h"
+#include "store/CategoryText.h"
 
 namespace quill::bench {
 
