@@ -5,6 +5,7 @@
 
 #include "store/Restriction.h"
 #include "store/pim/ListIndex.h"
+#include "store/pim/PlainOids.h"
 #include "store/pim/SqlFunctions.h"
 #include "store/pim/StoreCheck.h"
 #include "store_pim/TemporaryStore.h"
@@ -26,10 +27,10 @@ class PimCalendarFolder : public test::TemporaryStore {
 
   std::vector<Oid> OidsOf(const AppointmentCollection& collection) {
     std::vector<Oid> oids;
-    for (int position = 1; const Oid oid = Calendar().OidAt(collection, position); ++position) {
-      oids.push_back(oid);
+    const int count = Calendar().Count(collection);
+    for (int position = 1; position <= count; ++position) {
+      oids.push_back(Calendar().OidAt(collection, position));
     }
-    EXPECT_EQ(Calendar().Count(collection), static_cast<int>(oids.size()));
     return oids;
   }
 
@@ -303,6 +304,15 @@ class SubjectSelection : public PimCalendarFolder, public testing::WithParamInte
 
 TEST_P(SubjectSelection, HoldsTheAppointmentsThatSatisfyIt) {
   EXPECT_EQ(Found(QString::fromUtf16(GetParam().Restriction)), GetParam().Oids);
+}
+
+TEST_P(SubjectSelection, HoldsTheSameByPlainSql) {
+  Database raw;
+  ASSERT_EQ(raw.Open(Path()), 0);
+  ASSERT_EQ(RegisterFunctions(raw), 0);
+  const auto collection =
+      Calendar().Restrict(Calendar().Items(), QString::fromUtf16(GetParam().Restriction));
+  EXPECT_EQ(PlainAppointmentOids(raw, *collection), GetParam().Oids);
 }
 
 // Unit by unit, so the halves of a surrogate pair sort before U+FF5E.

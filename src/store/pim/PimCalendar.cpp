@@ -2,18 +2,15 @@
 
 #include <sqlite3.h>
 
-#include "store/StoreLog.h"
+#include <algorithm>
+#include <limits>
+
+#include "store/pim/PlainOids.h"
 #include "store/pim/RestrictionSql.h"
 
 namespace quill {
 
 namespace {
-
-RestrictionSql ConditionOf(const AppointmentCollection& collection) {
-  if (!collection.Restriction) return {.Condition = "1", .Values = {}};
-  const RestrictionSql nothing{.Condition = "0", .Values = {}};
-  return MakeAppointmentCondition(*collection.Restriction).value_or(nothing);
-}
 
 bool SameItems(const AppointmentCollection& a, const AppointmentCollection& b) {
   if (a.Restriction == b.Restriction) return true;
@@ -29,7 +26,7 @@ std::vector<Oid> OidsIn(Query& query) {
 }  // namespace
 
 PimCalendar::PimCalendar(Database& database, qsizetype inkLimit)
-    : m_database(database), m_inkLimit(inkLimit), m_sql(MakeAppointmentSql()) {}
+    : m_database(database), m_index(database), m_inkLimit(inkLimit), m_sql(MakeAppointmentSql()) {}
 
 int PimCalendar::Check() {
   Query columns = m_database.Prepare(m_sql.Read);
@@ -114,15 +111,22 @@ Oid PimCalendar::Update(const AppointmentItem& item) {
 const std::vector<Oid>& PimCalendar::OidsOf(const AppointmentCollection& collection) {
   const DataStamp stamp = m_database.Stamp();
   if (stamp == m_stamp && SameItems(collection, m_collection)) return m_oids;
-  const RestrictionSql sql = ConditionOf(collection);
-  Query query =
-      m_database.Prepare("SELECT Oid FROM appointment WHERE " + sql.Condition + " ORDER BY Oid");
-  sql.Bind(query);
-  m_oids = OidsIn(query);
+  const auto ranges =
+      collection.Restriction ? SubjectRanges(*collection.Restriction) : std::nullopt;
+  m_oids = ranges ? OidsWithin(*ranges) : PlainAppointmentOids(m_database, collection);
   m_collection = collection;
   m_stamp = stamp;
-  if (query.Failed()) m_oids.clear();
   return m_oids;
+}
+
+std::vector<Oid> PimCalendar::OidsWithin(const KeyRanges& ranges) {
+  std::vector<Oid> oids;
+  for (const KeyRange& range : ranges) {
+    const EntrySlice slice = m_index.Slice(range, 0, std::numeric_limits<int>::max());
+    oids.insert(oids.end(), slice.Oids.begin(), slice.Oids.end());
+  }
+  std::sort(oids.begin(), oids.end());
+  return oids;
 }
 
 }  // namespace quill

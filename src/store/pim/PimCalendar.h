@@ -7,6 +7,8 @@
 #include "store/StoreProvider.h"
 #include "store/pim/AppointmentRows.h"
 #include "store/pim/Database.h"
+#include "store/pim/KeyRanges.h"
+#include "store/pim/ListIndex.h"
 
 namespace quill {
 
@@ -32,8 +34,10 @@ class PimCalendar : public CalendarFolder {
  private:
   Oid Update(const AppointmentItem& item);
   const std::vector<Oid>& OidsOf(const AppointmentCollection& collection);
+  std::vector<Oid> OidsWithin(const KeyRanges& ranges);
 
   Database& m_database;
+  ListIndex m_index;
   qsizetype m_inkLimit;
   AppointmentSql m_sql;
   DataStamp m_stamp;

@@ -4,7 +4,6 @@
 
 #include "store/ContactFields.h"
 #include "store/FileAsName.h"
-#include "store/StoreLog.h"
 #include "store/pim/RestrictionSql.h"
 
 namespace quill {
