@@ -5,6 +5,7 @@
 namespace quill {
 
 class Clock;
+class DeviceFiles;
 class InputPanel;
 class Prompt;
 class RegistryStore;
@@ -14,6 +15,7 @@ struct Services {
   quill::Clock* Clock = nullptr;
   quill::Timers* Timers = nullptr;
   RegistryStore* Registry = nullptr;
+  DeviceFiles* Files = nullptr;
   quill::InputPanel* InputPanel = nullptr;
   quill::Prompt* Prompt = nullptr;
 };

@@ -1,0 +1,197 @@
+#include "platform/DesktopDeviceFiles.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QSaveFile>
+
+#include <algorithm>
+#include <cerrno>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/DevicePath.h"
+
+namespace quill {
+
+namespace {
+
+Q_LOGGING_CATEGORY(logFiles, "quill.files")
+
+constexpr QStringView kMyDocuments = u"My Documents";
+constexpr mode_t kNewFolderMode = S_IRWXU | S_IRWXG | S_IRWXO;  // less the user's mask
+
+bool IsSameName(QStringView a, QStringView b) { return a.compare(b, Qt::CaseInsensitive) == 0; }
+
+// The entry of the folder with this name: as it is written, else the first without case, else the
+// one that would be made.
+QString FollowCase(const QString& folder, const QString& name) {
+  const QString exact = folder + u'/' + name;
+  if (QFileInfo::exists(exact)) return exact;
+  QString found;
+  QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+  while (entries.hasNext()) {
+    entries.next();
+    const QString entry = entries.fileName();
+    if (IsSameName(entry, name) && (found.isEmpty() || entry < found)) found = entry;
+  }
+  return found.isEmpty() ? exact : folder + u'/' + found;
+}
+
+int DeviceCode(int error) {
+  switch (error) {
+    case EEXIST:
+      return kDeviceAlreadyExists;
+    case ENOENT:
+    case ENOTDIR:
+      return kDevicePathNotFound;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+      return kDeviceAccessDenied;
+    case ENOSPC:
+    case EDQUOT:
+      return kDeviceDiskFull;
+    case ENAMETOOLONG:
+      return kDeviceInvalidName;
+    default:
+      return kDeviceGeneralFailure;
+  }
+}
+
+// Says on the log what was not done and why; the answer is always false.
+bool Refuse(const char* operation, const QString& path, const QString& reason) {
+  qCWarning(logFiles).noquote() << operation << path << "failed:" << reason;
+  return false;
+}
+
+QString NotReachable() { return QStringLiteral("no such place, or the name is not allowed"); }
+
+// Makes the folder's entries durable, so that a file renamed into it is found after a power loss.
+void SyncFolder(const QString& folder) {
+  const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY);
+  if (handle < 0 || ::fsync(handle) != 0)
+    qCWarning(logFiles) << "cannot sync" << folder << qt_error_string(errno);
+  if (handle >= 0) ::close(handle);
+}
+
+}  // namespace
+
+DesktopDeviceFiles::DesktopDeviceFiles(DeviceRoots roots) : m_roots(std::move(roots)) {}
+
+QString DesktopDeviceFiles::RootOf(const QStringList& parts) const {
+  const bool below = !parts.isEmpty() && IsSameName(parts.first(), kMyDocuments);
+  return below ? m_roots.MyDocuments : m_roots.Device;
+}
+
+QString DesktopDeviceFiles::Locate(const QStringList& parts) const {
+  QString file = RootOf(parts);
+  const qsizetype first = file == m_roots.Device ? 0 : 1;
+  for (qsizetype i = first; i < parts.size(); ++i) file = FollowCase(file, parts[i]);
+  return IsOwn(file) ? QString() : file;
+}
+
+bool DesktopDeviceFiles::IsOwn(const QString& file) const {
+  return std::any_of(m_roots.Own.begin(), m_roots.Own.end(),
+                     [&](const QString& own) { return file.startsWith(own, Qt::CaseInsensitive); });
+}
+
+QString DesktopDeviceFiles::FileAt(const QString& path) const {
+  const auto parts = DevicePathParts(path);
+  return parts ? Locate(*parts) : QString();
+}
+
+QString DesktopDeviceFiles::PlaceFor(const QString& path) const {
+  const auto parts = DevicePathParts(path);
+  if (!parts || parts->isEmpty()) return {};
+  QDir().mkpath(RootOf(*parts));  // a failure shows when something is made in it
+  const QString file = Locate(*parts);
+  return IsDeviceName(parts->last()) || QFileInfo::exists(file) ? file : QString();
+}
+
+int DesktopDeviceFiles::CreateFolder(const QString& path) {
+  const QString folder = PlaceFor(path);
+  if (folder.isEmpty()) {
+    Refuse("making folder", path, NotReachable());
+    return kDeviceInvalidName;
+  }
+  if (::mkdir(QFile::encodeName(folder).constData(), kNewFolderMode) == 0) return 0;
+  const int error = errno;
+  if (error != EEXIST) Refuse("making folder", path, qt_error_string(error));
+  return DeviceCode(error);
+}
+
+bool DesktopDeviceFiles::Exists(const QString& path) const {
+  const QString file = FileAt(path);
+  return !file.isEmpty() && QFileInfo::exists(file);
+}
+
+QStringList DesktopDeviceFiles::Find(const QString& pattern) const {
+  const qsizetype folderEnd = pattern.lastIndexOf(u'\\') + 1;
+  const QString folder = FileAt(pattern.left(folderEnd));
+  if (folder.isEmpty()) Refuse("listing", pattern, NotReachable());
+  if (!QFileInfo(folder).isDir()) return {};  // a folder that is not there is an empty one
+  const QStringView names = QStringView(pattern).mid(folderEnd);
+  QStringList found;
+  QDirIterator entries(folder, QDir::Files | QDir::Hidden);
+  while (entries.hasNext()) {
+    entries.next();
+    const QString name = entries.fileName();
+    // A name with a separator in it could not be reached by a path.
+    if (MatchesPattern(name, names) && !name.contains(u'\\')) found.append(name);
+  }
+  return found;
+}
+
+std::optional<QByteArray> DesktopDeviceFiles::ReadWhole(const QString& path) const {
+  QFile file(FileAt(path));
+  // Anything but a plain file, such as a pipe, could keep the program waiting.
+  const bool opened = QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly);
+  QByteArray content = opened ? file.readAll() : QByteArray();
+  if (opened && file.error() == QFileDevice::NoError) return content;
+  Refuse("reading", path, opened ? file.errorString() : QStringLiteral("no file to read"));
+  return std::nullopt;
+}
+
+bool DesktopDeviceFiles::WriteWhole(const QString& path, const QByteArray& content) {
+  const QString place = PlaceFor(path);
+  if (place.isEmpty()) return Refuse("writing", path, NotReachable());
+  QSaveFile file(place);
+  if (file.open(QIODevice::WriteOnly)) file.write(content);
+  if (file.error() != QFileDevice::NoError || !file.commit())
+    return Refuse("writing", path, file.errorString());
+  SyncFolder(QFileInfo(place).path());
+  return true;
+}
+
+bool DesktopDeviceFiles::Remove(const QString& path) {
+  QFile file(FileAt(path));
+  if (QFileInfo(file).isFile() && file.remove()) return true;
+  return Refuse("removing", path, file.errorString());
+}
+
+bool DesktopDeviceFiles::Move(const QString& from, const QString& to) {
+  const QString source = FileAt(from);
+  QString target = PlaceFor(to);
+  if (target.isEmpty() || !QFileInfo(source).isFile())
+    return Refuse("moving", from + QStringLiteral(" to ") + to, NotReachable());
+  // The same name in other letters: only its spelling changes.
+  if (target == source) target = QFileInfo(source).path() + u'/' + DevicePathParts(to)->last();
+  QFile file(source);
+  if (file.rename(target)) return true;
+  return Refuse("moving", from + QStringLiteral(" to ") + to, file.errorString());
+}
+
+bool DesktopDeviceFiles::Copy(const QString& from, const QString& to) {
+  if (FileAt(from) == FileAt(to))
+    return Refuse("copying", from, QStringLiteral("it would be copied to itself"));
+  const auto content = ReadWhole(from);
+  return content && WriteWhole(to, *content);
+}
+
+}  // namespace quill

@@ -1,0 +1,46 @@
+// The device's files on a desktop: plain files below a few folders, the roots.
+//
+// A name is looked for as it is written, then without case. What is new must have a name that the
+// device allows (IsDeviceName); files that are there already are taken whatever their names.
+// Paths never lead out of the roots; symbolic links that the user has set below them do count.
+#pragma once
+
+#include "platform/DeviceFiles.h"
+
+namespace quill {
+
+// Absolute folders; they need not exist before something is made in them.
+struct DeviceRoots {
+  QString Device;       // "\" and what is not below My Documents
+  QString MyDocuments;  // "\My Documents"
+  // Files of the program itself that lie in Device: neither they nor names that begin like them,
+  // such as their journals, are reachable.
+  QStringList Own = {};
+};
+
+class DesktopDeviceFiles : public DeviceFiles {
+ public:
+  explicit DesktopDeviceFiles(DeviceRoots roots);
+
+  int CreateFolder(const QString& path) override;
+  bool Exists(const QString& path) const override;
+  QStringList Find(const QString& pattern) const override;
+  std::optional<QByteArray> ReadWhole(const QString& path) const override;
+  bool WriteWhole(const QString& path, const QByteArray& content) override;
+  bool Remove(const QString& path) override;
+  bool Move(const QString& from, const QString& to) override;
+  bool Copy(const QString& from, const QString& to) override;
+
+ private:
+  QString RootOf(const QStringList& parts) const;
+  QString Locate(const QStringList& parts) const;
+  // Each is the desktop's path of a device path, and empty when that is not reachable. PlaceFor is
+  // for what may be made: its root is there then, as on a device, and its name is allowed.
+  QString FileAt(const QString& path) const;
+  QString PlaceFor(const QString& path) const;
+  bool IsOwn(const QString& file) const;
+
+  DeviceRoots m_roots;
+};
+
+}  // namespace quill
