@@ -1,0 +1,38 @@
+#include "memo/MemoNames.h"
+
+#include "memo/MemoFolder.h"
+#include "platform/Clock.h"
+#include "platform/Services.h"
+
+namespace quill {
+
+namespace {
+
+constexpr int kExtensionLength = 4;
+
+QString TwoDigits(int number) { return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0')); }
+
+// "20040915_093005"; the year as it is, the other figures with two digits.
+QString TimeText(const QDateTime& now) {
+  const QDate day = now.date();
+  const QTime time = now.time();
+  return QString::number(day.year()) + TwoDigits(day.month()) + TwoDigits(day.day()) + u'_' +
+         TwoDigits(time.hour()) + TwoDigits(time.minute()) + TwoDigits(time.second());
+}
+
+}  // namespace
+
+QString NewMemoPath(const MemoState& memo, const QString& fileAs) {
+  const QString time = TimeText(g_services.Clock->Now());
+  return MemoPath(memo, fileAs + u'_' + time + QStringLiteral(".pwi"));
+}
+
+QString NewUnnamedMemoPath(const MemoState& memo) {
+  return NewMemoPath(memo, QStringLiteral("Memo"));
+}
+
+QString MemoCopyPath(const QString& path) {
+  return path.chopped(qMin<qsizetype>(kExtensionLength, path.size())) + QStringLiteral("_Copy.pwi");
+}
+
+}  // namespace quill

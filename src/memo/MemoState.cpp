@@ -1,0 +1,7 @@
+#include "memo/MemoState.h"
+
+namespace quill {
+
+MemoState g_memo;
+
+}  // namespace quill
