@@ -4,8 +4,11 @@
 
 namespace quill {
 
-InstanceLock::InstanceLock(const QString& stateFolder)
-    : m_file(QDir(stateFolder).filePath(QStringLiteral("quill.lock"))) {
+QString InstanceLockFile(const QString& stateFolder) {
+  return QDir(stateFolder).filePath(QStringLiteral("quill.lock"));
+}
+
+InstanceLock::InstanceLock(const QString& stateFolder) : m_file(InstanceLockFile(stateFolder)) {
   // A window may stay open for weeks: age alone never makes the lock stale, a dead owner does.
   m_file.setStaleLockTime(0);
 }

@@ -14,6 +14,9 @@ enum class LockOutcome {
   Failed,       // the lock file cannot be written: Reason says why
 };
 
+// The lock's file in a home's state folder.
+QString InstanceLockFile(const QString& stateFolder);
+
 class InstanceLock {
  public:
   // The folder must exist.

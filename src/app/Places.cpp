@@ -9,6 +9,8 @@
 
 #include <sys/stat.h>
 
+#include "app/InstanceLock.h"
+
 namespace quill {
 namespace {
 
@@ -58,6 +60,7 @@ Places HomePlaces(const QString& folder, const QProcessEnvironment& environment)
   places.SettingsFile = below.filePath(QStringLiteral("settings.json"));
   places.StateFolder = home;
   places.DocumentsFolder = below.filePath(QStringLiteral("My Documents"));
+  places.DeviceFolder = home;
   places.RuntimeFolder = RuntimeFolderOf(environment);
   return places;
 }
@@ -72,12 +75,19 @@ Places UserPlaces(const QProcessEnvironment& environment) {
   places.SettingsFile = config + QStringLiteral("/quill/settings.json");
   places.StateFolder = state + QStringLiteral("/quill");
   places.DocumentsFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  places.DeviceFolder = DataFolder(environment) + QStringLiteral("/device");
   places.RuntimeFolder = RuntimeFolderOf(environment);
   return places;
 }
 
 QString SampleHome(const QProcessEnvironment& environment) {
   return DataFolder(environment) + QStringLiteral("/demo");
+}
+
+DeviceRoots DeviceRootsOf(const Places& places) {
+  return {.Device = places.DeviceFolder,
+          .MyDocuments = places.DocumentsFolder,
+          .Own = {places.StoreFile, places.SettingsFile, InstanceLockFile(places.StateFolder)}};
 }
 
 QString MakeFolders(const Places& places) {

@@ -7,6 +7,8 @@
 #include <QProcessEnvironment>
 #include <QString>
 
+#include "platform/DesktopDeviceFiles.h"
+
 namespace quill {
 
 struct Places {
@@ -14,6 +16,7 @@ struct Places {
   QString SettingsFile;
   QString StateFolder;      // instance lock, recovery files, logs
   QString DocumentsFolder;  // the device's "\My Documents"; memos lie below it, in Fennick/
+  QString DeviceFolder;     // the device's "\" with all its other folders
   QString RuntimeFolder;    // of this login, for sockets; empty when the desktop names none
 
   bool operator==(const Places&) const = default;
@@ -28,6 +31,9 @@ Places UserPlaces(const QProcessEnvironment& environment);
 
 // The folder of the sample people's home.
 QString SampleHome(const QProcessEnvironment& environment);
+
+// Where the device's files lie. The home's own files are not among them.
+DeviceRoots DeviceRootsOf(const Places& places);
 
 // Makes the folders of store, settings and state that do not exist, for this user only; existing
 // ones keep their permissions. Returns why it could not, as text for the user, or an empty string.

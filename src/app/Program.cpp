@@ -6,6 +6,7 @@
 
 #include "app/StoreSettings.h"
 #include "platform/Clock.h"
+#include "platform/DesktopDeviceFiles.h"
 #include "platform/DesktopInputPanel.h"
 #include "platform/JsonRegistry.h"
 #include "platform/Services.h"
@@ -19,10 +20,12 @@ Q_LOGGING_CATEGORY(logProgram, "quill.program")
 }  // namespace
 
 struct Program::Services {
-  explicit Services(const Places& places) : Registry(places.SettingsFile) {}
+  explicit Services(const Places& places)
+      : Registry(places.SettingsFile), Files(DeviceRootsOf(places)) {}
 
   SystemClock Clock;
   JsonRegistry Registry;
+  DesktopDeviceFiles Files;
   DesktopInputPanel InputPanel;
 };
 
@@ -34,12 +37,14 @@ Program::Program(ProgramOptions options)
   }
   g_services.Clock = &m_services->Clock;
   g_services.Registry = &m_services->Registry;
+  g_services.Files = &m_services->Files;
   g_services.InputPanel = &m_services->InputPanel;
 }
 
 Program::~Program() {
   g_services.Clock = nullptr;
   g_services.Registry = nullptr;
+  g_services.Files = nullptr;
   g_services.InputPanel = nullptr;
 }
 

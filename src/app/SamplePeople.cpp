@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "app/SampleMemos.h"
 #include "app/SamplePerson.h"
 #include "app/StoreOpening.h"
 #include "store/FileAsName.h"
@@ -77,23 +78,28 @@ ContactItem ItemOf(const SamplePerson& person) {
   return item;
 }
 
-bool SavePeople(StoreProvider& store) {
+bool SavePeople(ContactsFolder& contacts) {
+  const auto people = SamplePersons();
+  return std::all_of(people.begin(), people.end(), [&](const SamplePerson& person) {
+    return contacts.SaveWhole(0, ItemOf(person)) != 0;
+  });
+}
+
+// The memos before the people are there for good: a home without people is filled again.
+QString FillStore(StoreProvider& store, DeviceFiles& files) {
   ContactsFolder& contacts = *store.Contacts();
-  if (contacts.Count(contacts.Items()) > 0) return true;
+  if (contacts.Count(contacts.Items()) > 0) return {};
   const auto transaction = store.Begin();
-  if (!transaction) return false;
-  for (const SamplePerson& person : SamplePersons()) {
-    if (contacts.SaveWhole(0, ItemOf(person)) == 0) return false;
-  }
-  return transaction->Commit();
+  if (!transaction || !SavePeople(contacts)) return store.LastError();
+  if (!PutSampleMemos(files)) return QStringLiteral("the sample memos cannot be written");
+  return transaction->Commit() ? QString() : store.LastError();
 }
 
 }  // namespace
 
-QString FillWithSamplePeople(StoreProvider& store) {
+QString FillWithSamplePeople(StoreProvider& store, DeviceFiles& files) {
   const StoreOpening opening(store);
-  if (!opening.Succeeded()) return opening.Problem();
-  return SavePeople(store) ? QString() : store.LastError();
+  return opening.Succeeded() ? FillStore(store, files) : opening.Problem();
 }
 
 }  // namespace quill

@@ -1,6 +1,7 @@
 #include "cli/PrepareHome.h"
 
 #include "app/SamplePeople.h"
+#include "platform/DesktopDeviceFiles.h"
 #include "store/pim/PimStore.h"
 
 namespace quill {
@@ -20,7 +21,8 @@ std::optional<Places> PrepareHome(const CommandLine& line, const QProcessEnviron
   QString problem = MakeFolders(places);
   if (problem.isEmpty() && line.Demo) {
     PimStore store(places.StoreFile);
-    problem = FillWithSamplePeople(store);
+    DesktopDeviceFiles files(DeviceRootsOf(places));
+    problem = FillWithSamplePeople(store, files);
   }
   if (problem.isEmpty()) return places;
   Complain(console, problem);

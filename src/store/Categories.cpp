@@ -12,6 +12,12 @@ CategoryLibrary* Library() { return g_store.Provider ? g_store.Provider->Categor
 
 }  // namespace
 
+bool OpenCategoryLibrary() {
+  if (Library()) return true;
+  qCWarning(storeLog) << "There is no category library";
+  return false;
+}
+
 QStringList UserCategories() {
   CategoryLibrary* library = Library();
   return library ? library->Names() : QStringList();

@@ -5,6 +5,10 @@
 
 namespace quill {
 
+// Once at the start. False when the session has no library: then there are no categories (the
+// reason goes to the log).
+bool OpenCategoryLibrary();
+
 QStringList UserCategories();
 // The user's, then "No Categories".
 QStringList OfferedCategories();

@@ -26,7 +26,21 @@ TEST(Places, AHomeHoldsEverything) {
   EXPECT_EQ(places.SettingsFile, u"/tmp/home/settings.json"_qs);
   EXPECT_EQ(places.StateFolder, u"/tmp/home"_qs);
   EXPECT_EQ(places.DocumentsFolder, u"/tmp/home/My Documents"_qs);
+  EXPECT_EQ(places.DeviceFolder, u"/tmp/home"_qs);
   EXPECT_EQ(places.RuntimeFolder, u"/run/user/7"_qs);
+}
+
+TEST(Places, AHomesOwnFilesAreNotTheDevices) {
+  const DeviceRoots roots = DeviceRootsOf(HomePlaces(u"/tmp/home"_qs, {}));
+  EXPECT_EQ(roots.Device, u"/tmp/home"_qs);
+  EXPECT_EQ(roots.MyDocuments, u"/tmp/home/My Documents"_qs);
+  EXPECT_EQ(roots.Own, QStringList({u"/tmp/home/store.db"_qs, u"/tmp/home/settings.json"_qs,
+                                    u"/tmp/home/quill.lock"_qs}));
+}
+
+TEST(Places, AUsersDeviceFilesLieBesideTheStore) {
+  const Places places = UserPlaces(Environment({{u"XDG_DATA_HOME"_qs, u"/d"_qs}}));
+  EXPECT_EQ(places.DeviceFolder, u"/d/quill/device"_qs);
 }
 
 TEST(Places, ARelativeHomeCountsFromTheCurrentFolder) {

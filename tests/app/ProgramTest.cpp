@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/DeviceFiles.h"
 #include "platform/RegistryStore.h"
 #include "platform/Services.h"
 
@@ -27,12 +28,16 @@ TEST_F(ProgramAt, AHomeInstallsTheServicesForItsLife) {
     const Program program(Options());
     EXPECT_TRUE(g_services.Clock);
     EXPECT_TRUE(g_services.InputPanel);
+    ASSERT_TRUE(g_services.Files);
+    EXPECT_TRUE(g_services.Files->WriteWhole(u"\\My Documents\\A.pwi"_qs, "memo"));
     ASSERT_TRUE(g_services.Registry);
     EXPECT_TRUE(g_services.Registry->PutNumber(u"Key"_qs, u"Name"_qs, 7));
   }
   EXPECT_FALSE(g_services.Clock);
   EXPECT_FALSE(g_services.InputPanel);
   EXPECT_FALSE(g_services.Registry);
+  EXPECT_FALSE(g_services.Files);
+  EXPECT_TRUE(QFileInfo::exists(m_folder.filePath(u"My Documents/A.pwi"_qs)));
   const Program again(Options());
   EXPECT_EQ(g_services.Registry->QueryNumber(u"Key"_qs, u"Name"_qs), 7U);
 }

@@ -1,6 +1,7 @@
 #include "app/SamplePeople.h"
 
 #include <QDate>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
@@ -8,6 +9,7 @@
 
 #include <algorithm>
 
+#include "app/Places.h"
 #include "app/SamplePerson.h"
 #include "app/StoreOpening.h"
 #include "store/pim/PimStore.h"
@@ -35,12 +37,15 @@ const ContactRecord* FindRecord(const std::vector<ContactItem>& items, const QSt
 
 class SamplePeople : public testing::Test {
  protected:
+  QStringList Memos() const { return m_files.Find(u"\\My Documents\\Fennick\\*.pwi"_qs); }
+
   QTemporaryDir m_folder;
   PimStore m_store{m_folder.filePath(u"store.db"_qs)};
+  DesktopDeviceFiles m_files{DeviceRootsOf(HomePlaces(m_folder.path(), {}))};
 };
 
 TEST_F(SamplePeople, AreAllThereWithANameToFileUnder) {
-  ASSERT_EQ(FillWithSamplePeople(m_store), QString());
+  ASSERT_EQ(FillWithSamplePeople(m_store, m_files), QString());
   const auto items = ItemsIn(m_store);
   EXPECT_EQ(items.size(), SamplePersons().size());
   EXPECT_GE(items.size(), 60U);
@@ -48,7 +53,7 @@ TEST_F(SamplePeople, AreAllThereWithANameToFileUnder) {
 }
 
 TEST_F(SamplePeople, HaveTheirFields) {
-  ASSERT_EQ(FillWithSamplePeople(m_store), QString());
+  ASSERT_EQ(FillWithSamplePeople(m_store, m_files), QString());
   const auto items = ItemsIn(m_store);
   const ContactRecord* english = FindRecord(items, u"Ahlberg, Ingrid"_qs);
   ASSERT_TRUE(english);
@@ -66,9 +71,26 @@ TEST_F(SamplePeople, HaveTheirFields) {
   EXPECT_TRUE(FindRecord(items, u"솔바람서점"_qs)) << "a company alone";
 }
 
+TEST_F(SamplePeople, HaveMemosOfSomeOfThem) {
+  ASSERT_EQ(FillWithSamplePeople(m_store, m_files), QString());
+  const auto items = ItemsIn(m_store);
+  EXPECT_GE(Memos().size(), 6);
+  for (const QString& name : Memos()) {
+    const QString owner = name.section(u'_', 0, 0);
+    EXPECT_TRUE(owner == u"Memo"_qs || FindRecord(items, owner)) << name.toStdString();
+  }
+}
+
+TEST_F(SamplePeople, AreNotThereWithoutTheirMemos) {
+  QFile inTheWay(m_folder.filePath(u"My Documents"_qs));
+  ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+  EXPECT_NE(FillWithSamplePeople(m_store, m_files), QString());
+  EXPECT_EQ(ItemsIn(m_store).size(), 0U);
+}
+
 TEST_F(SamplePeople, ComeOnceOnly) {
-  ASSERT_EQ(FillWithSamplePeople(m_store), QString());
-  ASSERT_EQ(FillWithSamplePeople(m_store), QString());
+  ASSERT_EQ(FillWithSamplePeople(m_store, m_files), QString());
+  ASSERT_EQ(FillWithSamplePeople(m_store, m_files), QString());
   EXPECT_EQ(ItemsIn(m_store).size(), SamplePersons().size());
 }
 
@@ -80,8 +102,9 @@ TEST_F(SamplePeople, DoNotJoinOthers) {
     item.Record[ContactField::FileAs] = u"Somebody"_qs;
     ASSERT_NE(m_store.Contacts()->SaveWhole(0, item), 0);
   }
-  ASSERT_EQ(FillWithSamplePeople(m_store), QString());
+  ASSERT_EQ(FillWithSamplePeople(m_store, m_files), QString());
   EXPECT_EQ(ItemsIn(m_store).size(), 1U);
+  EXPECT_EQ(Memos(), QStringList());
 }
 
 std::vector<std::string> TextsOf(std::initializer_list<QStringView SamplePerson::*> members) {
@@ -121,7 +144,8 @@ TEST(SamplePersons, HaveDatesThatAreDates) {
 TEST(SamplePeopleOnABrokenStore, AreRefusedWithAReason) {
   const QTemporaryDir folder;
   PimStore store(folder.path());  // a folder is no store
-  EXPECT_NE(FillWithSamplePeople(store), QString());
+  DesktopDeviceFiles files(DeviceRootsOf(HomePlaces(folder.path(), {})));
+  EXPECT_NE(FillWithSamplePeople(store, files), QString());
 }
 
 }  // namespace

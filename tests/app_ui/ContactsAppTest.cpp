@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "list/ListState.h"
+#include "memo/MemoState.h"
 #include "platform/Services.h"
 #include "platform/ui/Dialog.h"
 #include "platform/ui/OuterWindow.h"
@@ -17,6 +18,7 @@
 #include "platform_ui/ScreenInput.h"
 #include "platform_ui/Steps.h"
 #include "resources/Ids.h"
+#include "settings/Settings.h"
 #include "store/ContactStore.h"
 
 namespace quill {
@@ -34,6 +36,8 @@ class ContactsAppTest : public testing::Test {
     CloseSession();
     g_store = {};
     g_list = {};
+    g_memo = {};
+    g_settings = {};
   }
 
   // Runs a shell; the steps are taken in whatever loop waits, the last one must end it.

@@ -7,10 +7,13 @@
 #include "app/ui/MainFrame.h"
 #include "list/ListState.h"
 #include "list/ui/ContactsView.h"
+#include "memo/MemoState.h"
 #include "platform_ui/ScreenFixture.h"
 #include "resources/Ids.h"
+#include "settings/Settings.h"
 #include "store/ContactStore.h"
 #include "store/pim/PimStore.h"
+#include "support/DeviceHome.h"
 #include "support/FaultyStore.h"
 
 namespace quill::test {
@@ -35,6 +38,7 @@ class FrameFixture : public ScreenFixture {
     ASSERT_NE(m_store.Contacts()->Save(0, record, {}), 0);
   }
 
+  DeviceHome m_deviceHome;
   PimStore m_pimStore{QStringLiteral(":memory:")};
   FaultyStore m_store{m_pimStore};
   int m_abouts = 0;
@@ -46,6 +50,8 @@ class FrameFixture : public ScreenFixture {
     CloseSession();
     g_store = {};
     g_list = {};
+    g_memo = {};
+    g_settings = {};
   }
 };
 

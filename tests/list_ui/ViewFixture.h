@@ -11,11 +11,14 @@
 #include "list/ui/ContactListCtrl.h"
 #include "list/ui/ContactsView.h"
 #include "list/ui/IndexStrip.h"
+#include "memo/MemoState.h"
 #include "platform/Services.h"
 #include "platform_ui/ScreenFixture.h"
 #include "resources/Ids.h"
+#include "settings/Settings.h"
 #include "store/ContactStore.h"
 #include "store/pim/PimStore.h"
+#include "support/DeviceHome.h"
 #include "support/FaultyStore.h"
 
 namespace quill::test {
@@ -85,6 +88,7 @@ class ViewFixture : public ScreenFixture {
     return names;
   }
 
+  DeviceHome m_deviceHome;
   PimStore m_pimStore{QStringLiteral(":memory:")};
   FaultyStore m_store{m_pimStore};
   std::unique_ptr<ViewFrame> m_frame;
@@ -94,6 +98,8 @@ class ViewFixture : public ScreenFixture {
     CloseSession();
     g_store = {};
     g_list = {};
+    g_memo = {};
+    g_settings = {};
   }
 };
 

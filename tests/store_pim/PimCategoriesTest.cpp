@@ -77,6 +77,14 @@ TEST_F(CategoriesOfAStore, NoCategoriesIsOfferedLastAndNeverStored) {
   CloseSession();
 }
 
+TEST_F(CategoriesOfAStore, AreThereWithASessionOnly) {
+  m_store.Close();
+  EXPECT_FALSE(OpenCategoryLibrary());
+  ASSERT_EQ(OpenSession(m_store), StartupCode::Opened);
+  EXPECT_TRUE(OpenCategoryLibrary());
+  CloseSession();
+}
+
 TEST(Categories, WithoutASessionThereIsOnlyNoCategories) {
   EXPECT_EQ(UserCategories(), QStringList());
   EXPECT_EQ(OfferedCategories(), QStringList(QStringLiteral("No Categories")));

@@ -5,7 +5,9 @@
 #include <gtest/gtest.h>
 
 #include "list/ListState.h"
+#include "memo/MemoState.h"
 #include "platform/Services.h"
+#include "settings/Settings.h"
 #include "store/ContactStore.h"
 
 namespace quill::test {
@@ -15,6 +17,8 @@ inline void ResetProcessState() {
   g_store = {};
   g_contactInk = {};
   g_list = {};
+  g_memo = {};
+  g_settings = {};
   g_services = {};
 }
 

@@ -8,6 +8,7 @@
 #include "list/IndexRanges.h"
 #include "list/PageBuilding.h"
 #include "list/Search.h"
+#include "list/StartUp.h"
 #include "list/ViewModes.h"
 #include "list/ui/ContactCommands.h"
 #include "list/ui/ContactListCtrl.h"
@@ -79,7 +80,7 @@ void CContactsView::PlaceControls() {
 }
 
 void CContactsView::OnInitialUpdate(StoreProvider& provider) {
-  if (OpenSession(provider) == StartupCode::Opened) BuildPage(g_list);
+  StartList(provider);  // a failure leaves the list empty
   ShowState();
 }
 
