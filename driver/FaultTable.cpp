@@ -7,9 +7,10 @@ namespace quill::driver {
 
 namespace {
 
-constexpr std::array<QStringView, 10> kNames = {
+constexpr std::array<QStringView, 12> kNames = {
     u"store-create", u"store-logon", u"contacts-folder", u"calendar-folder",  u"restrict",
     u"read",         u"write",       u"delete",          u"save-appointment", u"appointment-ink",
+    u"memo-folder",  u"memo-create",
 };
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "app/StoreSettings.h"
 #include "app/ui/RunShell.h"
 #include "driver/Driver.h"
+#include "driver/FaultyFiles.h"
 #include "driver/FaultyStore.h"
 #include "driver/SettableClock.h"
 #include "platform/JsonRegistry.h"
@@ -53,6 +54,8 @@ int RunSession(const OperationTable& operations, int& argc, char** argv) {
   programOptions.Store = std::make_unique<FaultyStore>(store, faults);
   Program program(std::move(programOptions));
   g_services.Clock = &clock;
+  FaultyFiles files(*g_services.Files, faults);
+  g_services.Files = &files;
 
   // A reader that goes away ends the script, not the process.
   std::signal(SIGPIPE, SIG_IGN);
