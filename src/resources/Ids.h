@@ -17,6 +17,20 @@ inline constexpr int ID_VIEW_BY_COMPANY = 32823;
 inline constexpr int ID_VIEW_BY_MEMO = 32825;
 inline constexpr int ID_APP_ABOUT = 57664;
 
+// The popups of the list's rows.
+inline constexpr int ID_APPOINTMENTS = 32817;  // the title of a submenu
+inline constexpr int ID_MEMOS = 32818;         // the same
+inline constexpr int ID_ADD_APPOINTMENT = 32819;
+inline constexpr int ID_ADD_MEMO = 32820;
+inline constexpr int ID_COPY_CONTACT = 32822;
+inline constexpr int ID_DELETE_MEMO = 32826;
+inline constexpr int ID_COPY_MEMO = 32828;
+inline constexpr int ID_RENAME_MEMO = 32829;
+inline constexpr int ID_OPEN_APPOINTMENT_FIRST = 33001;  // one for each linked appointment
+inline constexpr int ID_OPEN_APPOINTMENT_LAST = 33200;
+inline constexpr int ID_OPEN_MEMO_FIRST = 33201;  // one for each linked memo
+inline constexpr int ID_OPEN_MEMO_LAST = 33400;
+
 // The shell's own commands: the button for the input panel and the menu behind the title bar.
 inline constexpr int ID_SHELL_INPUT_PANEL = 60000;
 inline constexpr int ID_SHELL_LARGER = 60001;

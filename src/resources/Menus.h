@@ -48,6 +48,27 @@ inline constexpr std::array kMainMenu = {
     MenuResource{u"Help", kHelpMenu},
 };
 
+// What a tap-and-hold on a contact's row opens; the first two become submenus of what is linked to
+// the contact.
+inline constexpr std::array kContactPopup = {
+    MenuEntry{u"Appointment:", ID_APPOINTMENTS},
+    MenuEntry{u"Memo:", ID_MEMOS},
+    MenuEntry{},
+    MenuEntry{u"Add Appoint...", ID_ADD_APPOINTMENT},
+    MenuEntry{u"Add Memo...", ID_ADD_MEMO},
+    MenuEntry{},
+    MenuEntry{u"Beam Contact...", ID_BEAM_CONTACTS},
+    MenuEntry{u"Copy Contact", ID_COPY_CONTACT},
+    MenuEntry{u"Delete Contact", ID_DELETE_ITEMS},
+};
+
+// The same on a memo's row.
+inline constexpr std::array kMemoPopup = {
+    MenuEntry{u"Rename Memo...", ID_RENAME_MEMO},
+    MenuEntry{u"Copy Memo...", ID_COPY_MEMO},
+    MenuEntry{u"Delete Memo", ID_DELETE_MEMO},
+};
+
 // The menu that a tap-and-hold on the title bar opens.
 inline constexpr std::array kShellMenu = {
     MenuEntry{u"Larger", ID_SHELL_LARGER},

@@ -10,11 +10,15 @@
 #include "app/ui/ContactsApp.h"
 #include "app/ui/ShellCommands.h"
 #include "list/ui/ContactCommands.h"
+#include "list/ui/LinkedItemCommands.h"
 #include "list/ui/ViewModeCommands.h"
 #include "resources/Menus.h"
 
 namespace quill {
 namespace {
+
+// Submenus of a row's popup: their ids run nothing.
+const std::set<int> kSubmenus = {ID_APPOINTMENTS, ID_MEMOS};
 
 // Commands that no menu has, and what sends them.
 const std::map<int, const char*> kSenders = {
@@ -33,6 +37,11 @@ std::set<int> MenuIds() {
   std::set<int> ids;
   for (const resources::MenuResource& menu : resources::kMainMenu) AddIds(ids, menu.Entries);
   AddIds(ids, resources::kShellMenu);
+  AddIds(ids, resources::kContactPopup);
+  AddIds(ids, resources::kMemoPopup);
+  for (const int id : kSubmenus) ids.erase(id);
+  // What a contact's submenus list.
+  for (int id = ID_OPEN_APPOINTMENT_FIRST; id <= ID_OPEN_MEMO_LAST; ++id) ids.insert(id);
   return ids;
 }
 
@@ -59,8 +68,10 @@ class CommandTableTest : public test::FrameFixture {
     std::vector<CommandRow> rows;
     const auto contacts = MakeContactCommands(m_frame->View());
     const auto modes = MakeViewModeCommands(m_frame->View());
-    const std::vector<const CommandTarget*> targets = {
-        contacts.get(), modes.get(), &m_shellCommands, &m_screen->ScreenCommands()};
+    const auto linkedItems = MakeLinkedItemCommands();
+    const std::vector<const CommandTarget*> targets = {contacts.get(), linkedItems.get(),
+                                                       modes.get(), &m_shellCommands,
+                                                       &m_screen->ScreenCommands()};
     for (const CommandTarget* target : targets)
       rows.insert(rows.end(), target->Rows().begin(), target->Rows().end());
     return rows;

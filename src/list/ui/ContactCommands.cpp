@@ -22,6 +22,7 @@ std::unique_ptr<CommandTarget> MakeContactCommands(CContactsView& view) {
       Unavailable(ID_RECEIVE_INFRARED),
       Unavailable(ID_DELETE_ALL),
       Unavailable(ID_CONFIGURATION),
+      Unavailable(ID_COPY_CONTACT),
   });
 }
 

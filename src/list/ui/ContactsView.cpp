@@ -13,6 +13,7 @@
 #include "list/ui/ContactCommands.h"
 #include "list/ui/ContactListCtrl.h"
 #include "list/ui/IndexStrip.h"
+#include "list/ui/LinkedItemCommands.h"
 #include "list/ui/ViewModeCommands.h"
 #include "platform/Services.h"
 #include "platform/ui/Edit.h"
@@ -42,7 +43,8 @@ CContactsView::CContactsView(QWidget* frame)
       m_list(new CContactListCtrl(this)),
       m_scrollBar(new QScrollBar(Qt::Vertical, this)),
       m_contactCommands(MakeContactCommands(*this)),
-      m_modeCommands(MakeViewModeCommands(*this)) {
+      m_modeCommands(MakeViewModeCommands(*this)),
+      m_linkedItemCommands(MakeLinkedItemCommands()) {
   MakeControls();
   PlaceControls();
   ShowPage();
@@ -92,6 +94,7 @@ void CContactsView::ShowState() {
 CommandRoute CContactsView::Route() const {
   CommandRoute route;
   route.Add(*m_contactCommands);
+  route.Add(*m_linkedItemCommands);
   route.Add(*m_modeCommands);
   return route;
 }

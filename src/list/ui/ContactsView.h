@@ -66,6 +66,7 @@ class CContactsView : public QWidget, public TimerTarget {
   bool m_waiting = false;  // the wait cursor is this view's
   std::unique_ptr<CommandTarget> m_contactCommands;
   std::unique_ptr<CommandTarget> m_modeCommands;
+  std::unique_ptr<CommandTarget> m_linkedItemCommands;
 };
 
 }  // namespace quill
