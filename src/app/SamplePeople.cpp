@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "app/SampleAppointments.h"
 #include "app/SampleMemos.h"
 #include "app/SamplePerson.h"
 #include "app/StoreOpening.h"
@@ -90,7 +91,8 @@ QString FillStore(StoreProvider& store, DeviceFiles& files) {
   ContactsFolder& contacts = *store.Contacts();
   if (contacts.Count(contacts.Items()) > 0) return {};
   const auto transaction = store.Begin();
-  if (!transaction || !SavePeople(contacts)) return store.LastError();
+  if (!transaction || !SavePeople(contacts) || !SaveSampleAppointments(*store.Calendar()))
+    return store.LastError();
   if (!PutSampleMemos(files)) return QStringLiteral("the sample memos cannot be written");
   return transaction->Commit() ? QString() : store.LastError();
 }

@@ -8,9 +8,9 @@
 
 namespace quill {
 
-// Puts the sample people into a store that holds nobody, all or none, with memos of some of them,
-// and leaves a home that holds somebody as it is. The provider is opened and closed again. Returns
-// why it could not, as text for the user, or an empty string.
+// Puts the sample people into a store that holds nobody, all or none, with appointments and memos
+// of some of them, and leaves a home that holds somebody as it is. The provider is opened and
+// closed again. Returns why it could not, as text for the user, or an empty string.
 QString FillWithSamplePeople(StoreProvider& store, DeviceFiles& files);
 
 }  // namespace quill

@@ -28,6 +28,10 @@ constexpr mode_t kNewFolderMode = S_IRWXU | S_IRWXG | S_IRWXO;  // less the user
 
 bool IsSameName(QStringView a, QStringView b) { return a.compare(b, Qt::CaseInsensitive) == 0; }
 
+bool IsBelowMyDocuments(const QStringList& parts) {
+  return !parts.isEmpty() && IsSameName(parts.first(), kMyDocuments);
+}
+
 // The entry of the folder with this name: as it is written, else the first without case, else the
 // one that would be made.
 QString FollowCase(const QString& folder, const QString& name) {
@@ -85,14 +89,13 @@ void SyncFolder(const QString& folder) {
 DesktopDeviceFiles::DesktopDeviceFiles(DeviceRoots roots) : m_roots(std::move(roots)) {}
 
 QString DesktopDeviceFiles::RootOf(const QStringList& parts) const {
-  const bool below = !parts.isEmpty() && IsSameName(parts.first(), kMyDocuments);
-  return below ? m_roots.MyDocuments : m_roots.Device;
+  return IsBelowMyDocuments(parts) ? m_roots.MyDocuments : m_roots.Device;
 }
 
 QString DesktopDeviceFiles::Locate(const QStringList& parts) const {
   QString file = RootOf(parts);
-  const qsizetype first = file == m_roots.Device ? 0 : 1;
-  for (qsizetype i = first; i < parts.size(); ++i) file = FollowCase(file, parts[i]);
+  for (const QString& part : parts.mid(IsBelowMyDocuments(parts) ? 1 : 0))
+    file = FollowCase(file, part);
   return IsOwn(file) ? QString() : file;
 }
 
