@@ -34,9 +34,10 @@ QString ContactLinkRestriction(const QString& fileAs) {
 
 std::vector<Oid> FindContactAppointments(const QString& fileAs) {
   const AppointmentCollection collection = AppointmentsOf(fileAs);
+  const int count = Count(collection);
   std::vector<Oid> found;
-  for (int position = 1; const Oid oid = AppointmentAt(collection, position); ++position) {
-    found.push_back(oid);
+  for (int position = 1; position <= count; ++position) {
+    found.push_back(AppointmentAt(collection, position));
   }
   return found;
 }
