@@ -57,6 +57,7 @@ void SetUnits(ContactsFolder& folder, Ruler& ruler) {
 void MeasureBuilding(ContactsFolder& folder, Ruler& ruler) {
   const std::vector<ListFilter> filters = ListFilters();
   std::vector<int> rows;
+  rows.reserve(filters.size());
   for (const ListFilter& filter : filters)
     rows.push_back(ruler.AddRow(QStringLiteral("build: ") + filter.Name, kBuildAim, Unit::Page));
   for (Rounds rounds = ruler.NewRounds(); rounds.Another();) {
