@@ -1,4 +1,4 @@
-// The words that made-up contacts are put together from.
+// The words that made-up contacts and their appointments are put together from.
 #pragma once
 
 #include <QStringView>
@@ -66,5 +66,8 @@ inline constexpr auto kCountries = std::to_array<QStringView>(
 inline constexpr auto kCategories = std::to_array<QStringView>(
     {u"Business", u"Club", u"Customers", u"Family", u"Friends", u"Holiday", u"Neighbours",
      u"Personal", u"School", u"Suppliers", u"동창", u"거래처"});
+
+inline constexpr auto kSubjects = std::to_array<QStringView>(
+    {u"Lunch", u"Meeting", u"Call back", u"Birthday present", u"계약", u"Tennis", u"회의"});
 
 }  // namespace quill::bench

@@ -16,7 +16,7 @@ QString Reason(const QString& lastError) {
 }  // namespace
 
 StoreGenerator::StoreGenerator(StoreProvider& store, unsigned seed, Progress progress)
-    : m_store(store), m_contacts(seed), m_progress(std::move(progress)) {}
+    : m_store(store), m_contacts(seed), m_appointments(seed), m_progress(std::move(progress)) {}
 
 QString StoreGenerator::Fill(int count) {
   ContactsFolder& folder = *m_store.Contacts();
@@ -34,9 +34,18 @@ bool StoreGenerator::AddSome(int count) {
   const auto transaction = m_store.Begin();
   if (!transaction) return false;
   for (int i = 0; i < count; ++i) {
-    if (m_store.Contacts()->SaveWhole(0, m_contacts.Next()) == 0) return false;
+    if (!AddOne()) return false;
   }
   return transaction->Commit();
+}
+
+bool StoreGenerator::AddOne() {
+  const ContactItem contact = m_contacts.Next();
+  if (m_store.Contacts()->SaveWhole(0, contact) == 0) return false;
+  const auto with = m_appointments.Next(contact.Record[ContactField::FileAs]);
+  return std::all_of(with.begin(), with.end(), [this](const AppointmentItem& appointment) {
+    return m_store.Calendar()->Save(appointment) != 0;
+  });
 }
 
 }  // namespace quill::bench

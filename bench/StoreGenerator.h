@@ -1,10 +1,12 @@
-// Fills an empty store with made-up contacts. The same seed and count give the same store.
+// Fills an empty store with made-up contacts and appointments with them. The same seed and count
+// give the same store.
 #pragma once
 
 #include <QString>
 
 #include <functional>
 
+#include "AppointmentGenerator.h"
 #include "ContactGenerator.h"
 #include "store/StoreProvider.h"
 
@@ -25,9 +27,11 @@ class StoreGenerator {
 
  private:
   bool AddSome(int count);
+  bool AddOne();
 
   StoreProvider& m_store;
   ContactGenerator m_contacts;
+  AppointmentGenerator m_appointments;
   Progress m_progress;
 };
 

@@ -22,7 +22,8 @@ class WrittenStore {
   explicit WrittenStore(StoreProvider& store)
       : m_store(store),
         m_before(Contacts().Count(Contacts().Items())),
-        m_made(static_cast<unsigned>(m_before)) {}
+        m_made(static_cast<unsigned>(m_before)),
+        m_dice(static_cast<unsigned>(m_before)) {}
 
   ContactsFolder& Contacts() { return *m_store.Contacts(); }
 
@@ -36,13 +37,13 @@ class WrittenStore {
   // One of the added contacts, any one; 0 when there is none.
   Oid TakeAdded() {
     if (m_added.empty()) return 0;
-    std::swap(m_added[m_made.Below(static_cast<unsigned>(m_added.size()))], m_added.back());
+    std::swap(m_added[m_dice.Below(static_cast<unsigned>(m_added.size()))], m_added.back());
     const Oid oid = m_added.back();
     m_added.pop_back();
     return oid;
   }
   // One of those from before.
-  Oid Any() { return static_cast<Oid>(1 + m_made.Below(static_cast<unsigned>(m_before))); }
+  Oid Any() { return static_cast<Oid>(1 + m_dice.Below(static_cast<unsigned>(m_before))); }
 
   bool AddSeveral(int count) {
     return InOneTransaction([this, count] {
@@ -72,6 +73,7 @@ class WrittenStore {
   StoreProvider& m_store;
   int m_before;
   ContactGenerator m_made;
+  Dice m_dice;
   std::vector<Oid> m_added;
 };
 

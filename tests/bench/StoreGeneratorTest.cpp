@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <set>
 
+#include "appointments/ContactLink.h"
+#include "bench/AppointmentGenerator.h"
+#include "store/AppointmentValidity.h"
 #include "store/CategoryText.h"
 #include "store_pim/TemporaryStore.h"
 
@@ -115,6 +118,36 @@ TEST_F(StoreGenerator, TwoCategoriesAreDifferentOnesWithABlankBetween) {
     EXPECT_NE(names[0], names[1]);
   }
   EXPECT_GT(seen, 0);
+}
+
+TEST_F(StoreGenerator, MakesOneAppointmentForTwentyContacts) {
+  ASSERT_EQ(Fill(kCount), QString());
+  CalendarFolder& calendar = *m_store.Calendar();
+  const int count = calendar.Count(calendar.Items());
+  EXPECT_NEAR(count, kCount / 20, 0.01 * kCount);
+  int recurring = 0;
+  for (int position = 1; position <= count; ++position) {
+    AppointmentItem item;
+    ASSERT_TRUE(calendar.Read(calendar.OidAt(calendar.Items(), position), item));
+    EXPECT_EQ(WhyNotSavable(item), std::nullopt);
+    recurring += item.Recurrence.has_value();
+    const QString fileAs = item.Subject.mid(1, item.Subject.lastIndexOf(u')') - 1);
+    EXPECT_TRUE(item.Subject.startsWith(ContactLinkPrefix(fileAs) + u' '));
+    EXPECT_FALSE(Contacts().FindByFileAs(fileAs).empty()) << fileAs.toStdString();
+  }
+  EXPECT_NEAR(recurring, count / 8, count / 16);
+}
+
+TEST_F(StoreGenerator, TheSameSeedGivesTheSameAppointments) {
+  AppointmentGenerator first(7);
+  AppointmentGenerator second(7);
+  std::size_t made = 0;
+  for (int i = 0; i < 300; ++i) {
+    const auto appointments = first.Next(QStringLiteral("Kim"));
+    EXPECT_EQ(appointments, second.Next(QStringLiteral("Kim")));
+    made += appointments.size();
+  }
+  EXPECT_GT(made, 0U);
 }
 
 TEST_F(StoreGenerator, TheSameSeedGivesTheSameStore) {
