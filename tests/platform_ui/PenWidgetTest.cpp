@@ -85,6 +85,58 @@ TEST_F(PenWidgetTest, TheSecondPressOfADoubleTapIsAPressLikeAnyOther) {
                                         QStringLiteral("press 3,4")}));
 }
 
+// A pen widget that wants to know of second presses.
+class DoubleLog : public PenLog {
+ public:
+  using PenLog::PenLog;
+
+ protected:
+  void PenDoublePress(QPoint) override { PenHover({2, 2}); }
+};
+
+struct SecondPressCase {
+  quint64 FirstTime;
+  quint64 SecondTime;
+  QPoint Second;  // the first is at 3,4
+  const char* Log;
+};
+
+class SecondPressTest : public PenWidgetTest,
+                        public testing::WithParamInterface<SecondPressCase> {};
+
+TEST_P(SecondPressTest, OfAPenIsOneThatComesSoonAndNearby) {
+  const SecondPressCase& press = GetParam();
+  DoubleLog* const log = new DoubleLog(m_screen, kFarAway - QPoint(100, 100));
+  const QPoint origin = log->pos();
+  m_input.TabletPress(origin + QPoint(3, 4), press.FirstTime);
+  m_input.TabletRelease(origin + QPoint(3, 4));
+  m_input.TabletPress(origin + press.Second, press.SecondTime);
+  EXPECT_EQ(log->Take().last(), QString::fromLatin1(press.Log));
+}
+
+INSTANTIATE_TEST_SUITE_P(Presses, SecondPressTest,
+                         testing::Values(SecondPressCase{1000, 1100, {5, 5}, "hover 2,2"},
+                                         SecondPressCase{1000, 3000, {3, 4}, "press 3,4"},
+                                         SecondPressCase{1000, 1100, {40, 4}, "press 40,4"},
+                                         SecondPressCase{0, 0, {3, 4}, "press 3,4"},
+                                         SecondPressCase{0, 100, {3, 4}, "press 3,4"}));
+
+TEST_F(PenWidgetTest, TheThirdPressOfAPenIsAFirstOneAgain) {
+  DoubleLog* const log = new DoubleLog(m_screen, kFarAway - QPoint(100, 100));
+  for (const quint64 time : {1000, 1100, 1200}) {
+    m_input.TabletPress(log->pos() + QPoint(3, 4), time);
+    m_input.TabletRelease(log->pos() + QPoint(3, 4));
+  }
+  EXPECT_EQ(log->Take().join(u';').toStdString(),
+            "press 3,4;release 3,4;hover 2,2;release 3,4;press 3,4;release 3,4");
+}
+
+TEST_F(PenWidgetTest, TheSecondPressOfAMouseIsTheWindowSystemsAffair) {
+  DoubleLog* const log = new DoubleLog(m_screen, kFarAway - QPoint(100, 100));
+  m_input.PressAgain(log->pos() + QPoint(3, 4));
+  EXPECT_EQ(log->Take(), QStringList{QStringLiteral("hover 2,2")});
+}
+
 TEST_F(PenWidgetTest, ATabletsReleaseWithoutAPressIsNothing) {
   m_input.TabletRelease(At(3, 4));
   EXPECT_TRUE(m_pen->Take().isEmpty());

@@ -75,17 +75,18 @@ void ScreenInput::Tap(QPoint at) {
   Release(at);
 }
 
-void ScreenInput::SendTablet(int type, QPoint at, Qt::MouseButton button,
-                             Qt::MouseButtons buttons) {
+void ScreenInput::SendTablet(int type, QPoint at, Qt::MouseButton button, Qt::MouseButtons buttons,
+                             quint64 timestamp) {
   const OuterPoint point = ToOuter(at);
   const qreal pressure = buttons == Qt::NoButton ? 0 : 0.5;
   QTabletEvent event(static_cast<QEvent::Type>(type), &Stylus(), point.At, point.Global, pressure,
                      0, 0, 0, 0, 0, Qt::NoModifier, button, buttons);
+  event.setTimestamp(timestamp);
   QCoreApplication::sendEvent(&Window(), &event);
 }
 
-void ScreenInput::TabletPress(QPoint at) {
-  SendTablet(QEvent::TabletPress, at, Qt::LeftButton, Qt::LeftButton);
+void ScreenInput::TabletPress(QPoint at, quint64 timestamp) {
+  SendTablet(QEvent::TabletPress, at, Qt::LeftButton, Qt::LeftButton, timestamp);
 }
 
 void ScreenInput::TabletMove(QPoint at) {

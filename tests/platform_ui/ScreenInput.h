@@ -31,7 +31,7 @@ class ScreenInput {
   void PressAgain(QPoint at);  // the second press of a double click
   void Tap(QPoint at);
 
-  void TabletPress(QPoint at);
+  void TabletPress(QPoint at, quint64 timestamp = 0);  // milliseconds, 0 when nobody knows
   void TabletMove(QPoint at);
   void TabletHover(QPoint at);
   void TabletRelease(QPoint at);
@@ -57,7 +57,8 @@ class ScreenInput {
   QTest::QTouchEventSequence& Touch();
   void SendTouch(int finger);
   void SendMouse(int type, QPoint at, Qt::MouseButton button, Qt::MouseButtons buttons);
-  void SendTablet(int type, QPoint at, Qt::MouseButton button, Qt::MouseButtons buttons);
+  void SendTablet(int type, QPoint at, Qt::MouseButton button, Qt::MouseButtons buttons,
+                  quint64 timestamp = 0);
   void SendKey(int type, int key, Qt::KeyboardModifiers modifiers, const QString& text);
 
   CScreen& m_screen;

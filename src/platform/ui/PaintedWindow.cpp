@@ -3,6 +3,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include <utility>
+
 #include "platform/ui/RowPainter.h"
 
 namespace quill {
@@ -29,14 +31,18 @@ int CPaintedWindow::CurrentRow() const {
 }
 
 void CPaintedWindow::SetRows(std::vector<PaintedRow> rows) {
-  const int currentBefore = CurrentRow();
+  const auto currentItem = [this] {
+    const int row = CurrentRow();
+    return std::pair(row, row < 0 ? 0 : m_rows[static_cast<std::size_t>(row)].Key);
+  };
+  const auto currentBefore = currentItem();
   const bool structureChanged = rows.size() != m_rows.size();
   m_rows = std::move(rows);
   update();
   if (!QAccessible::isActive()) return;
   TellAssistiveTechnology(structureChanged ? QAccessible::ObjectReorder
                                            : QAccessible::VisibleDataChanged);
-  if (CurrentRow() != currentBefore && CurrentRow() >= 0)
+  if (currentItem() != currentBefore && CurrentRow() >= 0)
     TellAssistiveTechnology(QAccessible::Focus);
 }
 

@@ -1,6 +1,8 @@
 #include "platform/ui/PenWidget.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
+#include <QStyleHints>
 #include <QTabletEvent>
 #include <QTouchEvent>
 
@@ -51,9 +53,21 @@ bool CPenWidget::event(QEvent* event) {
   }
 }
 
-void CPenWidget::Press(QPoint at) {
+// The window system counts the presses of a mouse; those of pens and fingers are counted here.
+CPenWidget::Count CPenWidget::CountPress(QPoint at, quint64 timestamp) {
+  const QStyleHints& hints = *QGuiApplication::styleHints();
+  const bool isSecond =
+      m_lastPress &&
+      timestamp - m_lastPress->Time < static_cast<quint64>(hints.mouseDoubleClickInterval()) &&
+      (at - m_lastPress->At).manhattanLength() < hints.touchDoubleTapDistance();
+  m_lastPress.reset();
+  if (!isSecond && timestamp > 0) m_lastPress = {at, timestamp};
+  return isSecond ? Count::Second : Count::First;
+}
+
+void CPenWidget::Press(QPoint at, Count count) {
   m_pressed = true;
-  PenPress(at);
+  count == Count::Second ? PenDoublePress(at) : PenPress(at);
 }
 
 void CPenWidget::Move(QPoint at) {
@@ -71,7 +85,7 @@ bool CPenWidget::HandleMouse(QEvent* event) {
   const bool presses =
       mouse->type() == QEvent::MouseButtonPress || mouse->type() == QEvent::MouseButtonDblClick;
   if (presses && isLeft) {
-    Press(at);
+    Press(at, mouse->type() == QEvent::MouseButtonDblClick ? Count::Second : Count::First);
   } else if (mouse->type() == QEvent::MouseButtonRelease && isLeft) {
     Release(at);
   } else if (mouse->type() == QEvent::MouseMove) {
@@ -85,7 +99,7 @@ bool CPenWidget::HandleTablet(QEvent* event) {
   const auto* pen = static_cast<QTabletEvent*>(event);
   const QPoint at = pen->position().toPoint();
   if (pen->type() == QEvent::TabletPress) {
-    Press(at);
+    Press(at, CountPress(at, pen->timestamp()));
   } else if (pen->type() == QEvent::TabletRelease) {
     Release(at);
   } else {
@@ -116,7 +130,7 @@ void CPenWidget::HandleFinger(const QEventPoint& finger) {
   const QPoint at = finger.position().toPoint();
   switch (finger.state()) {
     case QEventPoint::Pressed:
-      return Press(at);
+      return Press(at, CountPress(at, finger.timestamp()));
     case QEventPoint::Updated:
       return Move(at);
     case QEventPoint::Released:

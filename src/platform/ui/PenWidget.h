@@ -1,6 +1,7 @@
 // A widget that a pen works on. Mouse, tablet and touch events arrive as one press, moves and one
 // release, in logical pixels of the widget; the release comes to the widget of its press, and no
-// release without one. The second press of a double tap is a press like any other.
+// release without one. The second press of a double tap is a press like any other, unless the
+// widget wants to know.
 #pragma once
 
 #include <QEventPoint>
@@ -17,6 +18,7 @@ class CPenWidget : public QWidget {
 
  protected:
   virtual void PenPress(QPoint at);
+  virtual void PenDoublePress(QPoint at) { PenPress(at); }
   virtual void PenMove(QPoint at);
   virtual void PenRelease(QPoint at);
   // The system took the touch away: by default a release outside, which acts on nothing.
@@ -31,12 +33,20 @@ class CPenWidget : public QWidget {
   bool HandleTablet(QEvent* event);
   bool HandleTouch(QEvent* event);
   void HandleFinger(const QEventPoint& finger);
-  void Press(QPoint at);
+  enum class Count { First, Second };
+  Count CountPress(QPoint at, quint64 timestamp);
+  void Press(QPoint at, Count count);
   void Move(QPoint at);
   void Release(QPoint at);
 
+  struct LastPress {
+    QPoint At;
+    quint64 Time;  // milliseconds
+  };
+
   bool m_pressed = false;
-  std::optional<int> m_finger;  // the touching finger that is the pen
+  std::optional<LastPress> m_lastPress;  // of a pen or a finger
+  std::optional<int> m_finger;           // the touching finger that is the pen
 };
 
 }  // namespace quill
