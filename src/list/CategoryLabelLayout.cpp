@@ -1,0 +1,27 @@
+#include "list/CategoryLabelLayout.h"
+
+#include "list/TapBands.h"
+
+namespace quill {
+
+namespace {
+
+constexpr QRect kTextArea{152, 2, 73, 20};  // in the view
+constexpr int kLongName = 9;                // UTF-16 units
+constexpr QStringView kSeveral = u"Multi";
+
+}  // namespace
+
+PaintedRow LayOutCategoryLabel(const ListState& list) {
+  const QPoint origin = kCategoryLabelArea.topLeft();
+  const QString label = list.CategoryCount == 1 ? list.CategoryName : kSeveral.toString();
+  const bool isLong = list.CategoryName.size() >= kLongName;
+  return {.Rectangle = CategoryTapArea().translated(-origin),
+          .SpokenName = QStringLiteral("Category: ") + label,
+          .Role = PaintedRole::Button,
+          .Items = {{.Rectangle = kTextArea.translated(-origin),
+                     .Text = label,
+                     .Alignment = isLong ? TextAlign::Left : TextAlign::Right}}};
+}
+
+}  // namespace quill
