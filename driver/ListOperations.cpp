@@ -44,19 +44,11 @@ QJsonValue ScrollJson() {
                      {QStringLiteral("value"), bar->value()}};
 }
 
-// The current row and the selection are what the list tells assistive technology.
-void AddSelection(QJsonObject& list) {
-  int current = -1;
+void AddSelection(QJsonObject& object, const ListState& list) {
   QJsonArray selected;
-  if (const CContactListCtrl* control = FindList()) {
-    const std::vector<PaintedRow>& rows = control->Rows();
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-      if (rows[i].State.testFlag(PaintedStateFlag::Current)) current = static_cast<int>(i);
-      if (rows[i].State.testFlag(PaintedStateFlag::Selected)) selected.append(rows[i].Key);
-    }
-  }
-  list.insert(u"current", current);
-  list.insert(u"selected", selected);
+  for (const int key : list.SelectedKeys) selected.append(key);
+  object.insert(u"current", list.CurrentRow);
+  object.insert(u"selected", selected);
 }
 
 void AddFilter(QJsonObject& object, const ListState& list) {
@@ -87,7 +79,7 @@ Answer List(const QJsonObject&, OperationContext&) {
   QJsonObject list;
   AddFilter(list, g_list);
   AddPage(list, g_list);
-  AddSelection(list);
+  AddSelection(list, g_list);
   list.insert(u"memos", QJsonArray());  // the list has no memos yet
   list.insert(u"scroll", ScrollJson());
   return Result(u"list", list);

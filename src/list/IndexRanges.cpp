@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "list/Selection.h"
+
 namespace quill {
 
 namespace {
@@ -33,6 +35,7 @@ void ChooseIndexButton(ListState& list, int button) {
   list.Filter = FilterKind::Range;
   list.SubFilter = FilterSubKind::IndexRange;
   list.Top = 0;
+  DropSelection(list);
 }
 
 }  // namespace quill

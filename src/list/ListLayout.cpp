@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "list/RowIcons.h"
+#include "list/Selection.h"
+
 namespace quill {
 
 namespace {
@@ -11,6 +14,12 @@ constexpr int kFirstColumn = 5;
 constexpr int kFirstColumnWidth = 75;
 constexpr int kSecondColumn = 85;
 constexpr int kSecondColumnWidth = 110;
+constexpr int kWholeColumnWidth = kListWidth - 2 * kFirstColumn;  // by memo there is only one
+constexpr int kIconLeft = 208;
+constexpr int kIconTop = 2;  // below the row's top
+constexpr int kIconSize = 14;
+
+constexpr Rgb kIconColor = 0x2F5568;
 
 constexpr QStringView kNoCompany = u"<None>";
 constexpr QStringView kEmptyHint = u"Add people: quill import FILE.vcf";
@@ -25,6 +34,7 @@ PaintedItem Separator(int row) {
   return {.Rectangle = {0, row * kListRowHeight, kListWidth, 1}, .Fill = kListSeparator};
 }
 
+// The columns of a row. Second is empty where there is only one column.
 struct RowTexts {
   QString First;
   QString Second;
@@ -40,19 +50,43 @@ QString SpokenName(const RowTexts& texts) {
   return texts.First + QStringLiteral(", ") + texts.Second;
 }
 
-PaintedRow LayOutRow(const RowTexts& texts, const ListRow& row, bool isSelected,
-                     const TextWidth& width) {
-  const int n = row.Position;
-  PaintedRow painted{.Rectangle = RowRectangle(n), .Key = row.Oid, .SpokenName = SpokenName(texts)};
+// The row without what it shows.
+PaintedRow LayOutRow(const ListState& list, int n, const QString& spokenName) {
+  PaintedRow painted{
+      .Rectangle = RowRectangle(n), .Key = KeyOfRow(list, n), .SpokenName = spokenName};
   painted.State = PaintedStateFlag::Selectable;
-  if (isSelected) {
+  painted.State.setFlag(PaintedStateFlag::Current, n == list.CurrentRow);
+  if (IsKeySelected(list, painted.Key)) {
     painted.State |= PaintedStateFlag::Selected;
     painted.Items.push_back({.Rectangle = RowRectangle(n), .Fill = kListSelection});
   }
+  return painted;
+}
+
+PaintedItem Icon(int n, const resources::Picture& picture) {
+  return {.Rectangle = {kIconLeft, n * kListRowHeight + kIconTop, kIconSize, kIconSize},
+          .Color = kIconColor,
+          .Picture = &picture};
+}
+
+PaintedRow LayOutContact(const ListState& list, int n, const TextWidth& width) {
+  const ListRow& row = list.Rows[static_cast<std::size_t>(n)];
+  const RowTexts texts = TextsOf(list, row);
+  PaintedRow painted = LayOutRow(list, n, SpokenName(texts));
   painted.Items.push_back({.Rectangle = ColumnRectangle(n, kFirstColumn, kFirstColumnWidth),
                            .Text = ShortenText(texts.First, kListNameWidth, width)});
   painted.Items.push_back(
       {.Rectangle = ColumnRectangle(n, kSecondColumn, kSecondColumnWidth), .Text = texts.Second});
+  if (const resources::Picture* const picture = RowPicture(row.Icon))
+    painted.Items.push_back(Icon(n, *picture));
+  painted.Items.push_back(Separator(n));
+  return painted;
+}
+
+PaintedRow LayOutMemo(const ListState& list, int n, const QString& name) {
+  PaintedRow painted = LayOutRow(list, n, name);
+  painted.Items.push_back(
+      {.Rectangle = ColumnRectangle(n, kFirstColumn, kWholeColumnWidth), .Text = name});
   painted.Items.push_back(Separator(n));
   return painted;
 }
@@ -72,24 +106,23 @@ PaintedRow LayOutHint() {
 }
 
 bool IsEmptyStore(const ListState& list) {
-  return list.Filter == FilterKind::None && list.Total == 0;
+  return list.Mode != ViewMode::ByMemo && list.Filter == FilterKind::None && list.Total == 0;
 }
 
 }  // namespace
 
 int ListRowAt(int y) { return y < 0 ? -1 : y / kListRowHeight; }
 
-std::vector<PaintedRow> LayOutList(const ListState& list, std::span<const Oid> selected,
-                                   int currentRow, const TextWidth& width) {
+std::vector<PaintedRow> LayOutList(const ListState& list, const QStringList& memoNames,
+                                   const TextWidth& width) {
   if (IsEmptyStore(list)) return {LayOutHint()};
   std::vector<PaintedRow> rows;
-  for (int n = 0; n < list.RowsShown; ++n) {
-    const ListRow& row = list.Rows[n];
-    const bool isSelected = std::ranges::find(selected, row.Oid) != selected.end();
-    rows.push_back(LayOutRow(TextsOf(list, row), row, isSelected, width));
-    if (n == currentRow) rows.back().State |= PaintedStateFlag::Current;
-  }
-  if (list.RowsShown < list.RowsPerPage) rows.push_back(LayOutEnd(list.RowsShown));
+  const int count = std::min(SelectableRows(list), list.RowsPerPage);
+  for (int n = 0; n < count; ++n)
+    rows.push_back(list.Mode == ViewMode::ByMemo
+                       ? LayOutMemo(list, n, memoNames.value(list.Top + n))
+                       : LayOutContact(list, n, width));
+  if (count < list.RowsPerPage) rows.push_back(LayOutEnd(count));
   return rows;
 }
 

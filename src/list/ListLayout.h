@@ -1,7 +1,8 @@
 // The list's page as painted rows, in logical pixels of the list control.
 #pragma once
 
-#include <span>
+#include <QStringList>
+
 #include <vector>
 
 #include "list/ListState.h"
@@ -22,10 +23,10 @@ inline constexpr Rgb kListHintColor = 0x666666;
 // The row of the page at this y, 0-based, whether or not it shows anything; -1 above the list.
 int ListRowAt(int y);
 
-// One painted row for each row shown, its key the contact's Oid. A page that is not full ends with
-// one more separator line, and an empty store's page holds one line that says how to fill it; both
-// have key 0 and cannot be selected. CurrentRow is a row of the page, -1 for none.
-std::vector<PaintedRow> LayOutList(const ListState& list, std::span<const Oid> selected,
-                                   int currentRow, const TextWidth& width);
+// One painted row for each row shown, its key the contact's Oid, by memo the memo's position among
+// memoNames. A page that is not full ends with one more separator line, and an empty store's page
+// holds one line that says how to fill it; both have key 0 and cannot be selected.
+std::vector<PaintedRow> LayOutList(const ListState& list, const QStringList& memoNames,
+                                   const TextWidth& width);
 
 }  // namespace quill

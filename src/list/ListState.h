@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <array>
+#include <vector>
 
 #include "store/ContactCollection.h"
 #include "store/ContactRecord.h"
@@ -66,6 +67,9 @@ struct ListState {
   QString SearchEntry;      // what stands in the search box, searched for or not
   bool RebuildDue = false;  // another program's change is not on the page yet
   std::array<ListRow, kRowsWithoutIndex> Rows;
+
+  int CurrentRow = -1;            // on the page, 0-based; the row that keys act on
+  std::vector<int> SelectedKeys;  // Oids, by memo positions in the memo list; in selection order
 };
 extern ListState g_list;
 

@@ -5,6 +5,7 @@
 #include "list/CategoryFilter.h"
 #include "list/RestrictionText.h"
 #include "list/RowContent.h"
+#include "list/Selection.h"
 #include "store/ContactStore.h"
 
 namespace quill {
@@ -50,6 +51,7 @@ void BuildPage(ListState& list) {
   TakeCollection(list);
   list.Top = std::clamp(list.Top, 0, LargestTop(list));
   RefillPage(list);
+  KeepSelection(list);
 }
 
 void RefillPage(ListState& list) {

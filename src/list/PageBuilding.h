@@ -9,7 +9,7 @@
 namespace quill {
 
 // Asks the store anew for what the filter lets through, moves Top into the scroll range and fills
-// the page from there.
+// the page from there. The selection stays, but for contacts that are gone.
 void BuildPage(ListState& list);
 
 // Fills the page from Top again out of the collection that is already held; Total stays.

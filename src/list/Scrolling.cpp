@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "list/PageBuilding.h"
+#include "list/Selection.h"
 
 namespace quill {
 
@@ -40,23 +41,24 @@ std::optional<int> NextTop(const ListState& list, ScrollRequest request, int thu
   return std::nullopt;
 }
 
-}  // namespace
-
-bool ScrollList(ListState& list, ScrollRequest request, int thumb) {
-  const std::optional<int> top = NextTop(list, request, thumb);
-  if (!top) return false;
-  list.Top = *top;
+void Refill(ListState& list, ScrollRequest request) {
   if (request == ScrollRequest::LineUp)
     RefillLineUp(list);
   else if (request == ScrollRequest::LineDown)
     RefillLineDown(list);
   else
     RefillPage(list);
-  return true;
 }
 
-int CurrentRowAfterScroll(const ListState& list, int row) {
-  return std::min(row, list.RowsShown - 1);
+}  // namespace
+
+bool ScrollList(ListState& list, ScrollRequest request, int thumb) {
+  const std::optional<int> top = NextTop(list, request, thumb);
+  if (!top) return false;
+  list.Top = *top;
+  if (list.Mode != ViewMode::ByMemo) Refill(list, request);
+  SelectAfterScroll(list);
+  return true;
 }
 
 }  // namespace quill

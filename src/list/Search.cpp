@@ -1,6 +1,7 @@
 #include "list/Search.h"
 
 #include "list/CategoryFilter.h"
+#include "list/Selection.h"
 
 namespace quill {
 
@@ -12,6 +13,7 @@ void SearchList(ListState& list, const QString& text) {
   list.CategoryCount = 1;
   list.IndexButton = 0;
   list.Top = 0;
+  DropSelection(list);
 }
 
 }  // namespace quill

@@ -1,6 +1,7 @@
 #include "list/ViewModes.h"
 
 #include "list/CategoryFilter.h"
+#include "list/Selection.h"
 
 namespace quill {
 
@@ -11,6 +12,7 @@ void SwitchViewMode(ListState& list, ViewMode mode) {
   list.CategoryName = kShowAllCategories.toString();
   list.CategoryCount = 1;
   list.Top = 0;
+  DropSelection(list);
   list.IndexButton = 0;
 }
 

@@ -3,6 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "list/RowIcons.h"
+
 namespace quill {
 namespace {
 
@@ -24,9 +28,24 @@ ListState Page(int rows) {
   return list;
 }
 
-std::vector<PaintedRow> LayOut(const ListState& list, std::vector<Oid> selected = {},
-                               int currentRow = -1) {
-  return LayOutList(list, selected, currentRow, TenEach);
+std::vector<PaintedRow> LayOut(ListState list, std::vector<int> selected = {}) {
+  list.SelectedKeys = std::move(selected);
+  return LayOutList(list, {}, TenEach);
+}
+
+QStringList MemoNames(int count) {
+  QStringList names;
+  for (int n = 0; n < count; ++n) names.append(QStringLiteral("Memo %1").arg(n));
+  return names;
+}
+
+// A list of this many memos from the top one.
+ListState MemoPage(int total, int top = 0) {
+  ListState list;
+  list.Mode = ViewMode::ByMemo;
+  list.Total = total;
+  list.Top = top;
+  return list;
 }
 
 std::vector<PaintedItem> TextsOf(const PaintedRow& row) {
@@ -129,7 +148,9 @@ TEST(ListLayout, SelectedRowsAreFilledBeforeTheirTextsAndSaySo) {
 }
 
 TEST(ListLayout, TheCurrentRowSaysSo) {
-  const std::vector<PaintedRow> rows = LayOut(Page(14), {}, 2);
+  ListState list = Page(14);
+  list.CurrentRow = 2;
+  const std::vector<PaintedRow> rows = LayOut(list);
   for (int n = 0; n < 14; ++n)
     EXPECT_EQ(rows[n].State.testFlag(PaintedStateFlag::Current), n == 2) << n;
 }
@@ -162,6 +183,56 @@ TEST(ListLayout, AFilterThatFindsNobodyShowsNoSuchLine) {
   ListState list;
   list.Filter = FilterKind::Range;
   const std::vector<PaintedRow> rows = LayOut(list);
+  ASSERT_EQ(rows.size(), 1U);
+  EXPECT_EQ(rows[0].Role, PaintedRole::Separator);
+}
+
+TEST(ListLayout, TheIconStandsAtTheRowsRightEndTwoPixelsBelowItsTop) {
+  ListState list = Page(3);
+  list.Rows[2].Icon = RowIconKind::BusinessFax;
+  const std::vector<PaintedRow> rows = LayOut(list);
+  const auto isPicture = [](const PaintedItem& item) { return item.Picture != nullptr; };
+  EXPECT_TRUE(std::ranges::none_of(rows[1].Items, isPicture));
+  const auto icon = std::ranges::find_if(rows[2].Items, isPicture);
+  ASSERT_NE(icon, rows[2].Items.end());
+  EXPECT_EQ(icon->Picture, RowPicture(RowIconKind::BusinessFax));
+  EXPECT_EQ(icon->Rectangle, QRect(208, 34, 14, 14));
+  EXPECT_NE(icon->Color, kListBackground);
+}
+
+TEST(ListLayout, ByMemoARowIsTheMemosNameOverTheWholeWidth) {
+  ListState list = MemoPage(40, 20);
+  list.Rows[0].Icon = RowIconKind::Mobile;  // of the contacts shown before
+  const std::vector<PaintedRow> rows = LayOutList(list, MemoNames(40), TenEach);
+  ASSERT_EQ(rows.size(), 14U);
+  EXPECT_EQ(rows[0].Key, 20);
+  EXPECT_EQ(rows[13].SpokenName, QStringLiteral("Memo 33"));
+  const std::vector<PaintedItem> texts = TextsOf(rows[1]);
+  ASSERT_EQ(texts.size(), 1U);
+  EXPECT_EQ(texts[0].Text, QStringLiteral("Memo 21"));
+  EXPECT_EQ(texts[0].Rectangle, QRect(5, 16, 215, 16));
+  for (const PaintedRow& row : rows)
+    for (const PaintedItem& item : row.Items) EXPECT_EQ(item.Picture, nullptr);
+  EXPECT_EQ(FillsOf(rows[1], QRect(0, 16, 225, 1)), std::vector<Rgb>{0x999999});
+}
+
+TEST(ListLayout, ByMemoTheListEndsAfterTheLastMemo) {
+  const std::vector<PaintedRow> rows = LayOutList(MemoPage(22, 20), MemoNames(22), TenEach);
+  ASSERT_EQ(rows.size(), 3U);
+  EXPECT_EQ(rows[1].Key, 21);
+  EXPECT_EQ(rows[2].Role, PaintedRole::Separator);
+}
+
+TEST(ListLayout, ByMemoASelectedPositionIsFilled) {
+  ListState list = MemoPage(40, 20);
+  list.SelectedKeys = {22};
+  const std::vector<PaintedRow> rows = LayOutList(list, MemoNames(40), TenEach);
+  for (int n = 0; n < 14; ++n)
+    EXPECT_EQ(rows[n].State.testFlag(PaintedStateFlag::Selected), n == 2) << n;
+}
+
+TEST(ListLayout, WithoutMemosNobodyIsToldToAddPeople) {
+  const std::vector<PaintedRow> rows = LayOut(MemoPage(0));
   ASSERT_EQ(rows.size(), 1U);
   EXPECT_EQ(rows[0].Role, PaintedRole::Separator);
 }

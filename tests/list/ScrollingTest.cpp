@@ -3,6 +3,7 @@
 #include "ListTest.h"
 #include "list/PageBuilding.h"
 #include "list/Search.h"
+#include "list/Selection.h"
 
 namespace quill {
 namespace {
@@ -128,26 +129,38 @@ TEST_F(Scrolling, AFilteredListScrollsWithinItsFilter) {
   EXPECT_EQ(ShownNames().last(), NumberedName(99));
 }
 
-TEST(CurrentRow, StaysWhereItIsWhileTheRowIsShown) {
-  ListState list;
-  list.RowsShown = 14;
-  EXPECT_EQ(CurrentRowAfterScroll(list, 0), 0);
-  EXPECT_EQ(CurrentRowAfterScroll(list, 13), 13);
+TEST_F(Scrolling, TheCurrentRowStaysAndItsContactBecomesTheOnlySelectedOne) {
+  AddNumbered(60);
+  BuildPage(m_list);
+  SelectRun(m_list, 2, 5);
+  for (const auto request : {kPageDown, kLineDown, kLineUp, kThumb, kPageUp}) {
+    ASSERT_TRUE(ScrollList(m_list, request, 30));
+    EXPECT_EQ(m_list.CurrentRow, 5);
+    EXPECT_EQ(m_list.SelectedKeys, std::vector<int>{m_list.Rows[5].Oid});
+  }
 }
 
-TEST(CurrentRow, GoesToTheLastRowOfAPageThatHasBecomeShorter) {
-  ListState list;
-  list.RowsShown = 13;
-  EXPECT_EQ(CurrentRowAfterScroll(list, 13), 12);
+TEST_F(Scrolling, AnythingLeftSelectedStaysWhenThereIsNothingToScroll) {
+  AddNumbered(5);
+  BuildPage(m_list);
+  SelectRun(m_list, 1, 2);
+  const std::vector<int> keys = m_list.SelectedKeys;
+  EXPECT_FALSE(ScrollList(m_list, kLineDown));
+  EXPECT_EQ(m_list.SelectedKeys, keys);
 }
 
-TEST(CurrentRow, NoCurrentRowStaysNone) {
-  ListState list;
-  list.RowsShown = 14;
-  EXPECT_EQ(CurrentRowAfterScroll(list, -1), -1);
+TEST_F(Scrolling, ByMemoTheTopMovesAndNoContactIsRead) {
+  AddNumbered(60);
+  BuildPage(m_list);
+  m_list.Mode = ViewMode::ByMemo;
+  m_list.CurrentRow = 3;
+  m_store.Counts() = {};
+  for (const auto request : {kPageDown, kLineDown, kLineUp, kThumb, kPageUp})
+    ASSERT_TRUE(ScrollList(m_list, request, 30));
+  EXPECT_EQ(m_store.Counts(), test::StoreCounts());
+  EXPECT_EQ(m_list.Top, 17);
+  EXPECT_EQ(m_list.SelectedKeys, std::vector<int>{20});
 }
-
-TEST(CurrentRow, AnEmptyPageHasNone) { EXPECT_EQ(CurrentRowAfterScroll(ListState(), 3), -1); }
 
 }  // namespace
 }  // namespace quill

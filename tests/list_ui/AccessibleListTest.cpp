@@ -26,6 +26,37 @@ TEST_F(AccessibleListTest, TheListIsAListOfItsContacts) {
   EXPECT_EQ(row->rect().topLeft(), List().mapToGlobal(QPoint(0, 0)));
 }
 
+TEST_F(AccessibleListTest, ARowSaysItsSecondColumnAndThatItIsSelected) {
+  ContactRecord record;
+  record[ContactField::FileAs] = QStringLiteral("Clark");
+  record[ContactField::MobileTelephoneNumber] = QStringLiteral("010-1");
+  ASSERT_NE(m_store.Contacts()->Save(0, record, {}), 0);
+  View().Rebuild();
+  m_input.Press(OnRow(1));
+  const AccessibleChild row(List(), u"Clark, 010-1");
+  EXPECT_TRUE(row.State().selected);
+  EXPECT_TRUE(row.State().focused);
+}
+
+TEST_F(AccessibleListTest, TheMenuActionSelectsTheRowAndAsksForItsPopup) {
+  QList<int> asked;
+  View().PopupAsked = [&asked](int row, QPoint) { asked.append(row); };
+  AccessibleChild(List(), u"Hill").ShowMenu();
+  EXPECT_EQ(asked, QList<int>{1});
+  EXPECT_EQ(g_list.SelectedKeys, std::vector<int>{g_list.Rows[1].Oid});
+  List().ShowRowMenu(2);  // the line below the last contact
+  EXPECT_EQ(asked.size(), 1);
+}
+
+TEST_F(AccessibleListTest, TheViewIsReadOutFromTopToBottom) {
+  auto* const view = QAccessible::queryAccessibleInterface(&View());
+  QStringList names;
+  for (int i = 0; i < view->childCount(); ++i)
+    if (!view->child(i)->text(QAccessible::Name).isEmpty())
+      names.append(view->child(i)->text(QAccessible::Name));
+  EXPECT_EQ(names.join(u';').toStdString(), "Search for;Search;Category;Index;Contacts");
+}
+
 TEST_F(AccessibleListTest, TheIndexStripIsABarOfButtons) {
   auto* const strip = QAccessible::queryAccessibleInterface(&IndexStrip());
   EXPECT_EQ(strip->role(), QAccessible::ToolBar);

@@ -5,6 +5,7 @@
 #include <QWheelEvent>
 
 #include "ViewFixture.h"
+#include "list/Selection.h"
 
 namespace quill {
 namespace {
@@ -60,22 +61,31 @@ INSTANTIATE_TEST_SUITE_P(
                     ActionCase{QAbstractSlider::SliderToMaximum, kStart},
                     ActionCase{QAbstractSlider::SliderNoAction, kStart}));
 
-class ListKeyTest : public ContactListCtrlTest,
-                    public testing::WithParamInterface<std::pair<Qt::Key, int>> {};
+struct KeyCase {
+  Qt::Key Key;
+  int Row;  // the current one before
+  int Top;  // afterwards
+  int RowAfterwards;
+};
 
-TEST_P(ListKeyTest, MovesThePage) {
+class ListKeyTest : public ContactListCtrlTest, public testing::WithParamInterface<KeyCase> {};
+
+TEST_P(ListKeyTest, MovesTheCurrentRowAndThePage) {
   GoTo(kStart);
-  m_input.Key(GetParam().first);
-  ExpectTop(GetParam().second);
+  if (GetParam().Row >= 0) SelectRow(g_list, GetParam().Row);
+  m_input.Key(GetParam().Key);
+  ExpectTop(GetParam().Top);
+  EXPECT_EQ(List().CurrentRow(), GetParam().RowAfterwards) << "as it is shown";
 }
 
-INSTANTIATE_TEST_SUITE_P(Keys, ListKeyTest,
-                         testing::Values(std::pair{Qt::Key_Up, kStart - 1},
-                                         std::pair{Qt::Key_Down, kStart + 1},
-                                         std::pair{Qt::Key_PageUp, kStart - 13},
-                                         std::pair{Qt::Key_PageDown, kStart + 13},
-                                         std::pair{Qt::Key_Home, 0}, std::pair{Qt::Key_End, kLast},
-                                         std::pair{Qt::Key_X, kStart}));
+INSTANTIATE_TEST_SUITE_P(
+    Keys, ListKeyTest,
+    testing::Values(KeyCase{Qt::Key_Up, 3, kStart, 2}, KeyCase{Qt::Key_Up, 0, kStart - 1, 0},
+                    KeyCase{Qt::Key_Down, -1, kStart, 0}, KeyCase{Qt::Key_Down, 13, kStart + 1, 13},
+                    KeyCase{Qt::Key_PageUp, 3, kStart - 13, 3},
+                    KeyCase{Qt::Key_PageDown, 3, kStart + 13, 3},
+                    KeyCase{Qt::Key_PageDown, -1, kStart + 13, -1}, KeyCase{Qt::Key_Home, 3, 0, 0},
+                    KeyCase{Qt::Key_End, 3, kLast, 12}, KeyCase{Qt::Key_X, -1, kStart, -1}));
 
 class ListWheelTest : public ContactListCtrlTest,
                       public testing::WithParamInterface<std::pair<int, int>> {};

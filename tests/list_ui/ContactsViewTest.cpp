@@ -3,6 +3,7 @@
 #include <QPushButton>
 
 #include "ViewFixture.h"
+#include "list/Selection.h"
 #include "support/ScriptedPrompt.h"
 
 namespace quill {
@@ -29,6 +30,36 @@ INSTANTIATE_TEST_SUITE_P(Controls, ControlPlaceTest,
                                          PlaceCase{1035, {100, 2, 48, 21}},
                                          PlaceCase{1036, {0, 45, 225, 225}},
                                          PlaceCase{1024, {225, 45, 15, 222}}));
+
+TEST_F(ContactsViewTest, WithoutTheIndexStripTheListBeginsInItsPlace) {
+  g_list.RowsPerPage = kRowsWithoutIndex;
+  m_frame = std::make_unique<test::ViewFrame>(*m_screen);
+  EXPECT_FALSE(IndexStrip().isVisible());
+  EXPECT_EQ(List().geometry(), QRect(0, 25, 225, 245));
+  EXPECT_EQ(ScrollBar().geometry(), QRect(225, 25, 15, 242));
+}
+
+TEST_F(ContactsViewTest, TheIndexStripStandsBetweenTitleAndList) {
+  EXPECT_EQ(IndexStrip().geometry(), QRect(0, 26, 240, 19));
+  EXPECT_TRUE(IndexStrip().isVisible());
+}
+
+TEST_F(ContactsViewTest, ASearchTakesTheSelectionAway) {
+  Open({QStringLiteral("Kim"), QStringLiteral("Lee")});
+  SelectRow(g_list, 1);
+  SearchEdit().setText(QStringLiteral("K"));
+  View().Search();
+  EXPECT_TRUE(g_list.SelectedKeys.empty());
+  EXPECT_FALSE(List().Rows()[0].State.testFlag(PaintedStateFlag::Selected));
+}
+
+TEST_F(ContactsViewTest, ARebuildKeepsTheSelectionAndShowsIt) {
+  Open({QStringLiteral("Kim"), QStringLiteral("Lee")});
+  SelectRow(g_list, 1);
+  Add(QStringLiteral("Adams"));
+  View().Rebuild();
+  EXPECT_TRUE(List().Rows()[2].State.testFlag(PaintedStateFlag::Selected));
+}
 
 TEST_F(ContactsViewTest, TheFirstUpdateOpensTheSessionAndShowsTheFirstPage) {
   ASSERT_EQ(OpenSession(m_store), StartupCode::Opened);

@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "list/ListState.h"
+#include "list/ui/CategoryLabel.h"
 #include "list/ui/ContactListCtrl.h"
 #include "list/ui/ContactsView.h"
 #include "list/ui/IndexStrip.h"
@@ -77,9 +78,15 @@ class ViewFixture : public ScreenFixture {
   CContactListCtrl& List() const {
     return Control<CContactListCtrl>(ContactsViewIds::kListControl);
   }
+  CCategoryLabel& CategoryLabel() { return *View().findChild<CCategoryLabel*>(); }
   CIndexStrip& IndexStrip() { return *View().findChild<CIndexStrip*>(); }
   QPoint OnScreen(const QWidget& control) const {
     return control.mapTo(m_screen, control.rect().center());
+  }
+
+  // The middle of a row of the list, or this x of it, in pixels of the screen.
+  QPoint OnRow(int row, int x = 50) const {
+    return List().mapTo(m_screen, QPoint(x, 16 * row + 8));
   }
 
   static QStringList ShownNames() {

@@ -3,8 +3,12 @@
 #include <QKeyEvent>
 #include <QWheelEvent>
 
+#include <algorithm>
+#include <array>
+
 #include "list/ListLayout.h"
-#include "list/PageBuilding.h"
+#include "list/Selection.h"
+#include "platform/Services.h"
 #include "platform/ui/RowPainter.h"
 #include "store/ContactStore.h"
 
@@ -14,6 +18,30 @@ namespace {
 
 constexpr int kWheelLine = 40;  // eighths of a degree: three lines for a notch of 15 degrees
 
+struct MoveKey {
+  int Key;
+  KeyMove Move;
+};
+constexpr std::array kMoveKeys = {
+    MoveKey{Qt::Key_Up, KeyMove::LineUp},     MoveKey{Qt::Key_Down, KeyMove::LineDown},
+    MoveKey{Qt::Key_PageUp, KeyMove::PageUp}, MoveKey{Qt::Key_PageDown, KeyMove::PageDown},
+    MoveKey{Qt::Key_Home, KeyMove::First},    MoveKey{Qt::Key_End, KeyMove::Last},
+};
+
+constexpr int kCardMiddle = 10;  // below the row's top: where the card of a key begins
+
+bool IsMenuKey(const QKeyEvent& event) {
+  const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
+  return event.key() == Qt::Key_Menu || (shift && event.key() == Qt::Key_F10);
+}
+
+bool IsOpenKey(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+// Where the popup of a key stands: below the row.
+QPoint PopupPlace(int row) { return {kListWidth / 2, (row + 1) * kListRowHeight}; }
+
 }  // namespace
 
 CContactListCtrl::CContactListCtrl(QWidget* view) : CPaintedWindow(view, QAccessible::List) {
@@ -22,32 +50,84 @@ CContactListCtrl::CContactListCtrl(QWidget* view) : CPaintedWindow(view, QAccess
   SetBackground(kListBackground);
 }
 
-void CContactListCtrl::ShowPage() {
-  if (!g_store.Provider) return SetRows({});  // without a store nobody can be added
-  SetRows(LayOutList(g_list, {}, -1, NormalTextWidth()));
+CContactListCtrl::~CContactListCtrl() {
+  if (g_services.Timers) g_services.Timers->KillAll(*this);
 }
 
-void CContactListCtrl::Ask(ScrollRequest request, int thumb) {
-  if (ScrollAsked) ScrollAsked(request, thumb);
+void CContactListCtrl::ShowPage() {
+  if (!g_store.Provider) return SetRows({});  // without a store nobody can be added
+  SetRows(LayOutList(g_list, {}, NormalTextWidth()));
+}
+
+void CContactListCtrl::PenPress(QPoint at) {
+  setFocus(Qt::MouseFocusReason);
+  CarryOut(m_taps.Press(g_list, at));
+}
+
+void CContactListCtrl::PenDoublePress(QPoint at) { CarryOut(m_taps.DoublePress(g_list, at)); }
+
+void CContactListCtrl::PenMove(QPoint at) { CarryOut(m_taps.Move(g_list, at, height())); }
+
+void CContactListCtrl::PenRelease(QPoint at) { CarryOut(m_taps.Release(g_list, at)); }
+
+void CContactListCtrl::PenCancel() { CarryOut(m_taps.Cancel()); }
+
+void CContactListCtrl::OnTimer(int id) {
+  if (id == kListHoldTimer) CarryOut(m_taps.Hold(g_list));
+}
+
+void CContactListCtrl::CarryOut(const TapIntention& intention) {
+  if (intention.Timer == TapTimer::Start)
+    g_services.Timers->Set(*this, kListHoldTimer, kListHoldMilliseconds);
+  if (intention.Timer == TapTimer::Stop) g_services.Timers->Kill(*this, kListHoldTimer);
+  if (intention.Action == TapAction::None) return;
+  ApplyTap(g_list, intention);
+  ShowPage();
+  Ask(intention);
+}
+
+void CContactListCtrl::Ask(const TapIntention& intention) {
+  if (intention.Action == TapAction::Open && OpenAsked) OpenAsked(intention.Row);
+  if (intention.Action == TapAction::ShowCard && CardAsked) CardAsked(intention.Row, intention.At);
+  if (intention.Action == TapAction::ShowPopup && PopupAsked)
+    PopupAsked(intention.Row, intention.At);
+}
+
+// Assistive technology selects the row it acts on, as a tap does.
+void CContactListCtrl::ActivateRow(int row) {
+  if (IsSelectableRow(g_list, row)) CarryOut({.Action = TapAction::Open, .Row = row});
+}
+
+void CContactListCtrl::ShowRowMenu(int row) {
+  if (!IsSelectableRow(g_list, row)) return;
+  CarryOut({.Action = TapAction::Select, .Row = row});
+  Ask({.Action = TapAction::ShowPopup, .Row = row, .At = PopupPlace(row)});
 }
 
 void CContactListCtrl::keyPressEvent(QKeyEvent* event) {
-  switch (event->key()) {
-    case Qt::Key_Up:
-      return Ask(ScrollRequest::LineUp);
-    case Qt::Key_Down:
-      return Ask(ScrollRequest::LineDown);
-    case Qt::Key_PageUp:
-      return Ask(ScrollRequest::PageUp);
-    case Qt::Key_PageDown:
-      return Ask(ScrollRequest::PageDown);
-    case Qt::Key_Home:
-      return Ask(ScrollRequest::ThumbTrack, 0);
-    case Qt::Key_End:
-      return Ask(ScrollRequest::ThumbTrack, LargestTop(g_list));
-    default:
-      return CPaintedWindow::keyPressEvent(event);
+  const auto move = std::ranges::find(kMoveKeys, event->key(), &MoveKey::Key);
+  if (move != kMoveKeys.end()) {
+    if (MoveAsked) MoveAsked(move->Move);
+  } else if (!ActOnSelected(*event, SingleSelectedRow(g_list))) {
+    CPaintedWindow::keyPressEvent(event);
   }
+}
+
+// Without a row that is selected alone the keys go on to the screen.
+bool CContactListCtrl::ActOnSelected(const QKeyEvent& event, int row) {
+  if (row < 0 || event.isAutoRepeat()) return false;
+  if (IsOpenKey(event)) {
+    Ask({.Action = TapAction::Open, .Row = row});
+  } else if (IsMenuKey(event)) {
+    Ask({.Action = TapAction::ShowPopup, .Row = row, .At = PopupPlace(row)});
+  } else if (event.key() == Qt::Key_Right && g_list.Mode != ViewMode::ByMemo) {
+    Ask({.Action = TapAction::ShowCard,
+         .Row = row,
+         .At = {kListWidth, row * kListRowHeight + kCardMiddle}});
+  } else {
+    return false;
+  }
+  return true;
 }
 
 void CContactListCtrl::wheelEvent(QWheelEvent* event) {
@@ -55,7 +135,7 @@ void CContactListCtrl::wheelEvent(QWheelEvent* event) {
   const int lines = m_wheelRest / kWheelLine;
   m_wheelRest -= lines * kWheelLine;
   for (int i = 0; i < std::abs(lines); ++i)
-    Ask(lines > 0 ? ScrollRequest::LineUp : ScrollRequest::LineDown);
+    if (ScrollAsked) ScrollAsked(lines > 0 ? ScrollRequest::LineUp : ScrollRequest::LineDown);
   event->accept();
 }
 

@@ -5,16 +5,22 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+#include "editor/CardText.h"
+#include "list/CategoryLabelLayout.h"
 #include "list/IndexRanges.h"
+#include "list/ListLayout.h"
 #include "list/PageBuilding.h"
 #include "list/Search.h"
 #include "list/StartUp.h"
+#include "list/TapBands.h"
 #include "list/ViewModes.h"
+#include "list/ui/CategoryLabel.h"
 #include "list/ui/ContactCommands.h"
 #include "list/ui/ContactListCtrl.h"
 #include "list/ui/IndexStrip.h"
 #include "list/ui/LinkedItemCommands.h"
 #include "list/ui/ViewModeCommands.h"
+#include "platform/Prompt.h"
 #include "platform/Services.h"
 #include "platform/ui/Edit.h"
 #include "platform/ui/InputCommit.h"
@@ -30,15 +36,15 @@ constexpr int kNoticeDelay = 500;  // milliseconds after the last notice
 
 constexpr QRect kSearchEditArea{2, 3, 95, 19};
 constexpr QRect kSearchButtonArea{100, 2, 48, 21};
-constexpr QRect kIndexStripArea{0, 26, 240, 19};
-constexpr QRect kListArea{0, 45, 225, 225};
-constexpr QRect kScrollBarArea{225, 45, 15, 222};
+constexpr int kScrollBarWidth = 15;
+constexpr int kBelowScrollBar = 3;  // pixels of the list band
 
 }  // namespace
 
 CContactsView::CContactsView(QWidget* frame)
     : QWidget(frame),
       m_searchEdit(new CEdit({}, this)),
+      m_category(new CCategoryLabel(this)),
       m_indexStrip(new CIndexStrip(this)),
       m_list(new CContactListCtrl(this)),
       m_scrollBar(new QScrollBar(Qt::Vertical, this)),
@@ -59,6 +65,7 @@ void CContactsView::MakeControls() {
   auto* const button = new QPushButton(QStringLiteral("Search"), this);
   button->setGeometry(kSearchButtonArea);
   button->setFocusPolicy(Qt::NoFocus);
+  button->stackUnder(m_category);  // read out after the search box
   connect(button, &QPushButton::clicked, this, &CContactsView::Search);
   m_searchEdit->setAccessibleName(QStringLiteral("Search for"));
   connect(m_searchEdit, &QLineEdit::returnPressed, this, &CContactsView::Search);
@@ -66,19 +73,39 @@ void CContactsView::MakeControls() {
           [](const QString& text) { g_list.SearchEntry = text; });
   m_scrollBar->setFocusPolicy(Qt::NoFocus);
   connect(m_scrollBar, &QScrollBar::actionTriggered, this, &CContactsView::RunScrollAction);
-  m_list->ScrollAsked = [this](ScrollRequest request, int thumb) { Scroll(request, thumb); };
   m_indexStrip->Tapped = [this](int index) { ChooseIndex(index); };
+  m_category->Tapped = [this] {
+    if (CategoryMenuAsked) CategoryMenuAsked();
+  };
+  ListenToList();
   m_controls = {{ContactsViewIds::kSearchEdit, m_searchEdit},
                 {ContactsViewIds::kSearchButton, button},
                 {ContactsViewIds::kListControl, m_list},
                 {ContactsViewIds::kScrollBar, m_scrollBar}};
 }
 
+void CContactsView::ListenToList() {
+  m_list->ScrollAsked = [this](ScrollRequest request) { Scroll(request, 0); };
+  m_list->MoveAsked = [this](KeyMove move) { MoveRow(move); };
+  m_list->OpenAsked = [this](int row) { OpenContact(row); };
+  m_list->CardAsked = [this](int row, QPoint at) {
+    if (CardAsked) CardAsked(row, at);
+  };
+  m_list->PopupAsked = [this](int row, QPoint at) {
+    if (PopupAsked) PopupAsked(row, at);
+  };
+}
+
 void CContactsView::PlaceControls() {
+  const IndexStripMode strip = IndexStripModeOf(g_list);
+  const QRect list = TapBandArea(TapBand::List, strip);
   m_searchEdit->setGeometry(kSearchEditArea);
-  m_indexStrip->setGeometry(kIndexStripArea);
-  m_list->setGeometry(kListArea);
-  m_scrollBar->setGeometry(kScrollBarArea);
+  m_category->setGeometry(kCategoryLabelArea);
+  m_indexStrip->setGeometry(TapBandArea(TapBand::IndexStrip, strip));
+  m_indexStrip->setVisible(strip == IndexStripMode::Shown);
+  m_list->setGeometry(0, list.top(), kListWidth, list.height());
+  m_scrollBar->setGeometry(kListWidth, list.top(), kScrollBarWidth,
+                           list.height() - kBelowScrollBar);
 }
 
 void CContactsView::OnInitialUpdate(StoreProvider& provider) {
@@ -167,7 +194,22 @@ void CContactsView::Scroll(ScrollRequest request, int thumb) {
   m_scrollBar->setValue(g_list.Top);
 }
 
+void CContactsView::MoveRow(KeyMove move) {
+  MoveCurrentRow(g_list, move);
+  m_list->ShowPage();
+  m_scrollBar->setValue(g_list.Top);
+}
+
+void CContactsView::OpenContact(int row) {
+  if (g_list.Mode == ViewMode::ByMemo) return;  // its key is no contact's
+  ContactRecord record;
+  const Oid oid = g_list.Rows[static_cast<std::size_t>(row)].Oid;
+  if (ReadContact(ContactSelector(oid), record) != 0)
+    g_services.Prompt->Show({.Text = CardText(record)});
+}
+
 void CContactsView::ShowPage() {
+  m_category->ShowChosen();
   m_indexStrip->ShowChosen();
   m_list->ShowPage();
   m_scrollBar->setRange(0, LargestTop(g_list));

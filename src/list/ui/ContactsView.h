@@ -4,6 +4,9 @@
 
 #include <QWidget>
 
+#include <functional>
+
+#include "list/KeyMoves.h"
 #include "list/Scrolling.h"
 #include "platform/CommandTarget.h"
 #include "platform/Timers.h"
@@ -15,6 +18,7 @@ class QScrollBar;
 
 namespace quill {
 
+class CCategoryLabel;
 class CContactListCtrl;
 class CIndexStrip;
 
@@ -47,18 +51,29 @@ class CContactsView : public QWidget, public TimerTarget {
   void ChooseIndex(int button);
   void FocusList();
 
+  // What pen and keys ask for a contact of the page; at is in pixels of the list. Unset, nothing is
+  // shown.
+  std::function<void(int row, QPoint at)> CardAsked;
+  std::function<void(int row, QPoint at)> PopupAsked;
+  // A tap on the category label.
+  std::function<void()> CategoryMenuAsked;
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   void MakeControls();
+  void ListenToList();
   void PlaceControls();
   void RunScrollAction(int action);
   void Scroll(ScrollRequest request, int thumb);
+  void MoveRow(KeyMove move);
+  void OpenContact(int row);
   void ShowPage();
   void ShowWaiting(bool waiting);
 
   QLineEdit* m_searchEdit;
+  CCategoryLabel* m_category;
   CIndexStrip* m_indexStrip;
   CContactListCtrl* m_list;
   QScrollBar* m_scrollBar;

@@ -1,0 +1,90 @@
+#include "list/Selection.h"
+
+#include <algorithm>
+
+#include "list/CategoryFilter.h"
+#include "store/ContactStore.h"
+#include "store/RestrictionMatch.h"
+
+namespace quill {
+
+namespace {
+
+// -1 when the item is not on the page.
+int RowOfKey(const ListState& list, int key) {
+  const int rows = std::min(SelectableRows(list), list.RowsPerPage);
+  for (int row = 0; row < rows; ++row)
+    if (KeyOfRow(list, row) == key) return row;
+  return -1;
+}
+
+// The contact is there, and the filter in force lets it through: asked of the contact alone, since
+// looking for it in the list would read all of the list.
+bool IsListed(const ListState& list, Oid oid) {
+  ContactRecord record;
+  if (ReadListRow(ContactSelector(oid), record) == 0) return false;
+  const auto& restriction = list.Collection.Restriction;
+  return (!restriction || SatisfiesRestriction(record, *restriction)) &&
+         PassesCategoryFilter(list, record[ContactField::Categories]);
+}
+
+bool IsItemListed(const ListState& list, int key) {
+  if (list.Mode == ViewMode::ByMemo) return key < list.Total;
+  return RowOfKey(list, key) >= 0 || IsListed(list, key);
+}
+
+int WithinPage(const ListState& list, int row) { return std::min(row, SelectableRows(list) - 1); }
+
+}  // namespace
+
+int SelectableRows(const ListState& list) {
+  return list.Mode == ViewMode::ByMemo ? std::max(list.Total - list.Top, 0) : list.RowsShown;
+}
+
+bool IsSelectableRow(const ListState& list, int row) {
+  return row >= 0 && row < SelectableRows(list);
+}
+
+int KeyOfRow(const ListState& list, int row) {
+  if (list.Mode == ViewMode::ByMemo) return list.Top + row;
+  return list.Rows[static_cast<std::size_t>(row)].Oid;
+}
+
+bool IsKeySelected(const ListState& list, int key) {
+  return std::ranges::find(list.SelectedKeys, key) != list.SelectedKeys.end();
+}
+
+int SingleSelectedRow(const ListState& list) {
+  if (list.SelectedKeys.size() != 1 || !IsSelectableRow(list, list.CurrentRow)) return -1;
+  return KeyOfRow(list, list.CurrentRow) == list.SelectedKeys.front() ? list.CurrentRow : -1;
+}
+
+void SelectRow(ListState& list, int row) { SelectRun(list, row, row); }
+
+void SelectRun(ListState& list, int anchor, int row) {
+  list.SelectedKeys.clear();
+  const int step = row < anchor ? -1 : 1;
+  for (int next = anchor; next != row + step; next += step)
+    list.SelectedKeys.push_back(KeyOfRow(list, next));
+  list.CurrentRow = row;
+}
+
+void ClearSelectedKeys(ListState& list) { list.SelectedKeys.clear(); }
+
+void DropSelection(ListState& list) {
+  ClearSelectedKeys(list);
+  list.CurrentRow = -1;
+}
+
+void SelectAfterScroll(ListState& list) {
+  const int row = WithinPage(list, list.CurrentRow);
+  row < 0 ? DropSelection(list) : SelectRow(list, row);
+}
+
+void KeepSelection(ListState& list) {
+  std::erase_if(list.SelectedKeys, [&list](int key) { return !IsItemListed(list, key); });
+  const int followed = list.SelectedKeys.empty() ? -1 : RowOfKey(list, list.SelectedKeys.front());
+  list.CurrentRow = followed >= 0 ? followed : WithinPage(list, list.CurrentRow);
+}
+
+}  // namespace quill
