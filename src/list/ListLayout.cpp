@@ -118,6 +118,7 @@ std::vector<PaintedRow> LayOutList(const ListState& list, const QStringList& mem
   if (IsEmptyStore(list)) return {LayOutHint()};
   std::vector<PaintedRow> rows;
   const int count = std::min(SelectableRows(list), list.RowsPerPage);
+  rows.reserve(static_cast<std::size_t>(list.RowsPerPage));
   for (int n = 0; n < count; ++n)
     rows.push_back(list.Mode == ViewMode::ByMemo
                        ? LayOutMemo(list, n, memoNames.value(list.Top + n))
