@@ -11,6 +11,7 @@
 #include "driver/Targets.h"
 #include "list/ListState.h"
 #include "list/ui/ContactListCtrl.h"
+#include "memo/MemoState.h"
 
 namespace quill::driver {
 
@@ -80,7 +81,7 @@ Answer List(const QJsonObject&, OperationContext&) {
   AddFilter(list, g_list);
   AddPage(list, g_list);
   AddSelection(list, g_list);
-  list.insert(u"memos", QJsonArray());  // the list has no memos yet
+  list.insert(u"memos", QJsonArray::fromStringList(g_memo.NameList));
   list.insert(u"scroll", ScrollJson());
   return Result(u"list", list);
 }

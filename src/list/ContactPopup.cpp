@@ -68,4 +68,10 @@ std::vector<MenuItem> BuildContactPopup(const LinkedItems& linked, const Command
   return items;
 }
 
+std::vector<MenuItem> BuildRowPopup(const ListState& list, int row, const CommandRoute& route) {
+  if (list.Mode == ViewMode::ByMemo) return BuildMenuItems(resources::kMemoPopup, route);
+  g_linkedItems = FindLinkedItems(list.Rows[static_cast<std::size_t>(row)].Name);
+  return BuildContactPopup(g_linkedItems, route);
+}
+
 }  // namespace quill

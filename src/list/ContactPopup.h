@@ -1,12 +1,12 @@
-// The popup menu of a contact's row: its commands, and what is linked to the contact.
+// The popup menu of a row: its commands, and what is linked to its contact.
 #pragma once
 
 #include <QStringList>
 
 #include <vector>
 
+#include "list/ListState.h"
 #include "platform/MenuModel.h"
-#include "store/ContactRecord.h"
 
 namespace quill {
 
@@ -31,5 +31,9 @@ LinkedItems FindLinkedItems(const QString& fileAs);
 // Item i of the appointments runs ID_OPEN_APPOINTMENT_FIRST + i, of the memos ID_OPEN_MEMO_FIRST +
 // i; a kind that the contact has none of cannot be opened.
 std::vector<MenuItem> BuildContactPopup(const LinkedItems& linked, const CommandRoute& route);
+
+// The popup of a row of the page: of its contact, whose linked items become g_linkedItems, or of
+// its memo.
+std::vector<MenuItem> BuildRowPopup(const ListState& list, int row, const CommandRoute& route);
 
 }  // namespace quill

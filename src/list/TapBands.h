@@ -4,19 +4,15 @@
 
 #include <QRect>
 
-#include "list/ListState.h"
+#include "settings/Settings.h"
 
 namespace quill {
 
 enum class TapBand { Title, IndexStrip, List };
-enum class IndexStripMode { Shown, Off };
-
-// As the page's length has it: the list is a row longer without the strip.
-IndexStripMode IndexStripModeOf(const ListState& list);
 
 // The band over the view's whole width. Empty for an index strip that is off; the list then begins
 // in its place.
-QRect TapBandArea(TapBand band, IndexStripMode mode);
+QRect TapBandArea(TapBand band, const Settings& settings);
 
 // Where a tap means the category label.
 QRect CategoryTapArea();

@@ -7,21 +7,23 @@
 namespace quill {
 namespace {
 
-constexpr auto kShown = IndexStripMode::Shown;
-constexpr auto kOff = IndexStripMode::Off;
+enum class Strip { Shown, Off };
+constexpr auto kShown = Strip::Shown;
+constexpr auto kOff = Strip::Off;
 constexpr std::optional<TapBand> kNone;
 
 // The bands that contain this row of pixels; they may not overlap.
-std::vector<TapBand> BandsAt(int x, int y, IndexStripMode mode) {
+std::vector<TapBand> BandsAt(int x, int y, Strip strip) {
+  const Settings settings{.Abc = strip == Strip::Shown ? 1U : 0U};
   std::vector<TapBand> bands;
   for (const TapBand band : {TapBand::Title, TapBand::IndexStrip, TapBand::List})
-    if (TapBandArea(band, mode).contains(x, y)) bands.push_back(band);
+    if (TapBandArea(band, settings).contains(x, y)) bands.push_back(band);
   return bands;
 }
 
 struct BandCase {
   int Y;
-  IndexStripMode Mode;
+  Strip Mode;
   std::optional<TapBand> Band;
 };
 
@@ -49,13 +51,6 @@ INSTANTIATE_TEST_SUITE_P(
                     BandCase{24, kOff, TapBand::Title}, BandCase{25, kOff, TapBand::List},
                     BandCase{26, kOff, TapBand::List}, BandCase{45, kOff, TapBand::List},
                     BandCase{269, kOff, TapBand::List}, BandCase{270, kOff, kNone}));
-
-TEST(TapBands, AListIsARowLongerWithoutTheStrip) {
-  ListState list;
-  EXPECT_EQ(IndexStripModeOf(list), IndexStripMode::Shown);
-  list.RowsPerPage = kRowsWithoutIndex;
-  EXPECT_EQ(IndexStripModeOf(list), IndexStripMode::Off);
-}
 
 TEST(TapBands, TheCategoryTakesTheTapsOfItsPartOfTheTitle) {
   EXPECT_EQ(CategoryTapArea(), QRect(QPoint(156, 1), QPoint(234, 24)));

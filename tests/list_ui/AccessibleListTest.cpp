@@ -40,7 +40,7 @@ TEST_F(AccessibleListTest, ARowSaysItsSecondColumnAndThatItIsSelected) {
 
 TEST_F(AccessibleListTest, TheMenuActionSelectsTheRowAndAsksForItsPopup) {
   QList<int> asked;
-  View().PopupAsked = [&asked](int row, QPoint) { asked.append(row); };
+  List().PopupAsked = [&asked](int row, QPoint) { asked.append(row); };
   AccessibleChild(List(), u"Hill").ShowMenu();
   EXPECT_EQ(asked, QList<int>{1});
   EXPECT_EQ(g_list.SelectedKeys, std::vector<int>{g_list.Rows[1].Oid});

@@ -32,7 +32,7 @@ INSTANTIATE_TEST_SUITE_P(Controls, ControlPlaceTest,
                                          PlaceCase{1024, {225, 45, 15, 222}}));
 
 TEST_F(ContactsViewTest, WithoutTheIndexStripTheListBeginsInItsPlace) {
-  g_list.RowsPerPage = kRowsWithoutIndex;
+  g_settings.Abc = 0;
   m_frame = std::make_unique<test::ViewFrame>(*m_screen);
   EXPECT_FALSE(IndexStrip().isVisible());
   EXPECT_EQ(List().geometry(), QRect(0, 25, 225, 245));

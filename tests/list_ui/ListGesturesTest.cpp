@@ -16,7 +16,7 @@ class ListGesturesTest : public test::ViewFixture {
     Open({}, 30);
     List().OpenAsked = [this](int row) { Note(QStringLiteral("open %1").arg(row)); };
     View().CardAsked = [this](int row, QPoint at) { NoteAt("card", row, at); };
-    View().PopupAsked = [this](int row, QPoint at) { NoteAt("popup", row, at); };
+    List().PopupAsked = [this](int row, QPoint at) { NoteAt("popup", row, at); };
   }
 
   QString Asked() { return std::exchange(m_asked, {}).join(u';'); }
@@ -114,7 +114,7 @@ TEST_F(ListGesturesTest, ADragAsksForNoPopup) {
 }
 
 TEST_F(ListGesturesTest, WithoutAPopupAHoldOnlySelects) {
-  View().PopupAsked = nullptr;
+  List().PopupAsked = nullptr;
   View().CardAsked = nullptr;
   m_input.Press(OnRow(2));
   m_timers.Advance(500);

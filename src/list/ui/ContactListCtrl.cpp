@@ -8,6 +8,7 @@
 
 #include "list/ListLayout.h"
 #include "list/Selection.h"
+#include "memo/MemoState.h"
 #include "platform/Services.h"
 #include "platform/ui/RowPainter.h"
 #include "store/ContactStore.h"
@@ -56,7 +57,7 @@ CContactListCtrl::~CContactListCtrl() {
 
 void CContactListCtrl::ShowPage() {
   if (!g_store.Provider) return SetRows({});  // without a store nobody can be added
-  SetRows(LayOutList(g_list, {}, NormalTextWidth()));
+  SetRows(LayOutList(g_list, g_memo.NameList, NormalTextWidth()));
 }
 
 void CContactListCtrl::PenPress(QPoint at) {

@@ -7,8 +7,9 @@
 
 #include "editor/CardText.h"
 #include "list/CategoryLabelLayout.h"
+#include "list/ContactPopup.h"
 #include "list/IndexRanges.h"
-#include "list/ListLayout.h"
+#include "list/ListAreas.h"
 #include "list/PageBuilding.h"
 #include "list/Search.h"
 #include "list/StartUp.h"
@@ -24,6 +25,7 @@
 #include "platform/Services.h"
 #include "platform/ui/Edit.h"
 #include "platform/ui/InputCommit.h"
+#include "platform/ui/Screen.h"
 #include "resources/Ids.h"
 #include "store/ContactStore.h"
 
@@ -36,8 +38,6 @@ constexpr int kNoticeDelay = 500;  // milliseconds after the last notice
 
 constexpr QRect kSearchEditArea{2, 3, 95, 19};
 constexpr QRect kSearchButtonArea{100, 2, 48, 21};
-constexpr int kScrollBarWidth = 15;
-constexpr int kBelowScrollBar = 3;  // pixels of the list band
 
 }  // namespace
 
@@ -91,25 +91,22 @@ void CContactsView::ListenToList() {
   m_list->CardAsked = [this](int row, QPoint at) {
     if (CardAsked) CardAsked(row, at);
   };
-  m_list->PopupAsked = [this](int row, QPoint at) {
-    if (PopupAsked) PopupAsked(row, at);
-  };
+  m_list->PopupAsked = [this](int row, QPoint at) { ShowRowPopup(row, at); };
 }
 
 void CContactsView::PlaceControls() {
-  const IndexStripMode strip = IndexStripModeOf(g_list);
-  const QRect list = TapBandArea(TapBand::List, strip);
+  const ListAreas areas = LayOutAreas(g_settings);
   m_searchEdit->setGeometry(kSearchEditArea);
   m_category->setGeometry(kCategoryLabelArea);
-  m_indexStrip->setGeometry(TapBandArea(TapBand::IndexStrip, strip));
-  m_indexStrip->setVisible(strip == IndexStripMode::Shown);
-  m_list->setGeometry(0, list.top(), kListWidth, list.height());
-  m_scrollBar->setGeometry(kListWidth, list.top(), kScrollBarWidth,
-                           list.height() - kBelowScrollBar);
+  m_indexStrip->setGeometry(TapBandArea(TapBand::IndexStrip, g_settings));
+  m_indexStrip->setVisible(ShowsIndexStrip(g_settings));
+  m_list->setGeometry(areas.List);
+  m_scrollBar->setGeometry(areas.ScrollBar);
 }
 
 void CContactsView::OnInitialUpdate(StoreProvider& provider) {
   StartList(provider);  // a failure leaves the list empty
+  PlaceControls();      // as the settings say
   ShowState();
 }
 
@@ -206,6 +203,15 @@ void CContactsView::OpenContact(int row) {
   const Oid oid = g_list.Rows[static_cast<std::size_t>(row)].Oid;
   if (ReadContact(ContactSelector(oid), record) != 0)
     g_services.Prompt->Show({.Text = CardText(record)});
+}
+
+void CContactsView::ShowRowPopup(int row, QPoint at) {
+  CScreen* const screen = ScreenAround(this);
+  if (!screen) return;
+  const CommandRoute route = Route();
+  const int id = screen->TrackMenu(m_list->mapTo(screen, at), BuildRowPopup(g_list, row, route));
+  // What was chosen may have become impossible meanwhile.
+  if (id != 0) route.Run(id, CommandCheck::AsMenu);
 }
 
 void CContactsView::ShowPage() {

@@ -54,7 +54,6 @@ class CContactsView : public QWidget, public TimerTarget {
   // What pen and keys ask for a contact of the page; at is in pixels of the list. Unset, nothing is
   // shown.
   std::function<void(int row, QPoint at)> CardAsked;
-  std::function<void(int row, QPoint at)> PopupAsked;
   // A tap on the category label.
   std::function<void()> CategoryMenuAsked;
 
@@ -69,6 +68,7 @@ class CContactsView : public QWidget, public TimerTarget {
   void Scroll(ScrollRequest request, int thumb);
   void MoveRow(KeyMove move);
   void OpenContact(int row);
+  void ShowRowPopup(int row, QPoint at);
   void ShowPage();
   void ShowWaiting(bool waiting);
 
