@@ -33,7 +33,7 @@ const auto kAppointments = std::to_array<SampleAppointment>({
 
 AppointmentItem ItemOf(const SampleAppointment& sample) {
   AppointmentItem item;
-  item.Subject = ContactLinkPrefix(sample.Person.toString()) + sample.Words;
+  item.Subject = ContactLinkPrefix(sample.Person.toString()) + sample.Words.toString();
   item.Location = sample.Location.toString();
   item.Start = MakeCalendarDate(sample.Day, sample.From);
   item.End = MakeCalendarDate(sample.Day, sample.From.addSecs(sample.Minutes * 60));

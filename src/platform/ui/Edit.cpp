@@ -13,11 +13,6 @@ namespace quill {
 
 namespace {
 
-CScreen* ScreenAround(QWidget* widget) {
-  while (widget && !qobject_cast<CScreen*>(widget)) widget = widget->parentWidget();
-  return qobject_cast<CScreen*>(widget);
-}
-
 std::vector<MenuItem> EditMenu(const QLineEdit& edit) {
   const bool selected = edit.hasSelectedText();
   const bool pasteable = !edit.isReadOnly() && !QGuiApplication::clipboard()->text().isEmpty();

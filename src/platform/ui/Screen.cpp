@@ -193,4 +193,9 @@ void CScreen::paintEvent(QPaintEvent*) {
   QPainter(this).fillRect(rect(), palette().color(QPalette::Window));
 }
 
+CScreen* ScreenAround(QWidget* widget) {
+  while (widget && !qobject_cast<CScreen*>(widget)) widget = widget->parentWidget();
+  return qobject_cast<CScreen*>(widget);
+}
+
 }  // namespace quill

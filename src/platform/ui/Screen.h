@@ -87,4 +87,7 @@ class CScreen : public QWidget {
   bool m_altAlone = false;  // Alt is down and nothing else was pressed since
 };
 
+// The screen that a window stands in; null outside of one.
+CScreen* ScreenAround(QWidget* widget);
+
 }  // namespace quill
