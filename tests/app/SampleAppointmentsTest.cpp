@@ -29,6 +29,7 @@ class SampleAppointments : public testing::Test {
 
   static std::vector<AppointmentItem> Items(const std::vector<Oid>& oids) {
     std::vector<AppointmentItem> items;
+    items.reserve(oids.size());
     for (const Oid oid : oids) items.push_back(OpenAppointment(oid).value_or(AppointmentItem()));
     return items;
   }
