@@ -111,6 +111,25 @@ TEST(KeyRanges, WithoutARestrictionItIsTheWholeOrder) {
             QStringLiteral("1..2"));
 }
 
+TEST(KeyRanges, SeveralCategoriesAreRangesOfEach) {
+  const auto several = SeveralCategoryRanges(
+      Restricted(QStringLiteral(R"([Categories] = "Work,a,Work" AND [FileAs] < "B")"), kByName));
+  ASSERT_TRUE(several);
+  ASSERT_EQ(several->size(), 2U);
+  EXPECT_EQ(Shown((*several)[0].Ranges), QStringLiteral("2Work|..2Work|B"));
+  EXPECT_EQ((*several)[0].PrefixSize, 6);
+  EXPECT_EQ(Shown((*several)[1].Ranges), QStringLiteral("2a|..2a|B"));
+  EXPECT_EQ((*several)[1].PrefixSize, 3);
+}
+
+TEST(KeyRanges, OneCategoryOrNoneIsNotSeveral) {
+  EXPECT_FALSE(SeveralCategoryRanges({}));
+  for (const char16_t* text : {u"[Categories] = \"A\"", u"[Categories] = \"A,A\"",
+                               u"[Categories] = \"\"", u"[FileAs] = \"A\""}) {
+    EXPECT_FALSE(SeveralCategoryRanges(Restricted(QString::fromUtf16(text), kByName)));
+  }
+}
+
 TEST(KeyRanges, SubjectsCompareAsTheyAre) {
   EXPECT_EQ(
       Shown(SubjectRanges(*ParseRestriction(u"[Subject] >= \"(Kim)\" AND [Subject] < \"(Kin)\""))),

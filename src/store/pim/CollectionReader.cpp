@@ -41,7 +41,9 @@ void CollectionReader::TurnTo(const ContactCollection& collection) {
   m_count.reset();
   m_window = {};
   if (m_ranges) return;
-  m_window = {.Start = 1, .Oids = PlainContactOids(m_database, collection)};
+  const auto several = SeveralCategoryRanges(collection);
+  m_window = {.Start = 1,
+              .Oids = several ? m_index.Union(*several) : PlainContactOids(m_database, collection)};
   m_count = static_cast<int>(m_window.Oids.size());
 }
 

@@ -1,5 +1,6 @@
 // Counts a collection and finds its items by position: over the list index where the restriction is
-// a range of keys, else over a list of all its Oids.
+// ranges of keys, else over a list of all its Oids: from the index for a choice of several
+// categories, by plain SQL for the rest.
 //
 // The count and a window of Oids of the collection asked for last are kept until the data change,
 // so that a page read item by item costs one query.

@@ -1,5 +1,7 @@
 #include "store/pim/KeyRanges.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <utility>
 
@@ -20,7 +22,7 @@ using TextRanges = std::vector<TextRange>;  // ascending, apart from each other
 // What a part of a restriction lets through.
 struct Shape {
   TextRanges Texts;
-  std::optional<QString> Category;  // a name, or empty: without categories
+  std::optional<QStringList> Categories;  // any of them; the empty name: without categories
 };
 
 TextRanges Everything() { return {{.From = {}, .To = std::nullopt}}; }
@@ -79,7 +81,7 @@ class Compiler {
       case RestrictionKind::Comparison:
         break;
     }
-    if (node.Property == m_name) return Shape{.Texts = Compared(node), .Category = std::nullopt};
+    if (node.Property == m_name) return Shape{.Texts = Compared(node), .Categories = std::nullopt};
     return CompileCategory(node);
   }
 
@@ -106,23 +108,24 @@ class Compiler {
         node.Operator != RestrictionOperator::Equal) {
       return std::nullopt;
     }
-    if (node.Value.isEmpty()) return Shape{.Texts = Everything(), .Category = QString()};
-    const QStringList names = SplitCategories(node.Value);
+    if (node.Value.isEmpty()) return Shape{.Texts = Everything(), .Categories = {{QString()}}};
+    QStringList names = SplitCategories(node.Value);
+    names.removeDuplicates();
     // A text of commas and blanks names no category, and no contact is in it.
     if (names.isEmpty()) return Shape{};
-    if (names.size() > 1) return std::nullopt;
-    return Shape{.Texts = Everything(), .Category = names.front()};
+    return Shape{.Texts = Everything(), .Categories = names};
   }
 
   std::optional<Shape> CompileAnd(const std::vector<RestrictionNode>& children) const {
-    Shape all{.Texts = Everything(), .Category = std::nullopt};
+    Shape all{.Texts = Everything(), .Categories = std::nullopt};
     for (const RestrictionNode& child : children) {
       auto shape = Compile(child);
       if (!shape) return std::nullopt;
       // A contact may well be in both.
-      if (all.Category && shape->Category && *all.Category != *shape->Category) return std::nullopt;
+      const bool both = all.Categories && shape->Categories;
+      if (both && *all.Categories != *shape->Categories) return std::nullopt;
       all.Texts = Intersection(all.Texts, shape->Texts);
-      if (!all.Category) all.Category = std::move(shape->Category);
+      if (!all.Categories) all.Categories = std::move(shape->Categories);
     }
     return all;
   }
@@ -135,7 +138,7 @@ class Compiler {
       if (shape->Texts.empty()) continue;
       if (any.Texts.empty()) {
         any = std::move(*shape);
-      } else if (any.Category == shape->Category) {
+      } else if (any.Categories == shape->Categories) {
         any.Texts = Union(std::move(any.Texts), shape->Texts);
       } else {
         return std::nullopt;
@@ -156,28 +159,50 @@ KeyRanges Within(const KeyRange& whole, const TextRanges& texts) {
   return ranges;
 }
 
-KeyRange WholeOf(ContactOrder order, const std::optional<QString>& category) {
-  const bool byCompany = order == ContactOrder::ByCompany;
-  if (!category) return WholeOrder(byCompany ? EntryOrder::Company : EntryOrder::FileAs);
-  return WholeCategory(byCompany ? EntryOrder::CategoryCompany : EntryOrder::CategoryFileAs,
-                       *category);
+bool IsByCompany(const ContactCollection& collection) {
+  return collection.Order == ContactOrder::ByCompany;
+}
+
+std::optional<Shape> ShapeOf(const ContactCollection& collection) {
+  const Compiler compiler(IsByCompany(collection) ? RestrictionProperty::CompanyName
+                                                  : RestrictionProperty::FileAs);
+  return compiler.Compile(collection.Restriction ? *collection.Restriction : RestrictionNode{});
+}
+
+KeyRange WholeOfCategory(const ContactCollection& collection, const QString& category) {
+  return WholeCategory(
+      IsByCompany(collection) ? EntryOrder::CategoryCompany : EntryOrder::CategoryFileAs, category);
+}
+
+KeyRange WholeOf(const ContactCollection& collection) {
+  return WholeOrder(IsByCompany(collection) ? EntryOrder::Company : EntryOrder::FileAs);
 }
 
 }  // namespace
 
 std::optional<KeyRanges> ContactRanges(const ContactCollection& collection) {
-  const bool byCompany = collection.Order == ContactOrder::ByCompany;
-  const Compiler compiler(byCompany ? RestrictionProperty::CompanyName
-                                    : RestrictionProperty::FileAs);
-  const auto shape =
-      compiler.Compile(collection.Restriction ? *collection.Restriction : RestrictionNode{});
+  const auto shape = ShapeOf(collection);
   if (!shape) return std::nullopt;
-  return Within(WholeOf(collection.Order, shape->Category), shape->Texts);
+  if (!shape->Categories) return Within(WholeOf(collection), shape->Texts);
+  if (shape->Categories->size() > 1) return std::nullopt;
+  return Within(WholeOfCategory(collection, shape->Categories->front()), shape->Texts);
+}
+
+std::optional<std::vector<CategoryRanges>> SeveralCategoryRanges(
+    const ContactCollection& collection) {
+  const auto shape = ShapeOf(collection);
+  if (!shape || !shape->Categories || shape->Categories->size() < 2) return std::nullopt;
+  std::vector<CategoryRanges> several;
+  for (const QString& category : *shape->Categories) {
+    const KeyRange whole = WholeOfCategory(collection, category);
+    several.push_back({.Ranges = Within(whole, shape->Texts), .PrefixSize = whole.From.size()});
+  }
+  return several;
 }
 
 std::optional<KeyRanges> SubjectRanges(const RestrictionNode& restriction) {
   const auto shape = Compiler(RestrictionProperty::Subject).Compile(restriction);
-  if (!shape || shape->Category) return std::nullopt;
+  if (!shape || shape->Categories) return std::nullopt;
   return Within(WholeOrder(EntryOrder::Subject), shape->Texts);
 }
 

@@ -1,5 +1,7 @@
 #include "store/pim/ListIndex.h"
 
+#include <QByteArrayList>
+
 #include "store/pim/Database.h"
 
 namespace quill {
@@ -61,6 +63,26 @@ EntrySlice ListIndex::SliceAfter(const EntryPlace& place, const KeyRange& range,
   query.BindBlob(3, range.To);
   query.BindNumber(4, limit);
   return ReadSlice(query, limit);
+}
+
+std::vector<Oid> ListIndex::Union(const std::vector<CategoryRanges>& several) {
+  QByteArrayList parts;
+  QByteArrayList keys;
+  for (const CategoryRanges& category : several) {
+    const QByteArray rest = QByteArray::number(category.PrefixSize + 1);  // substr counts from 1
+    for (const KeyRange& range : category.Ranges) {
+      parts.append("SELECT substr(key, " + rest +
+                   ") AS rest, oid FROM entry WHERE key >= ? AND key < ?");
+      keys << range.From << range.To;
+    }
+  }
+  if (parts.isEmpty()) return {};
+  Query query =
+      m_database.Prepare("SELECT oid FROM (" + parts.join(" UNION ") + ") ORDER BY rest, oid");
+  for (int i = 0; i < keys.size(); ++i) query.BindBlob(i + 1, keys[i]);
+  std::vector<Oid> oids;
+  while (query.Next()) oids.push_back(static_cast<Oid>(query.Number(0)));
+  return oids;
 }
 
 // The bucket in which the entries below this key end. Oids begin at 1, so a bucket at this very key

@@ -17,7 +17,7 @@
 #include <vector>
 
 #include "store/ContactRecord.h"
-#include "store/pim/EntryKeys.h"
+#include "store/pim/KeyRanges.h"
 
 namespace quill {
 
@@ -43,6 +43,9 @@ class ListIndex {
   EntrySlice Slice(const KeyRange& range, int offset, int limit);
   // The same from after a place in the range on.
   EntrySlice SliceAfter(const EntryPlace& place, const KeyRange& range, int limit);
+  // Every Oid in any of these, once, in the order that their keys have after the prefixes. Takes
+  // time in proportion to their number.
+  std::vector<Oid> Union(const std::vector<CategoryRanges>& several);
 
  private:
   EntryPlace BucketBefore(const QByteArray& key);
