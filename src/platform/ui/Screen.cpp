@@ -5,7 +5,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 #include "platform/InputPanel.h"
@@ -24,6 +23,13 @@ void ToggleInputPanel() {
   InputPanel* const panel = g_services.InputPanel;
   if (!panel) return;
   panel->IsUp() ? panel->Lower() : panel->Raise();
+}
+
+template <typename Condition>
+CWindow* TopmostOf(const std::vector<CWindow*>& windows, Condition holds) {
+  const auto found = std::find_if(windows.rbegin(), windows.rend(),
+                                  [&holds](const CWindow* window) { return holds(*window); });
+  return found == windows.rend() ? nullptr : *found;
 }
 
 }  // namespace
@@ -66,15 +72,11 @@ void CScreen::Remove(CWindow& window) {
 }
 
 CWindow* CScreen::Topmost() const {
-  for (CWindow* window : m_windows | std::views::reverse)
-    if (window->Kind() != WindowKind::Card) return window;
-  return nullptr;
+  return TopmostOf(m_windows, [](const CWindow& w) { return w.Kind() != WindowKind::Card; });
 }
 
 CWindow* CScreen::ChromeOwner() const {
-  for (CWindow* window : m_windows | std::views::reverse)
-    if (window->Size() == WindowSize::FullScreen) return window;
-  return nullptr;
+  return TopmostOf(m_windows, [](const CWindow& w) { return w.Size() == WindowSize::FullScreen; });
 }
 
 void CScreen::UpdateChrome() {
@@ -126,8 +128,9 @@ bool CScreen::IsIdle() const { return !m_popup && m_windows.size() <= 1; }
 void CScreen::CloseAll() {
   m_closing = true;
   if (m_popup) m_popup->Dismiss();
-  for (CWindow* window : m_windows | std::views::reverse)
+  std::for_each(m_windows.rbegin(), m_windows.rend(), [](CWindow* window) {
     if (auto* const modal = qobject_cast<CModalWindow*>(window)) modal->EndDialog(kResultCancel);
+  });
   if (Closed) Closed();
 }
 
