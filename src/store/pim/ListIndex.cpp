@@ -1,6 +1,8 @@
 #include "store/pim/ListIndex.h"
 
-#include <QByteArrayList>
+#include <algorithm>
+#include <memory>
+#include <utility>
 
 #include "store/pim/Database.h"
 
@@ -28,6 +30,52 @@ EntrySlice ReadSlice(Query& query, int limit) {
     break;
   }
   return slice;
+}
+
+// The entries of a range one by one; their keys without a prefix.
+class EntryStream {
+ public:
+  // Streams that are read at once need numbers of their own: each has its own statement.
+  EntryStream(Database& database, const KeyRange& range, qsizetype prefixSize, int number)
+      : m_query(database.Prepare("SELECT key, oid FROM entry WHERE key >= ?1 AND key < ?2 "
+                                 "ORDER BY key, oid -- " +
+                                 QByteArray::number(number))),
+        m_prefixSize(prefixSize) {
+    m_query.BindBlob(1, range.From);
+    m_query.BindBlob(2, range.To);
+  }
+
+  // False at the end.
+  bool Next() {
+    if (!m_query.Next()) return false;
+    m_place = {.Key = m_query.Blob(0).mid(m_prefixSize), .Id = static_cast<Oid>(m_query.Number(1))};
+    return true;
+  }
+  const EntryPlace& Place() const { return m_place; }
+
+ private:
+  Query m_query;
+  qsizetype m_prefixSize;
+  EntryPlace m_place;
+};
+
+using EntryStreams = std::vector<std::unique_ptr<EntryStream>>;
+
+// In the order of the places, each once; every stream stands at its first entry.
+std::vector<Oid> Merged(EntryStreams streams) {
+  std::vector<Oid> oids;
+  EntryPlace last;
+  while (!streams.empty()) {
+    const auto least =
+        std::min_element(streams.begin(), streams.end(),
+                         [](const auto& a, const auto& b) { return a->Place() < b->Place(); });
+    if (const EntryPlace& place = (*least)->Place(); last < place) {
+      oids.push_back(place.Id);
+      last = place;
+    }
+    if (!(*least)->Next()) streams.erase(least);
+  }
+  return oids;
 }
 
 }  // namespace
@@ -66,23 +114,15 @@ EntrySlice ListIndex::SliceAfter(const EntryPlace& place, const KeyRange& range,
 }
 
 std::vector<Oid> ListIndex::Union(const std::vector<CategoryRanges>& several) {
-  QByteArrayList parts;
-  QByteArrayList keys;
+  EntryStreams streams;
   for (const CategoryRanges& category : several) {
-    const QByteArray rest = QByteArray::number(category.PrefixSize + 1);  // substr counts from 1
     for (const KeyRange& range : category.Ranges) {
-      parts.append("SELECT substr(key, " + rest +
-                   ") AS rest, oid FROM entry WHERE key >= ? AND key < ?");
-      keys << range.From << range.To;
+      auto stream = std::make_unique<EntryStream>(m_database, range, category.PrefixSize,
+                                                  static_cast<int>(streams.size()));
+      if (stream->Next()) streams.push_back(std::move(stream));
     }
   }
-  if (parts.isEmpty()) return {};
-  Query query =
-      m_database.Prepare("SELECT oid FROM (" + parts.join(" UNION ") + ") ORDER BY rest, oid");
-  for (int i = 0; i < keys.size(); ++i) query.BindBlob(i + 1, keys[i]);
-  std::vector<Oid> oids;
-  while (query.Next()) oids.push_back(static_cast<Oid>(query.Number(0)));
-  return oids;
+  return Merged(std::move(streams));
 }
 
 // The bucket in which the entries below this key end. Oids begin at 1, so a bucket at this very key

@@ -14,6 +14,7 @@
 #include <QByteArray>
 
 #include <optional>
+#include <tuple>
 #include <vector>
 
 #include "store/ContactRecord.h"
@@ -25,7 +26,11 @@ class Database;
 
 struct EntryPlace {
   QByteArray Key;
-  Oid Id = 0;
+  Oid Id = 0;  // 0: before every entry of this key
+
+  bool operator<(const EntryPlace& other) const {
+    return std::tie(Key, Id) < std::tie(other.Key, other.Id);
+  }
 };
 
 struct EntrySlice {
