@@ -19,13 +19,6 @@ ContactItem NewItem(const ContactRecord& record, const QByteArray& bodyInk) {
   return item;
 }
 
-RestrictionNode Both(const RestrictionNode& first, RestrictionNode second) {
-  RestrictionNode both{.Kind = RestrictionKind::And};
-  both.Children.push_back(first);
-  both.Children.push_back(std::move(second));
-  return both;
-}
-
 }  // namespace
 
 PimContacts::PimContacts(Database& database)
@@ -53,7 +46,7 @@ std::optional<ContactCollection> PimContacts::Restrict(const ContactCollection& 
     m_database.Fail(SQLITE_ERROR, QStringLiteral("not a restriction of contacts"));
     return std::nullopt;
   }
-  if (collection.Restriction) node = Both(*collection.Restriction, std::move(*node));
+  if (collection.Restriction) node = MakeBoth(*collection.Restriction, std::move(*node));
   return ContactCollection{
       .Order = collection.Order,
       .Restriction = std::make_shared<const RestrictionNode>(std::move(*node))};
