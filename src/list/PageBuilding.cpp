@@ -14,6 +14,7 @@ namespace {
 
 void TakeCollection(ListState& list) {
   list.Collection = AllContacts();
+  if (list.Mode == ViewMode::ByCompany) SortContacts(list.Collection, ContactOrder::ByCompany);
   list.Restriction = RestrictionText(list);
   if (!list.Restriction.isEmpty())
     list.Collection = RestrictContacts(list.Collection, list.Restriction);

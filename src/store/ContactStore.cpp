@@ -77,6 +77,10 @@ ContactCollection AllContacts() {
   return folder ? folder->Items() : EmptyCollection(ContactOrder::ByFileAs);
 }
 
+void SortContacts(ContactCollection& collection, ContactOrder order) {
+  if (ContactsFolder* folder = Folder()) folder->Sort(collection, order);
+}
+
 ContactCollection RestrictContacts(const ContactCollection& collection,
                                    const QString& restriction) {
   ContactsFolder* folder = Folder();

@@ -39,6 +39,7 @@ StartupCode OpenSession(StoreProvider& provider);
 void CloseSession();
 
 ContactCollection AllContacts();
+void SortContacts(ContactCollection& collection, ContactOrder order);
 // Empty when the restriction fails (the reason goes to the log).
 ContactCollection RestrictContacts(const ContactCollection& collection, const QString& restriction);
 int Count(const ContactCollection& collection);

@@ -62,6 +62,19 @@ TEST_F(PageBuilding, RowsComeInTheStoresOrderWithTheirOidsAndPlaces) {
                                      .Position = 1}));
 }
 
+TEST_F(PageBuilding, ByCompanyTheContactsStandInTheOrderOfTheirCompanies) {
+  Add(QStringLiteral("Adams"), {{ContactField::CompanyName, QStringLiteral("Zebra")}});
+  Add(QStringLiteral("Kim"), {{ContactField::CompanyName, QStringLiteral("acme")}});
+  Add(QStringLiteral("Baker"), {{ContactField::CompanyName, QStringLiteral("Acme")}});
+  Add(QStringLiteral("Lee"));
+  m_list.Mode = ViewMode::ByCompany;
+  BuildPage(m_list);
+  EXPECT_EQ(ShownNames(), test::NameList({u"Lee", u"Baker", u"Kim", u"Adams"}));
+  m_list.Mode = ViewMode::ByName;
+  BuildPage(m_list);
+  EXPECT_EQ(ShownNames(), test::NameList({u"Adams", u"Baker", u"Kim", u"Lee"}));
+}
+
 TEST_F(PageBuilding, APageIsNeverLongerThanItsRows) {
   AddNumbered(40);
   for (const int rows : {kRowsWithIndex, kRowsWithoutIndex}) {
