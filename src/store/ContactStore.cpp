@@ -117,7 +117,7 @@ Oid ReadListRow(const ContactSelector& selector, ContactRecord& record) {
 
 void ReadNewContactDefaults(ContactRecord& record) { record = {}; }
 
-void WriteContact(Oid oid, ContactRecord record) {
+void WriteContact(Oid oid, const ContactRecord& record) {
   ContactsFolder* folder = Folder();
   if (folder && folder->Save(oid, record, g_contactInk.Bytes) == 0) {
     qCWarning(storeLog) << "Contact" << oid << "not written:" << g_store.Provider->LastError();

@@ -64,7 +64,7 @@ void ReadNewContactDefaults(ContactRecord& record);
 
 // Writes the record's written-back fields and g_contactInk, then frees g_contactInk. Oid 0 makes a
 // new contact. Reports nothing: a failure goes to the log.
-void WriteContact(Oid oid, ContactRecord record);
+void WriteContact(Oid oid, const ContactRecord& record);
 bool DeleteContact(Oid oid);
 
 }  // namespace quill
