@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "store/AutomationDate.h"
+#include "store/pim/ItemTables.h"
 #include "store/pim/Query.h"
 
 namespace quill {
@@ -96,26 +97,6 @@ QByteArrayList ColumnDeclarations() {
   return columns;
 }
 
-QByteArray AppointmentTable() {
-  return "CREATE TABLE appointment ("
-         "Oid INTEGER PRIMARY KEY AUTOINCREMENT CHECK (Oid BETWEEN 1 AND 2147483647), " +
-         ColumnDeclarations().join(", ") +
-         ");"
-         "CREATE INDEX appointment_by_uid ON appointment (Uid) WHERE Uid <> '';";
-}
-
-QByteArray JournalTable() {
-  const QByteArrayList names = AppointmentColumnNames();
-  return "CREATE TABLE appointment_journal ("
-         "JournalId INTEGER PRIMARY KEY, DeletedAt INTEGER NOT NULL, Oid INTEGER NOT NULL, " +
-         ColumnDeclarations().join(", ") +
-         ");"
-         "CREATE TRIGGER appointment_deleted AFTER DELETE ON appointment BEGIN "
-         "INSERT INTO appointment_journal (DeletedAt, Oid, " +
-         names.join(", ") + ") VALUES (CAST(strftime('%s', 'now') AS INTEGER), OLD.Oid, OLD." +
-         names.join(", OLD.") + "); END;";
-}
-
 }  // namespace
 
 QByteArrayList AppointmentColumnNames() {
@@ -126,7 +107,9 @@ QByteArrayList AppointmentColumnNames() {
   return names;
 }
 
-QByteArray AppointmentTables() { return AppointmentTable() + JournalTable(); }
+QByteArray AppointmentTables() {
+  return ItemTables("appointment", AppointmentColumnNames(), ColumnDeclarations());
+}
 
 AppointmentSql MakeAppointmentSql() {
   const QByteArrayList names = AppointmentColumnNames();

@@ -5,6 +5,7 @@
 #include "store/pim/AppointmentRows.h"
 #include "store/pim/ContactRows.h"
 #include "store/pim/Database.h"
+#include "store/pim/ItemTables.h"
 #include "store/pim/Journal.h"
 #include "store/pim/ListIndex.h"
 #include "store/pim/Migration.h"
@@ -15,34 +16,14 @@ namespace quill {
 
 namespace {
 
-QByteArray ContactTable() {
-  return "CREATE TABLE contact ("
-         "Oid INTEGER PRIMARY KEY AUTOINCREMENT CHECK (Oid BETWEEN 1 AND 2147483647), " +
-         ContactColumnDeclarations().join(", ") +
-         ");"
-         "CREATE INDEX contact_by_uid ON contact (Uid) WHERE Uid <> '';";
-}
-
-QByteArray JournalTable() {
-  const QByteArrayList names = ContactColumnNames();
-  return "CREATE TABLE contact_journal ("
-         "JournalId INTEGER PRIMARY KEY, DeletedAt INTEGER NOT NULL, Oid INTEGER NOT NULL, " +
-         ContactColumnDeclarations().join(", ") +
-         ");"
-         "CREATE TRIGGER contact_deleted AFTER DELETE ON contact BEGIN "
-         "INSERT INTO contact_journal (DeletedAt, Oid, " +
-         names.join(", ") + ") VALUES (CAST(strftime('%s', 'now') AS INTEGER), OLD.Oid, OLD." +
-         names.join(", OLD.") + "); END;";
-}
-
 QByteArray Identity() {
   return "PRAGMA application_id = " + QByteArray::number(kStoreApplicationId) +
          "; PRAGMA user_version = " + QByteArray::number(kStoreVersion) + ';';
 }
 
 QByteArray AllTables() {
-  return ContactTable() + JournalTable() + AppointmentTables() + ListIndexTables() +
-         CategoryTables() + JournalIndexes();
+  return ItemTables("contact", ContactColumnNames(), ContactColumnDeclarations()) +
+         AppointmentTables() + ListIndexTables() + CategoryTables() + JournalIndexes();
 }
 
 enum class SchemaState { Empty, Older, Current, Refused };
