@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "list/CategoryFilter.h"
+#include "list/MemoPage.h"
 #include "list/RestrictionText.h"
 #include "list/RowContent.h"
 #include "list/Selection.h"
@@ -49,6 +50,7 @@ void NumberRows(ListState& list) {
 
 void BuildPage(ListState& list) {
   list.RebuildDue = false;
+  if (list.Mode == ViewMode::ByMemo) return BuildMemoPage(list, g_memo);
   TakeCollection(list);
   list.Top = std::clamp(list.Top, 0, LargestTop(list));
   RefillPage(list);

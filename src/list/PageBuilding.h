@@ -9,7 +9,8 @@
 namespace quill {
 
 // Asks the store anew for what the filter lets through, moves Top into the scroll range and fills
-// the page from there. The selection stays, but for contacts that are gone.
+// the page from there. The selection stays, but for contacts that are gone. By memo the memos are
+// listed instead and no row of the page buffer is filled.
 void BuildPage(ListState& list);
 
 // Fills the page from Top again out of the collection that is already held; Total stays.

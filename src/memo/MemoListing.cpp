@@ -10,17 +10,22 @@ namespace quill {
 
 namespace {
 
-int CompareWithoutCase(QStringView a, QStringView b) { return a.compare(b, Qt::CaseInsensitive); }
+char16_t LowerUnit(QChar unit) { return unit.toLower().unicode(); }
+
+// Unit by unit, each in lower case.
+bool SortsBeforeWithoutCase(QStringView a, QStringView b) {
+  return std::ranges::lexicographical_compare(a, b, {}, &LowerUnit, &LowerUnit);
+}
 
 // Names that differ in case only, which a device's folder cannot hold, keep to one order too.
 bool SortsBefore(const QString& a, const QString& b) {
-  const int order = CompareWithoutCase(a, b);
-  return order != 0 ? order < 0 : a < b;
+  if (SortsBeforeWithoutCase(a, b)) return true;
+  return !SortsBeforeWithoutCase(b, a) && a < b;
 }
 
 bool IsInRange(QStringView name, QStringView lower, QStringView upper) {
-  const bool fromLower = CompareWithoutCase(name, lower) >= 0;
-  const bool beforeUpper = CompareWithoutCase(name, upper) < 0;
+  const bool fromLower = !SortsBeforeWithoutCase(name, lower);
+  const bool beforeUpper = SortsBeforeWithoutCase(name, upper);
   return lower < upper ? fromLower && beforeUpper : fromLower || beforeUpper;
 }
 

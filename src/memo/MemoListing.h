@@ -1,7 +1,8 @@
 // Listing memos. The folder is the only record of them: each call looks at it anew.
 //
 // Answers are file names without folder, sorted without case; a folder that cannot be read is an
-// empty one. Names are compared unit by unit, without case.
+// empty one. Names are compared unit by unit, each in lower case; so a name that begins with "_"
+// stands before "a", not behind "Z".
 #pragma once
 
 #include <QStringView>
