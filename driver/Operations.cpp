@@ -25,6 +25,7 @@ OperationTable AllOperations() {
   Append(table, StoreOperations());
   Append(table, AppointmentOperations());
   Append(table, DeviceOperations());
+  Append(table, FrameOperations());
   Append(table, SettingsOperations());
   return table;
 }

@@ -51,6 +51,7 @@ OperationTable ListOperations();
 OperationTable StoreOperations();
 OperationTable AppointmentOperations();
 OperationTable DeviceOperations();
+OperationTable FrameOperations();
 OperationTable SettingsOperations();
 
 // The answer of the operation with this name; unknown ones are refused.

@@ -1,5 +1,4 @@
-// contacts, contact, put, drop-contact, categories, notify: the store's back door, and the notice
-// that the program gets of it.
+// contacts, contact, put, drop-contact, categories: the store's back door.
 #include <QJsonArray>
 
 #include <algorithm>
@@ -9,7 +8,6 @@
 #include "driver/Operations.h"
 #include "driver/RawDates.h"
 #include "driver/StoreNotice.h"
-#include "resources/Ids.h"
 
 namespace quill::driver {
 
@@ -101,20 +99,13 @@ Answer Categories(const QJsonObject& arguments, OperationContext& context) {
   return Result(u"categories", QJsonArray::fromStringList(library->Names()));
 }
 
-Answer SendNotice(const QJsonObject& arguments, OperationContext& context) {
-  const std::optional<int> first = WholeNumber(arguments, u"param");
-  if (!first) return Refusal(kMalformed);
-  Notify(context, WholeNumber(arguments, u"message").value_or(kMessageItemWritten), *first);
-  return Done();
-}
-
 }  // namespace
 
 OperationTable StoreOperations() {
   return {
       {u"contacts", OnFolder(Contacts)}, {u"contact", OnFolder(Contact)},
       {u"put", OnFolder(Put)},           {u"drop-contact", OnFolder(DropContact)},
-      {u"categories", Categories},       {u"notify", SendNotice},
+      {u"categories", Categories},
   };
 }
 
