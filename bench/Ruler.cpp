@@ -6,7 +6,7 @@ namespace quill::bench {
 
 namespace {
 
-constexpr std::array<QStringView, kUnitCount> kUnitSigns = {u"", u"P", u"R", u"C"};
+constexpr std::array<QStringView, kUnitCount> kUnitSigns = {u"", u"P", u"R", u"C", u"V"};
 
 std::size_t IndexOf(Unit unit) { return static_cast<std::size_t>(unit); }
 

@@ -13,9 +13,9 @@
 
 namespace quill::bench {
 
-// What a time is given in besides itself: signs P, R and C in the table.
-enum class Unit { None, Page, Rows, Commit };
-inline constexpr std::size_t kUnitCount = 4;
+// What a time is given in besides itself: signs P, R, C and V in the table.
+enum class Unit { None, Page, Rows, Commit, View };
+inline constexpr std::size_t kUnitCount = 5;
 
 // Enough runs for a median, and no more than fit into some seconds.
 struct RunLimits {

@@ -1,0 +1,153 @@
+#include "PageMeasures.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTimer>
+#include <QWindow>
+
+#include <random>
+
+#include "Ruler.h"
+#include "app/Program.h"
+#include "app/ui/RunShell.h"
+#include "list/ListState.h"
+#include "list/ui/ContactListCtrl.h"
+#include "list/ui/ContactsView.h"
+#include "resources/Ids.h"
+
+namespace quill::bench {
+
+namespace {
+
+constexpr QStringView kFrame = u"16 ms";
+constexpr int kPauseForWindow = 10;  // milliseconds
+
+class PaintCounter : public QObject {
+ public:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++Count;
+    return false;
+  }
+  int Count = 0;
+};
+
+class PageMeasures {
+ public:
+  explicit PageMeasures(CContactsView& view)
+      : m_view(view), m_list(*view.findChild<CContactListCtrl*>()) {
+    m_list.installEventFilter(&m_paints);
+  }
+
+  Ruler Run() {
+    Ruler ruler;
+    const auto paintList = [this] { return UntilPainted([this] { m_list.update(); }); };
+    ruler.SetUnit(Unit::View, QStringLiteral("V: painting the list alone"), paintList, paintList);
+    MeasureIndex(ruler);
+    MeasureSearch(ruler);
+    m_view.ShowByName();
+    MeasureScrolling(ruler);
+    return ruler;
+  }
+
+ private:
+  // True when what was asked for ended in a painted list.
+  template <typename Work>
+  bool UntilPainted(Work work) {
+    const int before = m_paints.Count;
+    work();
+    QCoreApplication::sendPostedEvents();
+    return m_paints.Count > before;
+  }
+
+  template <typename Widget>
+  Widget& Control(int id) {
+    return *qobject_cast<Widget*>(m_view.Controls().at(id));
+  }
+
+  void MeasureIndex(Ruler& ruler) {
+    const int row = ruler.AddRow(QStringLiteral("index button"), kFrame, Unit::View);
+    int button = 0;
+    for (Rounds rounds = ruler.NewRounds(); rounds.Another(); button = (button + 1) % 5)
+      ruler.Run(row, [&] { return UntilPainted([&] { m_view.ChooseIndex(button + 1); }); });
+  }
+
+  void MeasureSearch(Ruler& ruler) {
+    const int row = ruler.AddRow(QStringLiteral("search"), kFrame, Unit::View);
+    auto& edit = Control<QLineEdit>(ContactsViewIds::kSearchEdit);
+    const QStringList texts = {QStringLiteral("B"), QStringLiteral("Bro"), QStringLiteral("\uAE40"),
+                               QStringLiteral("Le")};
+    qsizetype next = 0;
+    for (Rounds rounds = ruler.NewRounds(); rounds.Another(); ++next) {
+      edit.setText(texts[next % texts.size()]);
+      QCoreApplication::sendPostedEvents();
+      ruler.Run(row, [this] { return UntilPainted([this] { m_view.Search(); }); });
+    }
+  }
+
+  void MeasureScrolling(Ruler& ruler) {
+    auto& bar = Control<QScrollBar>(ContactsViewIds::kScrollBar);
+    const int thumb = ruler.AddRow(QStringLiteral("thumb"), kFrame, Unit::View);
+    const int page = ruler.AddRow(QStringLiteral("page"), kFrame, Unit::View);
+    const int line = ruler.AddRow(QStringLiteral("line"), kFrame, Unit::View);
+    const auto act = [&](int row, QAbstractSlider::SliderAction action) {
+      ruler.Run(row, [&] { return UntilPainted([&] { bar.triggerAction(action); }); });
+    };
+    std::mt19937 random(4);
+    for (Rounds rounds = ruler.NewRounds(); rounds.Another();) {
+      const int top = static_cast<int>(random() % static_cast<unsigned>(bar.maximum() - 20));
+      ruler.Run(thumb, [&] { return UntilPainted([&] { bar.setSliderPosition(top); }); });
+      act(page, QAbstractSlider::SliderPageStepAdd);
+      act(line, QAbstractSlider::SliderSingleStepAdd);
+    }
+  }
+
+  CContactsView& m_view;
+  CContactListCtrl& m_list;
+  PaintCounter m_paints;
+};
+
+// From within the program's event loop to whoever started it.
+struct Outcome {
+  std::vector<Measure> Measures;
+  QString Problem;
+};
+Outcome g_outcome;
+
+// Null until it can be painted.
+CContactsView* FindShownView() {
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    const QWindow* const surface = window->windowHandle();
+    auto* const view = window->findChild<CContactsView*>();
+    if (view && surface && surface->isExposed()) return view;
+  }
+  return nullptr;
+}
+
+// Once the application object is there: its loop runs this until the window is shown.
+void MeasureWhenShown() {
+  CContactsView* const view = FindShownView();
+  if (!view) return QTimer::singleShot(kPauseForWindow, qApp, MeasureWhenShown);
+  const Ruler ruler = PageMeasures(*view).Run();
+  g_outcome = {ruler.Measures(), ruler.Failure()};
+  QApplication::exit(0);
+}
+
+}  // namespace
+
+std::optional<std::vector<Measure>> MeasurePages(const Places& places, QString& problem) {
+  ProgramOptions options;
+  options.Where = places;
+  Program program(std::move(options));
+  qAddPreRoutine(MeasureWhenShown);
+  char name[] = "quill-page-table";
+  char* arguments[] = {name, nullptr};
+  int argumentCount = 1;
+  RunShell(program, argumentCount, arguments);
+  problem = g_outcome.Problem;
+  if (!problem.isEmpty()) return std::nullopt;
+  return g_outcome.Measures;
+}
+
+}  // namespace quill::bench
