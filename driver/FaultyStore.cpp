@@ -33,6 +33,9 @@ class FaultyContactsFolder : public ContactsFolder {
     return m_faults.Fails(u"write", oid) ? 0 : Inner().SaveWhole(oid, item);
   }
   bool Remove(Oid oid) override { return !m_faults.Fails(u"delete", oid) && Inner().Remove(oid); }
+  bool RemoveAll(const ContactCollection& collection) override {
+    return !FailsForOneOf(collection) && Inner().RemoveAll(collection);
+  }
   std::vector<Oid> FindByUid(const QString& uid) override { return Inner().FindByUid(uid); }
   std::vector<Oid> FindByFileAs(const QString& fileAs) override {
     return Inner().FindByFileAs(fileAs);
@@ -40,6 +43,12 @@ class FaultyContactsFolder : public ContactsFolder {
 
  private:
   ContactsFolder& Inner() { return *m_store.Contacts(); }
+  bool FailsForOneOf(const ContactCollection& collection) {
+    if (m_faults.CodeOf(u"delete") == 0) return false;
+    for (int position = Count(collection); position >= 1; --position)
+      if (m_faults.Fails(u"delete", OidAt(collection, position))) return true;
+    return false;
+  }
 
   StoreProvider& m_store;
   const FaultTable& m_faults;

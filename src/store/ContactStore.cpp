@@ -130,4 +130,11 @@ bool DeleteContact(Oid oid) {
   return folder && folder->Remove(oid);
 }
 
+bool DeleteContacts(const ContactCollection& collection) {
+  ContactsFolder* folder = Folder();
+  if (folder && folder->RemoveAll(collection)) return true;
+  qCWarning(storeLog) << "Contacts not deleted";
+  return false;
+}
+
 }  // namespace quill

@@ -66,5 +66,7 @@ void ReadNewContactDefaults(ContactRecord& record);
 // new contact. Reports nothing: a failure goes to the log.
 void WriteContact(Oid oid, const ContactRecord& record);
 bool DeleteContact(Oid oid);
+// All of them or, with false, none (the reason goes to the log).
+bool DeleteContacts(const ContactCollection& collection);
 
 }  // namespace quill

@@ -56,6 +56,8 @@ class ContactsFolder {
   virtual Oid SaveWhole(Oid oid, const ContactItem& item) = 0;
   // True when the contact existed and is gone now.
   virtual bool Remove(Oid oid) = 0;
+  // Removes every contact of the collection, as one change: all of them or, with false, none.
+  virtual bool RemoveAll(const ContactCollection& collection) = 0;
 
   // Contacts with this UID, and contacts with exactly this FileAs, in Oid order.
   virtual std::vector<Oid> FindByUid(const QString& uid) = 0;

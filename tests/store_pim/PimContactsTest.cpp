@@ -5,6 +5,8 @@
 #include <QFile>
 
 #include "store/Restriction.h"
+#include "store/pim/Database.h"
+#include "store/pim/StoreCheck.h"
 #include "store_pim/TemporaryStore.h"
 
 namespace quill {
@@ -145,6 +147,71 @@ TEST_F(PimContactsFolder, EachWriteIsDurableWithoutClosing) {
   EXPECT_EQ(test::Names(*afterCrash.Contacts(), afterCrash.Contacts()->Items()),
             QStringList(QStringLiteral("Kim")));
 }
+
+// Few contacts go one by one; of many the index is made anew.
+class RemovedCollection : public PimContactsFolder, public testing::WithParamInterface<int> {
+ protected:
+  // Half of them are named "a...", every fifth is of a category.
+  void SetUp() override {
+    PimContactsFolder::SetUp();
+    const auto transaction = m_store.Begin();
+    for (int i = 0; i < GetParam(); ++i) {
+      ContactRecord record;
+      record[ContactField::FileAs] = QLatin1Char(i % 2 == 0 ? 'a' : 'b') + QString::number(i);
+      if (i % 5 == 0) record[ContactField::Categories] = QStringLiteral("Work");
+      ASSERT_NE(Contacts().Save(0, record, {}), 0);
+    }
+    ASSERT_TRUE(transaction->Commit());
+  }
+
+  ContactCollection Restricted(const char* restriction) {
+    return *Contacts().Restrict(Contacts().Items(), QString::fromLatin1(restriction));
+  }
+  int CountOf(const char* restriction) { return Contacts().Count(Restricted(restriction)); }
+  bool IsSound() { return m_store.Check().Index == IndexCondition::Right; }
+};
+
+TEST_P(RemovedCollection, HoldsNothingAndTheOthersStay) {
+  EXPECT_TRUE(Contacts().RemoveAll(Restricted(R"([FileAs] < "b")")));
+  EXPECT_EQ(Contacts().Count(Contacts().Items()), GetParam() / 2);
+  EXPECT_EQ(CountOf(R"([FileAs] < "b")"), 0);
+  EXPECT_EQ(CountOf(R"([Categories] = "Work")"), GetParam() / 10);
+  EXPECT_TRUE(IsSound());
+}
+
+TEST_P(RemovedCollection, CanBeTheWholeStore) {
+  EXPECT_TRUE(Contacts().RemoveAll(Contacts().Items()));
+  EXPECT_EQ(Contacts().Count(Contacts().Items()), 0);
+  EXPECT_TRUE(IsSound());
+}
+
+TEST_P(RemovedCollection, IsInTheJournal) {
+  EXPECT_TRUE(Contacts().RemoveAll(Restricted(R"([FileAs] < "b")")));
+  Database file;
+  ASSERT_EQ(file.Open(Path()), 0);
+  EXPECT_EQ(file.Number("SELECT count(*) FROM contact_journal"), GetParam() / 2);
+}
+
+TEST_P(RemovedCollection, IsThereAgainWhenTheTransactionGoesWithoutACommit) {
+  auto transaction = m_store.Begin();
+  EXPECT_TRUE(Contacts().RemoveAll(Contacts().Items()));
+  transaction.reset();
+  EXPECT_EQ(Contacts().Count(Contacts().Items()), GetParam());
+  EXPECT_TRUE(IsSound());
+}
+
+TEST_P(RemovedCollection, StaysWholeWhenOneCannotBeRemoved) {
+  Database file;
+  ASSERT_EQ(file.Open(Path()), 0);
+  ASSERT_EQ(file.Execute("CREATE TRIGGER keep BEFORE DELETE ON contact WHEN OLD.Oid = 7 "
+                         "BEGIN SELECT RAISE(ABORT, 'kept'); END"),
+            0);
+  EXPECT_FALSE(Contacts().RemoveAll(Contacts().Items()));
+  EXPECT_EQ(Contacts().Count(Contacts().Items()), GetParam());
+  EXPECT_TRUE(IsSound());
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, RemovedCollection, testing::Values(20, 2200));
 
 }  // namespace
 }  // namespace quill

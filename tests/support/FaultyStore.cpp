@@ -40,6 +40,10 @@ Oid FaultyContacts::SaveWhole(Oid oid, const ContactItem& item) {
 
 bool FaultyContacts::Remove(Oid oid) { return Inner->Remove(oid); }
 
+bool FaultyContacts::RemoveAll(const ContactCollection& collection) {
+  return Inner->RemoveAll(collection);
+}
+
 std::vector<Oid> FaultyContacts::FindByUid(const QString& uid) { return Inner->FindByUid(uid); }
 
 std::vector<Oid> FaultyContacts::FindByFileAs(const QString& fileAs) {

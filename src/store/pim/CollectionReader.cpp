@@ -32,6 +32,12 @@ Oid CollectionReader::OidAt(const ContactCollection& collection, int position) {
   return m_window.Oids[static_cast<std::size_t>(position - m_window.Start)];
 }
 
+std::vector<Oid> CollectionReader::AllOids(const ContactCollection& collection) {
+  std::vector<Oid> oids;
+  while (const Oid oid = OidAt(collection, static_cast<int>(oids.size()) + 1)) oids.push_back(oid);
+  return oids;
+}
+
 void CollectionReader::TurnTo(const ContactCollection& collection) {
   const DataStamp stamp = m_database.Stamp();
   if (stamp == m_stamp && SameItems(collection, m_collection)) return;

@@ -25,6 +25,8 @@ class CollectionReader {
   int Count(const ContactCollection& collection);
   // Position from 1; 0 when there is no such item or the store fails.
   Oid OidAt(const ContactCollection& collection, int position);
+  // In their order; those read until then when the store fails.
+  std::vector<Oid> AllOids(const ContactCollection& collection);
 
  private:
   // A window of consecutive items, and where the items after it stand in the index.

@@ -4,6 +4,7 @@
 
 #include "store/ContactFields.h"
 #include "store/FileAsName.h"
+#include "store/pim/RemoveContacts.h"
 #include "store/pim/RestrictionSql.h"
 
 namespace quill {
@@ -88,6 +89,12 @@ bool PimContacts::Remove(Oid oid) {
   Query query = m_database.Prepare("DELETE FROM contact WHERE Oid = ?1");
   query.BindNumber(1, oid);
   return query.Run() && m_database.ChangedRows() == 1;
+}
+
+bool PimContacts::RemoveAll(const ContactCollection& collection) {
+  const int storeSize = Count(Items());
+  return m_database.MayWrite() &&
+         RemoveContacts(m_database, m_reader.AllOids(collection), storeSize);
 }
 
 std::vector<Oid> PimContacts::FindByUid(const QString& uid) {

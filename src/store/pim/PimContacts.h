@@ -26,6 +26,7 @@ class PimContacts : public ContactsFolder {
   Oid Save(Oid oid, const ContactRecord& record, const QByteArray& bodyInk) override;
   Oid SaveWhole(Oid oid, const ContactItem& item) override;
   bool Remove(Oid oid) override;
+  bool RemoveAll(const ContactCollection& collection) override;
   std::vector<Oid> FindByUid(const QString& uid) override;
   std::vector<Oid> FindByFileAs(const QString& fileAs) override;
 
