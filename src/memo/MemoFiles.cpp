@@ -1,0 +1,23 @@
+#include "memo/MemoFiles.h"
+
+#include "memo/MemoFolder.h"
+#include "platform/DeviceFiles.h"
+#include "platform/Services.h"
+
+namespace quill {
+
+// The device files' answers are ignored: they have said on the log what they could not do.
+
+void DeleteMemo(const MemoState& memo, const QString& name) {
+  if (!name.isEmpty()) g_services.Files->Remove(MemoPath(memo, name));
+}
+
+void DeleteMemos(const MemoState& memo, qsizetype first, qsizetype count) {
+  for (const QString& name : memo.NameList.mid(first, count)) DeleteMemo(memo, name);
+}
+
+void MoveMemo(const QString& from, const QString& to) { g_services.Files->Move(from, to); }
+
+void CopyMemo(const QString& from, const QString& to) { g_services.Files->Copy(from, to); }
+
+}  // namespace quill
