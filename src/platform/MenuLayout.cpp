@@ -8,6 +8,7 @@ namespace quill {
 namespace {
 
 constexpr int kBorder = 1;
+constexpr int kMargin = 20;       // of the screen, for a pen that wants to leave the menu
 constexpr int kCheckColumn = 16;  // left of the text
 constexpr int kArrowColumn = 16;  // right of it
 constexpr int kPictureSize = 14;
@@ -115,21 +116,19 @@ MenuLayout LayOutMenu(const std::vector<MenuItem>& items, const MenuLayoutReques
   MenuLayout layout;
   const int count = static_cast<int>(std::ssize(items));
   const int whole = HeightOf(items, 0, count - 1) + 2 * kBorder;
-  const bool scrolls = whole > request.Screen.height();
+  const int height = std::min(whole, request.Screen.height() - kMargin);
+  const bool scrolls = whole > height;
   const int strips = scrolls ? 2 * kMenuStripHeight : 0;
-  const int room = std::min(whole, request.Screen.height()) - 2 * kBorder - strips;
+  const int room = height - 2 * kBorder - strips;
   layout.FirstItem = scrolls ? std::clamp(request.FirstItem, 0, GreatestFirst(items, room)) : 0;
   layout.LastItem = scrolls ? LastFitting(items, layout.FirstItem, room) : count - 1;
 
-  const QSize size{MenuWidth(items, width, request.Screen.width()),
-                   std::min(whole, request.Screen.height())};
+  const QSize size{MenuWidth(items, width, request.Screen.width() - kMargin), height};
   layout.Frame = QRect(MenuOrigin(size, request), size);
   const int inner = size.width() - 2 * kBorder;
-  if (scrolls) {
-    layout.UpStrip = {kBorder, kBorder, inner, kMenuStripHeight};
-    layout.DownStrip = {kBorder, size.height() - kBorder - kMenuStripHeight, inner,
-                        kMenuStripHeight};
-  }
+  if (layout.FirstItem > 0) layout.UpStrip = {kBorder, kBorder, inner, kMenuStripHeight};
+  if (layout.LastItem < count - 1)
+    layout.DownStrip = {kBorder, height - kBorder - kMenuStripHeight, inner, kMenuStripHeight};
   int y = kBorder + strips / 2;
   for (int i = layout.FirstItem; i <= layout.LastItem; ++i) {
     const MenuItem& item = items[static_cast<std::size_t>(i)];

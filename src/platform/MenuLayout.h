@@ -22,7 +22,7 @@ enum class MenuPlacement { Drop, Beside };
 struct MenuLayoutRequest {
   QRect Anchor;  // on the screen; of empty size for a point
   MenuPlacement Placement = MenuPlacement::Drop;
-  QSize Screen;       // the menu always stands inside
+  QSize Screen;       // the menu always stands inside and never takes all of it
   int FirstItem = 0;  // the first item shown, when not all fit
   int Current = -1;   // the highlighted item, -1 none
 };
@@ -32,8 +32,8 @@ struct MenuLayout {
   std::vector<PaintedRow> Rows;  // relative to Frame; Key is the item's index
   int FirstItem = 0;             // the request's, clamped
   int LastItem = -1;             // the last item shown
-  QRect UpStrip;                 // null when nothing scrolls
-  QRect DownStrip;
+  QRect UpStrip;                 // null when there is nothing more above
+  QRect DownStrip;               // null when there is nothing more below
 };
 
 MenuLayout LayOutMenu(const std::vector<MenuItem>& items, const MenuLayoutRequest& request,

@@ -55,10 +55,10 @@ TEST(MenuLayout, TheWidestTextFits) {
     }
 }
 
-TEST(MenuLayout, AWidthBeyondTheScreenIsCutToIt) {
+TEST(MenuLayout, AWideMenuLeavesAMarginToPressBesideIt) {
   const MenuLayout layout = LayOut({Command(QString(100, u'x'))});
-  EXPECT_EQ(layout.Frame.width(), 240);
-  EXPECT_EQ(layout.Frame.left(), 0);
+  EXPECT_EQ(layout.Frame.width(), 220);
+  EXPECT_TRUE(kAllScreen.contains(layout.Frame));
 }
 
 TEST(MenuLayout, ADroppedMenuStandsBelowItsAnchor) {
@@ -100,36 +100,46 @@ INSTANTIATE_TEST_SUITE_P(
                      testing::Values(1, 10, 18, 19, 200)));
 
 TEST(MenuLayout, AMenuThatJustFitsHasNoStrips) {
-  // 18 rows of 17 pixels and the border.
-  const MenuLayout layout = LayOut(Commands(18));
+  // 17 rows of 17 pixels and the border.
+  const MenuLayout layout = LayOut(Commands(17));
   EXPECT_TRUE(layout.UpStrip.isNull());
   EXPECT_TRUE(layout.DownStrip.isNull());
-  EXPECT_EQ(layout.Rows.size(), 18U);
+  EXPECT_EQ(layout.Rows.size(), 17U);
 }
 
 TEST(MenuLayout, ALongerMenuShowsAsManyItemsAsFitBetweenItsStrips) {
-  const MenuLayout layout = LayOut(Commands(40));
-  EXPECT_EQ(layout.Frame.height(), 320);
+  const MenuLayout layout = LayOutFrom(Commands(40), 1);
+  EXPECT_EQ(layout.Frame.height(), 300);
   EXPECT_EQ(layout.UpStrip.height(), 10);
   EXPECT_EQ(layout.DownStrip.height(), 10);
-  ASSERT_EQ(layout.Rows.size(), 17U);  // (320 - 2 - 20) / 17
+  ASSERT_EQ(layout.Rows.size(), 16U);  // (300 - 2 - 20) / 17
   EXPECT_EQ(layout.Rows.front().Rectangle.top(), layout.UpStrip.bottom() + 1);
   EXPECT_LT(layout.Rows.back().Rectangle.bottom(), layout.DownStrip.top());
-  EXPECT_EQ(layout.FirstItem, 0);
+  EXPECT_EQ(layout.FirstItem, 1);
   EXPECT_EQ(layout.LastItem, 16);
+}
+
+TEST(MenuLayout, AStripThatLeadsNowhereIsNotThere) {
+  const MenuLayout begin = LayOutFrom(Commands(40), 0);
+  EXPECT_TRUE(begin.UpStrip.isNull());
+  EXPECT_FALSE(begin.DownStrip.isNull());
+  const MenuLayout end = LayOutFrom(Commands(40), 39);
+  EXPECT_FALSE(end.UpStrip.isNull());
+  EXPECT_TRUE(end.DownStrip.isNull());
+  EXPECT_EQ(begin.Rows.front().Rectangle.top(), end.Rows.front().Rectangle.top());
 }
 
 TEST(MenuLayout, AScrolledMenuKeepsTheItemsOwnNumbers) {
   const MenuLayout layout = LayOutFrom(Commands(40), 10);
   EXPECT_EQ(layout.FirstItem, 10);
   EXPECT_EQ(layout.Rows.front().Key, 10);
-  EXPECT_EQ(layout.LastItem, 26);
+  EXPECT_EQ(layout.LastItem, 25);
 }
 
 TEST(MenuLayout, AMenuScrollsNoFurtherThanItsEnds) {
   const MenuLayout end = LayOutFrom(Commands(40), 39);
   EXPECT_EQ(end.LastItem, 39);
-  EXPECT_EQ(end.Rows.size(), 17U);
+  EXPECT_EQ(end.Rows.size(), 16U);
   EXPECT_EQ(LayOutFrom(Commands(40), -5).FirstItem, 0);
   EXPECT_EQ(LayOutFrom(Commands(5), 3).FirstItem, 0) << "nothing to scroll";
 }
@@ -154,8 +164,8 @@ TEST(MenuLayout, AnItemInViewDoesNotScrollTheMenu) {
   const std::vector<MenuItem> items = Commands(40);
   const MenuLayout layout = LayOutFrom(items, 10);
   EXPECT_EQ(FirstItemToShow(items, layout, 10), 10);
-  EXPECT_EQ(FirstItemToShow(items, layout, 26), 10);
-  EXPECT_EQ(FirstItemToShow(items, layout, 27), 11);
+  EXPECT_EQ(FirstItemToShow(items, layout, 25), 10);
+  EXPECT_EQ(FirstItemToShow(items, layout, 26), 11);
   EXPECT_EQ(FirstItemToShow(items, layout, 9), 9);
 }
 
