@@ -15,7 +15,7 @@ constexpr QStringView kSeveral = u"Multi";
 PaintedRow LayOutCategoryLabel(const ListState& list) {
   const QPoint origin = kCategoryLabelArea.topLeft();
   const QString label = list.CategoryCount == 1 ? list.CategoryName : kSeveral.toString();
-  const bool isLong = list.CategoryName.size() >= kLongName;
+  const bool isLong = label.size() >= kLongName;
   return {.Rectangle = CategoryTapArea().translated(-origin),
           .SpokenName = QStringLiteral("Category: ") + label,
           .Role = PaintedRole::Button,

@@ -22,6 +22,7 @@ constexpr int kIconSize = 14;
 constexpr Rgb kIconColor = 0x2F5568;
 
 constexpr QStringView kNoCompany = u"<None>";
+constexpr QStringView kNoName = u"(no name)";  // spoken only
 constexpr QStringView kEmptyHint = u"Add people: quill import FILE.vcf";
 
 QRect RowRectangle(int row) { return {0, row * kListRowHeight, kListWidth, kListRowHeight}; }
@@ -46,7 +47,9 @@ RowTexts TextsOf(const ListState& list, const ListRow& row) {
 }
 
 QString SpokenName(const RowTexts& texts) {
-  if (texts.First.isEmpty() || texts.Second.isEmpty()) return texts.First + texts.Second;
+  const QString one = texts.First + texts.Second;
+  if (one.isEmpty()) return kNoName.toString();
+  if (texts.First.isEmpty() || texts.Second.isEmpty()) return one;
   return texts.First + QStringLiteral(", ") + texts.Second;
 }
 
@@ -106,7 +109,7 @@ PaintedRow LayOutHint() {
 }
 
 bool IsEmptyStore(const ListState& list) {
-  return list.Mode != ViewMode::ByMemo && list.Filter == FilterKind::None && list.Total == 0;
+  return list.Mode != ViewMode::ByMemo && list.Restriction.isEmpty() && list.Total == 0;
 }
 
 }  // namespace

@@ -38,7 +38,7 @@ bool TapMachine::KeepsItem(const ListState& list) const {
 }
 
 TapIntention TapMachine::Move(const ListState& list, QPoint at, int listHeight) {
-  if (!IsDown()) return {};
+  if (!IsDown() || (m_phase == Phase::Pressed && at == m_pressedAt)) return {};
   if (!KeepsItem(list)) return Cancel();
   if (IsInMoveBand(at.y(), listHeight)) return DragTo(list, ListRowAt(at.y()));
   m_phase = Phase::Dragging;
@@ -67,7 +67,8 @@ TapIntention TapMachine::Release(const ListState& list, QPoint at) {
   intention.Action = m_current == m_anchor ? ActionOfTap(list, at.x()) : TapAction::EndRun;
   intention.Row = m_anchor;
   intention.At = at;
-  if (intention.Action == TapAction::Open) m_phase = Phase::Opened;
+  const bool opens = intention.Action != TapAction::EndRun;
+  if (opens) m_phase = Phase::Opened;
   return intention;
 }
 

@@ -41,7 +41,8 @@ struct TapIntention {
 class TapMachine {
  public:
   TapIntention Press(const ListState& list, QPoint at);
-  // listHeight: of the control. Moves near its lower end and above it drag no further.
+  // listHeight: of the control. Moves near its lower end and above it drag no further. A pen that
+  // tells of another pressure at the same point has not moved.
   TapIntention Move(const ListState& list, QPoint at, int listHeight);
   TapIntention Release(const ListState& list, QPoint at);
   TapIntention Hold(const ListState& list);
@@ -56,7 +57,7 @@ class TapMachine {
     Pressed,   // the hold timer runs
     Dragging,  // it was stopped, for good
     Held,      // the timer fired or a double tap opened: the release does nothing
-    Opened,    // idle; the last tap opened
+    Opened,    // idle; the last tap opened something
   };
 
   bool IsDown() const { return m_phase == Phase::Pressed || m_phase == Phase::Dragging; }

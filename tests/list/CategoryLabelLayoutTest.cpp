@@ -33,7 +33,7 @@ INSTANTIATE_TEST_SUITE_P(
         LabelCase{QStringLiteral("Relatives"), 1, QStringLiteral("Relatives"), TextAlign::Left},
         LabelCase{QStringLiteral("친구"), 1, QStringLiteral("친구"), TextAlign::Right},
         LabelCase{QStringLiteral("A,B"), 2, QStringLiteral("Multi"), TextAlign::Right},
-        LabelCase{QStringLiteral("Work,Friends"), 2, QStringLiteral("Multi"), TextAlign::Left},
+        LabelCase{QStringLiteral("Work,Friends"), 2, QStringLiteral("Multi"), TextAlign::Right},
         LabelCase{QStringLiteral("Work"), 0, QStringLiteral("Multi"), TextAlign::Right}));
 
 TEST(CategoryLabelLayout, TextAndTapAreaHaveTheirPlacesInTheView) {

@@ -181,7 +181,7 @@ TEST(ListLayout, AnEmptyStoreShowsOneLineOnHowToAddPeople) {
 
 TEST(ListLayout, AFilterThatFindsNobodyShowsNoSuchLine) {
   ListState list;
-  list.Filter = FilterKind::Range;
+  list.Restriction = QStringLiteral(R"([FileAs] >= "x")");
   const std::vector<PaintedRow> rows = LayOut(list);
   ASSERT_EQ(rows.size(), 1U);
   EXPECT_EQ(rows[0].Role, PaintedRole::Separator);

@@ -85,11 +85,33 @@ TEST_F(ListGesturesTest, ATapOnTheCardsStripAsksForTheCardThere) {
   EXPECT_EQ(SelectedRows(), Rows{2});
 }
 
-TEST_F(ListGesturesTest, ADoubleTapThereOpensOnce) {
+TEST_F(ListGesturesTest, ADoubleTapThereOpensNothingOverTheCard) {
   m_input.Tap(OnRow(2, 200));
   m_input.PressAgain(OnRow(2, 200));
-  m_input.Release(OnRow(2, 200));
-  EXPECT_EQ(Asked(), QStringLiteral("card 2 at 200,40;open 2"));
+  EXPECT_EQ(Asked(), QStringLiteral("card 2 at 200,40"));
+}
+
+TEST_F(ListGesturesTest, APenThatTellsOfPressureAloneHasNotMoved) {
+  const QPoint atBottom = OnRow(13);  // where moves drag no further
+  m_input.Press(atBottom);
+  m_input.Move(atBottom);
+  m_timers.Advance(500);
+  EXPECT_TRUE(Asked().startsWith(QStringLiteral("popup 13"))) << Asked().toStdString();
+}
+
+TEST_F(ListGesturesTest, ATapThatEndsBesideTheListOpens) {
+  m_input.Press(OnRow(2));
+  m_input.Move({300, 400});
+  m_input.Release({300, 400});
+  EXPECT_EQ(Asked().section(u' ', 0, 1), QStringLiteral("open 2"));
+}
+
+TEST_F(ListGesturesTest, TheMenuKeyAsksForThePopupOfARunsFirstRow) {
+  m_input.Press(OnRow(2));
+  m_input.Move(OnRow(4));
+  m_input.Release(OnRow(4));
+  m_input.Key(Qt::Key_Menu);
+  EXPECT_TRUE(Asked().startsWith(QStringLiteral("popup 2"))) << Asked().toStdString();
 }
 
 TEST_F(ListGesturesTest, HalfASecondOnARowAsksForItsPopup) {

@@ -46,7 +46,6 @@ QPoint PopupPlace(int row) { return {kListWidth / 2, (row + 1) * kListRowHeight}
 }  // namespace
 
 CContactListCtrl::CContactListCtrl(QWidget* view) : CPaintedWindow(view, QAccessible::List) {
-  setAccessibleName(QStringLiteral("Contacts"));
   setFocusPolicy(Qt::StrongFocus);
   SetBackground(kListBackground);
 }
@@ -56,6 +55,8 @@ CContactListCtrl::~CContactListCtrl() {
 }
 
 void CContactListCtrl::ShowPage() {
+  const bool isByMemo = g_list.Mode == ViewMode::ByMemo;
+  setAccessibleName(isByMemo ? QStringLiteral("Memos") : QStringLiteral("Contacts"));
   if (!g_store.Provider) return SetRows({});  // without a store nobody can be added
   SetRows(LayOutList(g_list, g_memo.NameList, NormalTextWidth()));
 }
@@ -109,18 +110,28 @@ void CContactListCtrl::keyPressEvent(QKeyEvent* event) {
   const auto move = std::ranges::find(kMoveKeys, event->key(), &MoveKey::Key);
   if (move != kMoveKeys.end()) {
     if (MoveAsked) MoveAsked(move->Move);
-  } else if (!ActOnSelected(*event, SingleSelectedRow(g_list))) {
+  } else if (event->isAutoRepeat() || !(AskForPopup(*event) || ActOnSelected(*event))) {
     CPaintedWindow::keyPressEvent(event);
   }
 }
 
-// Without a row that is selected alone the keys go on to the screen.
-bool CContactListCtrl::ActOnSelected(const QKeyEvent& event, int row) {
-  if (row < 0 || event.isAutoRepeat()) return false;
+// Without a selected row under it the key goes on to the screen.
+bool CContactListCtrl::AskForPopup(const QKeyEvent& event) {
+  const int row = g_list.CurrentRow;
+  if (!IsMenuKey(event) || !IsSelectableRow(g_list, row) ||
+      !IsKeySelected(g_list, KeyOfRow(g_list, row))) {
+    return false;
+  }
+  Ask({.Action = TapAction::ShowPopup, .Row = row, .At = PopupPlace(row)});
+  return true;
+}
+
+// Without a row that is selected alone these keys go on, too.
+bool CContactListCtrl::ActOnSelected(const QKeyEvent& event) {
+  const int row = SingleSelectedRow(g_list);
+  if (row < 0) return false;
   if (IsOpenKey(event)) {
     Ask({.Action = TapAction::Open, .Row = row});
-  } else if (IsMenuKey(event)) {
-    Ask({.Action = TapAction::ShowPopup, .Row = row, .At = PopupPlace(row)});
   } else if (event.key() == Qt::Key_Right && g_list.Mode != ViewMode::ByMemo) {
     Ask({.Action = TapAction::ShowCard,
          .Row = row,

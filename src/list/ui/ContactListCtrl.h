@@ -45,7 +45,8 @@ class CContactListCtrl : public CPaintedWindow, public TimerTarget {
  private:
   void CarryOut(const TapIntention& intention);
   void Ask(const TapIntention& intention);
-  bool ActOnSelected(const QKeyEvent& event, int row);
+  bool AskForPopup(const QKeyEvent& event);
+  bool ActOnSelected(const QKeyEvent& event);
 
   TapMachine m_taps;
   int m_wheelRest = 0;  // turned but not yet a whole line, in the wheel's units
