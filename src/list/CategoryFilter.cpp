@@ -2,11 +2,27 @@
 
 #include <algorithm>
 
+#include "list/Selection.h"
 #include "store/CategoryText.h"
 
 namespace quill {
 
 bool IsCategoryChosen(const ListState& list) { return list.CategoryName != kShowAllCategories; }
+
+void FilterByCategory(ListState& list, const QString& name, int count) {
+  list.Filter = FilterKind::Category;
+  list.SubFilter = FilterSubKind::None;
+  list.CategoryName = name;
+  list.CategoryCount = count;
+  list.IndexButton = 0;
+  list.Top = 0;
+  DropSelection(list);
+}
+
+void DropCategory(ListState& list) {
+  list.CategoryName = kShowAllCategories.toString();
+  list.CategoryCount = 1;
+}
 
 QString CategoryToMatch(const ListState& list) {
   return list.CategoryName == kNoCategories ? QString() : list.CategoryName;

@@ -13,6 +13,13 @@ inline constexpr int kSeveralCategoriesLimit = 1023;  // UTF-16 units of either 
 
 bool IsCategoryChosen(const ListState& list);
 
+// Makes a choice from the category menu the list's filter, instead of an index button or a search,
+// and goes to its first row; the page is not built. name may be "Show All", or several names with
+// commas between them; count is how many they are.
+void FilterByCategory(ListState& list, const QString& name, int count);
+// No category is chosen any more; the filter's kind stays.
+void DropCategory(ListState& list);
+
 // The names asked of the store: empty for kNoCategories.
 QString CategoryToMatch(const ListState& list);
 

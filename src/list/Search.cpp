@@ -9,8 +9,7 @@ void SearchList(ListState& list, const QString& text) {
   list.SearchText = text;
   list.Filter = text.isEmpty() ? FilterKind::None : FilterKind::Range;
   list.SubFilter = text.isEmpty() ? FilterSubKind::None : FilterSubKind::SearchText;
-  list.CategoryName = kShowAllCategories.toString();
-  list.CategoryCount = 1;
+  DropCategory(list);
   list.IndexButton = 0;
   list.Top = 0;
   DropSelection(list);

@@ -1,5 +1,6 @@
 #include "list/StartUp.h"
 
+#include "list/CategoryMenu.h"
 #include "list/ListAreas.h"
 #include "list/PageBuilding.h"
 #include "memo/MemoFolder.h"
@@ -15,6 +16,7 @@ StartupCode StartList(StoreProvider& provider) {
   LoadSettings(g_settings);
   g_list.RowsPerPage = LayOutAreas(g_settings).RowsPerPage;
   OpenCategoryLibrary();  // a failure is on the log: the list works without
+  FillCategoryMenu(g_categoryMenu, OfferedCategories(), g_list.CategoryName);
   BuildPage(g_list);
   return code;
 }

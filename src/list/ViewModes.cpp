@@ -9,8 +9,7 @@ void SwitchViewMode(ListState& list, ViewMode mode) {
   list.Mode = mode;
   list.Filter = FilterKind::None;
   list.SubFilter = FilterSubKind::None;
-  list.CategoryName = kShowAllCategories.toString();
-  list.CategoryCount = 1;
+  DropCategory(list);
   list.Top = 0;
   DropSelection(list);
   list.IndexButton = 0;

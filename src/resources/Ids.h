@@ -31,6 +31,10 @@ inline constexpr int ID_OPEN_APPOINTMENT_LAST = 33200;
 inline constexpr int ID_OPEN_MEMO_FIRST = 33201;  // one for each linked memo
 inline constexpr int ID_OPEN_MEMO_LAST = 33400;
 
+// The menu behind the category label: "Show All", the categories, "More...".
+inline constexpr int ID_CATEGORY_FIRST = 107;
+inline constexpr int ID_CATEGORY_LAST = 1107;
+
 // The shell's own commands: the button for the input panel and the menu behind the title bar.
 inline constexpr int ID_SHELL_INPUT_PANEL = 60000;
 inline constexpr int ID_SHELL_LARGER = 60001;

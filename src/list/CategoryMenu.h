@@ -1,0 +1,41 @@
+// The menu behind the category label: "Show All", the library's categories, "More...".
+#pragma once
+
+#include <QStringList>
+
+#include <vector>
+
+#include "list/ListState.h"
+#include "platform/MenuModel.h"
+
+namespace quill {
+
+inline constexpr QStringView kMoreCategories = u"More...";
+inline constexpr int kCategoryTextLimit = 128;  // UTF-16 units of an item's text that are read back
+
+// As it was shown last. The item at a position (0-based) runs ID_CATEGORY_FIRST + position.
+struct CategoryMenu {
+  QStringList Texts = {};
+  std::vector<bool> Checked = {};  // one for each text
+};
+extern CategoryMenu g_categoryMenu;
+
+// offered: the library's categories, in its order. Checked is what chosen, names with commas
+// between them, says exactly.
+void FillCategoryMenu(CategoryMenu& menu, const QStringList& offered, const QString& chosen);
+
+std::vector<MenuItem> CategoryMenuItems(const CategoryMenu& menu);
+
+enum class CategoryChoice {
+  Ignored,     // by memo, or an id past the menu's last
+  Chosen,      // the list is filtered by it now; its page is not built
+  AskForMore,  // "More...": nothing has changed yet
+};
+CategoryChoice ChooseCategory(ListState& list, CategoryMenu& menu, int id);
+
+// What was chosen behind "More...": names as ChooseSeveral of the library gives them, and their
+// positions in it, ended by kCategoryPositionsEnd. No names: nothing changes, false.
+bool ChooseSeveralCategories(ListState& list, CategoryMenu& menu, const QStringList& offered,
+                             const QString& names, const std::vector<int>& positions);
+
+}  // namespace quill

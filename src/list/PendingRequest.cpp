@@ -1,0 +1,30 @@
+#include "list/PendingRequest.h"
+
+#include "store/ContactStore.h"
+#include "store/Restriction.h"
+
+namespace quill {
+
+PendingRequest g_pendingRequest;
+
+namespace {
+
+Oid FindByName(const QString& fileAs) {
+  const ContactCollection named = RestrictContacts(
+      AllContacts(), QStringLiteral("[FileAs] = ") + QuoteRestrictionValue(fileAs));
+  ContactRecord record;
+  return ReadListRow({named, 1}, record);
+}
+
+}  // namespace
+
+RequestAnswer TakeRequest(PendingRequest& request, int kind, const QString& text) {
+  const auto asked = static_cast<PendingKind>(kind);
+  if (asked != PendingKind::Show && asked != PendingKind::ShowAgain) return RequestAnswer::Ignored;
+  const Oid contact = FindByName(text);
+  if (contact == 0) return RequestAnswer::NotFound;
+  request = {.Kind = asked, .Contact = contact};
+  return RequestAnswer::Kept;
+}
+
+}  // namespace quill

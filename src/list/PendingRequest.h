@@ -1,0 +1,35 @@
+// What another program asks of the list: kept until the list can show it.
+#pragma once
+
+#include <QString>
+
+#include "list/ListState.h"
+
+namespace quill {
+
+inline constexpr int kRequestTimer = 5;
+inline constexpr int kRequestMilliseconds = 100;
+
+// The kinds as they come with the message.
+enum class PendingKind {
+  None = 0,
+  Show = 1,       // the contact that the text names
+  ShowAgain = 4,  // the same by another entry
+};
+
+// The latest request takes the place of an earlier one.
+struct PendingRequest {
+  PendingKind Kind = PendingKind::None;
+  Oid Contact = 0;
+};
+extern PendingRequest g_pendingRequest;
+
+enum class RequestAnswer {
+  Ignored,   // an unknown kind
+  NotFound,  // no contact is filed under exactly this text
+  Kept,      // in request now
+};
+// Of several contacts of one name the first in the store's order is meant.
+RequestAnswer TakeRequest(PendingRequest& request, int kind, const QString& text);
+
+}  // namespace quill

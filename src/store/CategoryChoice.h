@@ -1,0 +1,6 @@
+// The category library's chooser.
+#pragma once
+
+namespace quill {
+inline constexpr int kCategoryPositionsEnd = 35;
+}  // namespace quill

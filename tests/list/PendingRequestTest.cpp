@@ -1,0 +1,69 @@
+#include "list/PendingRequest.h"
+
+#include "ListTest.h"
+
+namespace quill {
+namespace {
+
+class PendingRequestTest : public test::ListTest {
+ protected:
+  PendingRequest m_request;
+};
+
+TEST_F(PendingRequestTest, KeepsTheContactThatIsFiledUnderTheText) {
+  Add(u"Adams"_qs);
+  const Oid kim = Add(u"Kim"_qs);
+  EXPECT_EQ(TakeRequest(m_request, 1, u"Kim"_qs), RequestAnswer::Kept);
+  EXPECT_EQ(m_request.Kind, PendingKind::Show);
+  EXPECT_EQ(m_request.Contact, kim);
+}
+
+TEST_F(PendingRequestTest, KindFourIsTheSameByAnotherEntry) {
+  const Oid kim = Add(u"Kim"_qs);
+  EXPECT_EQ(TakeRequest(m_request, 4, u"Kim"_qs), RequestAnswer::Kept);
+  EXPECT_EQ(m_request.Kind, PendingKind::ShowAgain);
+  EXPECT_EQ(m_request.Contact, kim);
+}
+
+TEST_F(PendingRequestTest, OfTwoOfOneNameTheFirstInTheStoresOrderIsMeant) {
+  const Oid first = Add(u"Kim"_qs);
+  Add(u"Kim"_qs);
+  TakeRequest(m_request, 1, u"Kim"_qs);
+  EXPECT_EQ(m_request.Contact, first);
+}
+
+TEST_F(PendingRequestTest, ABeginningOfANameIsNotFound) {
+  Add(u"Kimberly"_qs);
+  EXPECT_EQ(TakeRequest(m_request, 1, u"Kim"_qs), RequestAnswer::NotFound);
+  EXPECT_EQ(m_request.Kind, PendingKind::None);
+}
+
+TEST_F(PendingRequestTest, QuotesInANameAreFound) {
+  const Oid oid = Add(u"Kim \"the\" one"_qs);
+  EXPECT_EQ(TakeRequest(m_request, 1, u"Kim \"the\" one"_qs), RequestAnswer::Kept);
+  EXPECT_EQ(m_request.Contact, oid);
+}
+
+TEST_F(PendingRequestTest, TheLatestTakesTheEarliersPlaceAndOneNotFoundDoesNot) {
+  const Oid kim = Add(u"Kim"_qs);
+  const Oid lee = Add(u"Lee"_qs);
+  TakeRequest(m_request, 1, u"Kim"_qs);
+  TakeRequest(m_request, 1, u"Lee"_qs);
+  EXPECT_EQ(m_request.Contact, lee);
+  TakeRequest(m_request, 1, u"Nobody"_qs);
+  EXPECT_EQ(m_request.Contact, lee);
+  EXPECT_NE(kim, lee);
+}
+
+class UnknownRequest : public PendingRequestTest, public testing::WithParamInterface<int> {};
+
+TEST_P(UnknownRequest, IsIgnored) {
+  Add(u"Kim"_qs);
+  EXPECT_EQ(TakeRequest(m_request, GetParam(), u"Kim"_qs), RequestAnswer::Ignored);
+  EXPECT_EQ(m_request.Contact, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, UnknownRequest, testing::Values(-1, 0, 3, 5, 1000));
+
+}  // namespace
+}  // namespace quill
