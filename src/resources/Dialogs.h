@@ -12,7 +12,8 @@
 
 namespace quill::resources {
 
-enum class ControlKind { Label, CentredLabel, Edit, Button, Check, DropDown };
+// A wrapped label's text begins at its top and goes on below.
+enum class ControlKind { Label, CentredLabel, WrappedLabel, Edit, Button, Check, DropDown };
 enum class ControlState { Visible, Hidden };
 
 struct Rectangle {

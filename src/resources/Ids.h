@@ -54,6 +54,8 @@ inline constexpr int kResultOK = 1;
 inline constexpr int kResultCancel = 2;
 inline constexpr int kResultYes = 6;
 inline constexpr int kResultNo = 7;
+// The OK button of a dialog that numbers it so: the result is kResultOK all the same.
+inline constexpr int kOKButton = 1064;
 
 namespace MessageBoxIds {
 inline constexpr int kIcon = 20;
@@ -75,6 +77,11 @@ inline constexpr int kVersion = 1002;
 inline constexpr int kMaker = 1003;
 inline constexpr int kLicence = 1004;
 }  // namespace AboutDialogIds
+
+namespace DeleteConfirmIds {
+inline constexpr int kDialog = 134;
+inline constexpr int kMessage = 1030;
+}  // namespace DeleteConfirmIds
 
 // The messages that tell the main frame of changes in the store, and the one it hands to the view.
 inline constexpr int kMessageItemWritten = 1025;

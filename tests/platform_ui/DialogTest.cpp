@@ -63,6 +63,27 @@ TEST_F(DialogTest, LabelsAreAlignedAsTheirKindSaysAndNeverMarkup) {
   EXPECT_EQ(left->textFormat(), Qt::PlainText);
 }
 
+TEST_F(DialogTest, AWrappedLabelBeginsAtItsTopAndGoesOnBelow) {
+  constexpr std::array kLabels = {resources::DialogControl{
+      resources::ControlKind::WrappedLabel, 1001, u"some words", {0, 0, 30, 60}}};
+  const SampleDialog dialog(*m_screen, {1, u"Label", {10, 40, 100, 80}, kLabels});
+  const auto* label = qobject_cast<QLabel*>(dialog.Control(1001));
+  EXPECT_EQ(label->alignment(), Qt::AlignLeft | Qt::AlignTop);
+  EXPECT_TRUE(label->wordWrap());
+  EXPECT_EQ(label->textFormat(), Qt::PlainText);
+}
+
+TEST_F(DialogTest, AnOKButtonOfEitherNumberEndsItWithOK) {
+  for (const int id : {kResultOK, kOKButton}) {
+    const std::array controls = {
+        resources::DialogControl{resources::ControlKind::Button, id, u"OK", {0, 0, 64, 26}}};
+    SampleDialog dialog(*m_screen, {1, u"Buttons", {10, 40, 100, 80}, controls});
+    const test::Steps steps(*m_screen,
+                            {[&] { qobject_cast<QPushButton*>(dialog.Control(id))->click(); }});
+    EXPECT_EQ(dialog.DoModal(), kResultOK);
+  }
+}
+
 TEST_F(DialogTest, ItsNameForAssistiveTechnologyIsItsCaption) {
   EXPECT_EQ(SampleDialog(*m_screen).accessibleName(), QStringLiteral("Sample"));
 }

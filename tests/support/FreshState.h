@@ -7,6 +7,7 @@
 #include "list/ListState.h"
 #include "memo/MemoState.h"
 #include "platform/Services.h"
+#include "settings/DeleteScope.h"
 #include "settings/Settings.h"
 #include "store/ContactStore.h"
 
@@ -19,6 +20,7 @@ inline void ResetProcessState() {
   g_list = {};
   g_memo = {};
   g_settings = {};
+  g_deleteScope = {};
   g_services = {};
 }
 

@@ -19,6 +19,13 @@ QLabel* MakeLabel(const QString& text, Qt::Alignment alignment, QWidget* parent)
   return label;
 }
 
+QLabel* MakeWrappedLabel(const QString& text, QWidget* parent) {
+  QLabel* const label = MakeLabel(text, Qt::AlignLeft, parent);
+  label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  label->setWordWrap(true);
+  return label;
+}
+
 QWidget* MakeWidget(const resources::DialogControl& control, CDialog& dialog) {
   const QString text = control.Text.toString();
   switch (control.Kind) {
@@ -26,6 +33,8 @@ QWidget* MakeWidget(const resources::DialogControl& control, CDialog& dialog) {
       return MakeLabel(text, Qt::AlignLeft, &dialog);
     case resources::ControlKind::CentredLabel:
       return MakeLabel(text, Qt::AlignHCenter, &dialog);
+    case resources::ControlKind::WrappedLabel:
+      return MakeWrappedLabel(text, &dialog);
     case resources::ControlKind::Edit:
       return new CEdit(text, &dialog);
     case resources::ControlKind::Button:

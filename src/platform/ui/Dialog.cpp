@@ -41,7 +41,8 @@ QWidget* CDialog::AddDialogControl(const resources::DialogControl& control) {
 void CDialog::FollowButton(int id, QWidget* control) {
   auto* const button = qobject_cast<QAbstractButton*>(control);
   if (!button) return;
-  if (id == kResultOK) connect(button, &QAbstractButton::clicked, this, [this] { OnOK(); });
+  if (id == kResultOK || id == kOKButton)
+    connect(button, &QAbstractButton::clicked, this, [this] { OnOK(); });
   if (id == kResultCancel) connect(button, &QAbstractButton::clicked, this, [this] { OnCancel(); });
 }
 

@@ -1,5 +1,5 @@
 // A dialog built from a resource: its controls are made, placed and registered by id. Buttons with
-// the ids of OK and Cancel do what the title bar's do.
+// the ids of OK (either of the two) and Cancel do what the title bar's do.
 #pragma once
 
 #include "platform/ui/ModalWindow.h"

@@ -1,7 +1,6 @@
 #include "platform/ui/MessageBox.h"
 
 #include <QFontMetrics>
-#include <QLabel>
 #include <QPushButton>
 
 #include <algorithm>
@@ -91,13 +90,10 @@ CMessageBox::CMessageBox(CScreen& screen, const PromptMessage& message)
 
 void CMessageBox::AddText(const PromptMessage& message, int textHeight) {
   const int left = TextLeft(message.Icon);
-  auto* const text = qobject_cast<QLabel*>(
-      AddDialogControl({ControlKind::Label,
-                        MessageBoxIds::kText,
-                        message.Text,
-                        {left, kMargin, kWidth - left - kMargin, textHeight}}));
-  text->setWordWrap(true);
-  text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  AddDialogControl({ControlKind::WrappedLabel,
+                    MessageBoxIds::kText,
+                    message.Text,
+                    {left, kMargin, kWidth - left - kMargin, textHeight}});
   const IconResource& icon = IconOf(message.Icon);
   auto* const picture = new CPictureLabel(icon.Image, this);
   picture->setAccessibleName(QString::fromLatin1(icon.Name));
