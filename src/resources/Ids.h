@@ -83,6 +83,12 @@ inline constexpr int kDialog = 134;
 inline constexpr int kMessage = 1030;
 }  // namespace DeleteConfirmIds
 
+namespace NameEntryIds {
+inline constexpr int kDialog = 270;
+inline constexpr int kLabel = 1012;
+inline constexpr int kEdit = 1017;
+}  // namespace NameEntryIds
+
 // The messages that tell the main frame of changes in the store, and the one it hands to the view.
 inline constexpr int kMessageItemWritten = 1025;
 inline constexpr int kMessageItemDeleted = 1027;
