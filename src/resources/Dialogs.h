@@ -12,8 +12,18 @@
 
 namespace quill::resources {
 
-// A wrapped label's text begins at its top and goes on below.
-enum class ControlKind { Label, CentredLabel, WrappedLabel, Edit, Button, Check, DropDown };
+// A wrapped label's text begins at its top and goes on below; a panel editor has the input panel up
+// while it has the focus.
+enum class ControlKind {
+  Label,
+  CentredLabel,
+  WrappedLabel,
+  Edit,
+  PanelEdit,
+  Button,
+  Check,
+  DropDown,
+};
 enum class ControlState { Visible, Hidden };
 
 struct Rectangle {

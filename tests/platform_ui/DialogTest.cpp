@@ -8,6 +8,7 @@
 #include <array>
 
 #include "platform/ui/DropDown.h"
+#include "platform/ui/PanelEdit.h"
 #include "platform_ui/SampleWindows.h"
 #include "platform_ui/ScreenFixture.h"
 
@@ -71,6 +72,15 @@ TEST_F(DialogTest, AWrappedLabelBeginsAtItsTopAndGoesOnBelow) {
   EXPECT_EQ(label->alignment(), Qt::AlignLeft | Qt::AlignTop);
   EXPECT_TRUE(label->wordWrap());
   EXPECT_EQ(label->textFormat(), Qt::PlainText);
+}
+
+TEST_F(DialogTest, APanelEditorIsMadeWithItsText) {
+  constexpr std::array kEditors = {
+      resources::DialogControl{resources::ControlKind::PanelEdit, 1001, u"text", {0, 0, 60, 18}}};
+  const SampleDialog dialog(*m_screen, {1, u"Editor", {10, 40, 100, 80}, kEditors});
+  const auto* editor = qobject_cast<CPanelEdit*>(dialog.Control(1001));
+  ASSERT_NE(editor, nullptr);
+  EXPECT_EQ(editor->text(), QStringLiteral("text"));
 }
 
 TEST_F(DialogTest, AnOKButtonOfEitherNumberEndsItWithOK) {

@@ -7,6 +7,7 @@
 #include "platform/ui/Dialog.h"
 #include "platform/ui/DropDown.h"
 #include "platform/ui/Edit.h"
+#include "platform/ui/PanelEdit.h"
 
 namespace quill {
 
@@ -37,6 +38,8 @@ QWidget* MakeWidget(const resources::DialogControl& control, CDialog& dialog) {
       return MakeWrappedLabel(text, &dialog);
     case resources::ControlKind::Edit:
       return new CEdit(text, &dialog);
+    case resources::ControlKind::PanelEdit:
+      return new CPanelEdit(text, &dialog);
     case resources::ControlKind::Button:
       return new QPushButton(text, &dialog);
     case resources::ControlKind::Check:
