@@ -163,6 +163,12 @@ TEST_F(ModalWindowTest, AHundredDialogsLeaveNoWidgetBehind) {
   EXPECT_EQ(QApplication::allWidgets().size(), before);
 }
 
+TEST_F(ModalWindowTest, WhereNothingHadTheFocusBeforeNothingHasItAfterwards) {
+  ASSERT_EQ(m_outer->focusWidget(), nullptr);
+  Run({[this] { EXPECT_NE(m_outer->focusWidget(), nullptr); }, Keys(Qt::Key_Escape)});
+  EXPECT_EQ(m_outer->focusWidget(), nullptr);
+}
+
 TEST_F(ModalWindowTest, FocusGoesBackThoughTheDesktopsFocusIsElsewhere) {
   test::SampleFrame frame(*m_screen);
   QLineEdit editor(&frame);

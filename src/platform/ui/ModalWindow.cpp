@@ -28,8 +28,17 @@ int CModalWindow::DoModal() {
   CommitInput();
   hide();
   Screen().Remove(*this);
-  if (focusBefore) focusBefore->setFocus(Qt::ActiveWindowFocusReason);
+  GiveFocusBack(focusBefore);
   return m_result.value_or(kResultCancel);
+}
+
+// Where nothing had it before, the hidden window's control must not keep it.
+void CModalWindow::GiveFocusBack(QWidget* before) {
+  QWidget* const now = window()->focusWidget();
+  if (before)
+    before->setFocus(Qt::ActiveWindowFocusReason);
+  else if (now)
+    now->clearFocus();
 }
 
 void CModalWindow::WaitForEnd() {

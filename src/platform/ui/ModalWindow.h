@@ -33,6 +33,7 @@ class CModalWindow : public CWindow {
 
  private:
   void WaitForEnd();
+  void GiveFocusBack(QWidget* before);
   void FocusFirstControl();
 
   QEventLoop* m_loop = nullptr;  // while DoModal waits
