@@ -78,6 +78,16 @@ inline constexpr int kMaker = 1003;
 inline constexpr int kLicence = 1004;
 }  // namespace AboutDialogIds
 
+namespace ConfigIds {
+inline constexpr int kDialog = 137;
+inline constexpr int kShowIndex = 1046;
+inline constexpr int kAutoAreaCode = 1049;
+inline constexpr int kAreaCodeList = 1009;
+inline constexpr int kAreaCodeEdit = 1017;
+inline constexpr int kDeleteAll = 1000;
+inline constexpr int kReceive = 1001;
+}  // namespace ConfigIds
+
 namespace DeleteConfirmIds {
 inline constexpr int kDialog = 134;
 inline constexpr int kMessage = 1030;
