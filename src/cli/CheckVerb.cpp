@@ -50,7 +50,7 @@ int RunCheck(const VerbCall& call, const Console& console) {
     return kExitFailed;
   }
   const StoreHealth health = store.Check();
-  (call.AsJson ? PrintJson : PrintText)(health, console.Out);
+  (IsGiven(call, kJsonOption) ? PrintJson : PrintText)(health, console.Out);
   const bool isRight =
       health.Index == IndexCondition::Right || health.Index == IndexCondition::Rebuilt;
   return isRight ? kExitDone : kExitFailed;

@@ -2,15 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 namespace quill {
 namespace {
 
 // An option puts its value (empty when it takes none) into the line; false when it makes no sense.
-struct Option {
-  QStringView Name;
-  QStringView Value;  // as the help shows it; empty: takes none
-  QStringView Help;
+struct ProgramOption {
+  Option Shown;
   bool (*Apply)(CommandLine& line, const QString& value);
 };
 
@@ -25,8 +24,6 @@ bool ApplyScale(CommandLine& line, const QString& value) {
 }
 
 bool ApplyDemo(CommandLine& line, const QString&) { return line.Demo = true; }
-
-bool ApplyJson(CommandLine& line, const QString&) { return line.AsJson = true; }
 
 bool ApplyShow(CommandLine& line, const QString& value) {
   line.FirstRequest = Request{RequestKind::Show, value, {}};
@@ -48,21 +45,45 @@ bool ApplyHelp(CommandLine& line, const QString&) {
   return true;
 }
 
-constexpr auto kOptions = std::to_array<Option>({
-    {u"--home", u"DIR", u"keep everything in this folder", ApplyHome},
-    {u"--demo", u"", u"use a separate home with sample people", ApplyDemo},
-    {u"--scale", u"N", u"size of the window, 1 to 8 in steps of 0.25", ApplyScale},
-    {u"--show", u"NAME", u"show this contact in the window", ApplyShow},
-    {u"--new", u"TEXT", u"begin a new contact in the window", ApplyNew},
-    {u"--json", u"", u"print JSON, where a command prints", ApplyJson},
-    {u"--version", u"", u"print the version", ApplyVersion},
-    {u"--help", u"", u"print this", ApplyHelp},
+constexpr auto kOptions = std::to_array<ProgramOption>({
+    {{u"--home", u"DIR", u"keep everything in this folder"}, ApplyHome},
+    {{u"--demo", u"", u"use a separate home with sample people"}, ApplyDemo},
+    {{u"--scale", u"N", u"size of the window, 1 to 8 in steps of 0.25"}, ApplyScale},
+    {{u"--show", u"NAME", u"show this contact in the window"}, ApplyShow},
+    {{u"--new", u"TEXT", u"begin a new contact in the window"}, ApplyNew},
+    {{u"--version", u"", u"print the version"}, ApplyVersion},
+    {{u"--help", u"", u"print this"}, ApplyHelp},
 });
 
-const Option* FindOption(const QString& name) {
-  const auto found = std::find_if(kOptions.begin(), kOptions.end(),
-                                  [&name](const Option& option) { return option.Name == name; });
+const ProgramOption* FindProgramOption(const QString& name) {
+  const auto found =
+      std::find_if(kOptions.begin(), kOptions.end(),
+                   [&name](const ProgramOption& option) { return option.Shown.Name == name; });
   return found == kOptions.end() ? nullptr : &*found;
+}
+
+// Of whatever verb: an option may stand before its verb. What two verbs call alike looks alike.
+const Option* FindVerbOption(const QString& name) {
+  for (const Verb& verb : Verbs()) {
+    if (const Option* option = FindOption(verb, name)) return option;
+  }
+  return nullptr;
+}
+
+bool ApplyVerbOption(const Option& option, const QString& value, CommandLine& line) {
+  if (option.Value.contains(u'|') && !option.Value.split(u'|').contains(value)) return false;
+  line.VerbOptions.insert(option.Name.toString(), value);
+  return true;
+}
+
+// Takes the value of an option: behind its equals sign, else the next word. Returns what is wrong.
+QString TakeValue(QStringList& words, const Option& option, std::optional<QString>& value) {
+  if (option.Value.isEmpty())
+    return value ? QStringLiteral("%1 takes no value").arg(option.Name) : QString();
+  if (value) return {};
+  if (words.isEmpty()) return QStringLiteral("%1 needs a value").arg(option.Name);
+  value = words.takeFirst();
+  return {};
 }
 
 // Takes the option at the front of the words, with its value. Returns what is wrong with it.
@@ -70,17 +91,17 @@ QString TakeOption(QStringList& words, CommandLine& line) {
   const QString word = words.takeFirst();
   const qsizetype equals = word.indexOf(u'=');
   const QString name = word.left(equals);
-  const Option* option = FindOption(name);
+  const ProgramOption* ofProgram = FindProgramOption(name);
+  const Option* option = ofProgram ? &ofProgram->Shown : FindVerbOption(name);
   if (!option) return QStringLiteral("unknown option %1").arg(name);
-  QString value = equals < 0 ? QString() : word.mid(equals + 1);
-  if (option->Value.isEmpty()) {
-    if (equals >= 0) return QStringLiteral("%1 takes no value").arg(name);
-  } else if (equals < 0) {
-    if (words.isEmpty()) return QStringLiteral("%1 needs a value").arg(name);
-    value = words.takeFirst();
-  }
-  if (option->Apply(line, value)) return {};
-  return QStringLiteral("%1 does not understand \"%2\"").arg(name, value);
+  std::optional<QString> value;
+  if (equals >= 0) value = word.mid(equals + 1);
+  const QString problem = TakeValue(words, *option, value);
+  if (!problem.isEmpty()) return problem;
+  const bool applied = ofProgram ? ofProgram->Apply(line, value.value_or(QString()))
+                                 : ApplyVerbOption(*option, value.value_or(QString()), line);
+  if (applied) return {};
+  return QStringLiteral("%1 does not understand \"%2\"").arg(name, value.value_or(QString()));
 }
 
 void TakeWord(const QString& word, CommandLine& line) {
@@ -101,15 +122,18 @@ QString VerbProblem(const CommandLine& line) {
     return QStringLiteral("%1 does not take \"%2\"")
         .arg(verb.Name)
         .arg(line.Arguments.at(verb.Most));
-  if (line.AsJson && verb.Output != VerbOutput::TextOrJson)
-    return QStringLiteral("%1 does not know --json").arg(verb.Name);
+  for (const QString& option : line.VerbOptions.keys()) {
+    if (!FindOption(verb, option))
+      return QStringLiteral("%1 does not know %2").arg(verb.Name).arg(option);
+  }
   if (line.FirstRequest)
     return QStringLiteral("--show and --new are for the window, not for %1").arg(verb.Name);
   return {};
 }
 
 QString WindowProblem(const CommandLine& line) {
-  if (line.AsJson) return QStringLiteral("--json is for commands that print");
+  if (!line.VerbOptions.isEmpty())
+    return QStringLiteral("%1 is for commands").arg(line.VerbOptions.firstKey());
   if (line.FirstRequest && !line.Arguments.isEmpty())
     return QStringLiteral("--show and --new do not go with files");
   return {};
@@ -122,8 +146,33 @@ CommandLine Wrong(const QString& problem) {
   return line;
 }
 
-QString HelpLine(const QString& subject, QStringView help) {
-  return QStringLiteral("  %1 %2\n").arg(subject, -18).arg(help);
+struct HelpRow {
+  QString Subject;
+  QStringView Help;
+};
+
+HelpRow RowOf(const Option& option) {
+  return {option.Name.toString() + u' ' + option.Value.toString(), option.Help};
+}
+
+QString HelpLines(const QString& heading, const std::vector<HelpRow>& rows) {
+  qsizetype width = 0;
+  for (const HelpRow& row : rows) width = std::max(width, row.Subject.size());
+  QString text = u'\n' + heading + u'\n';
+  for (const HelpRow& row : rows) {
+    text += QStringLiteral("  %1 %2\n").arg(row.Subject, -static_cast<int>(width)).arg(row.Help);
+  }
+  return text;
+}
+
+QString VerbHelp(const Verb& verb) {
+  QString usage = QStringLiteral("quill %1 %2").arg(verb.Name).arg(verb.Arguments).trimmed();
+  if (!verb.Options.empty()) usage += QStringLiteral(" [OPTION...]");
+  QString text = QStringLiteral("%1\n%2\n").arg(usage).arg(verb.Help);
+  if (verb.Options.empty()) return text;
+  std::vector<HelpRow> rows;
+  for (const Option& option : verb.Options) rows.push_back(RowOf(option));
+  return text + HelpLines(QStringLiteral("Options:"), rows);
 }
 
 }  // namespace
@@ -150,17 +199,17 @@ CommandLine ParseCommandLine(const QStringList& words) {
 }
 
 QString HelpText(const Verb* verb) {
-  if (verb)
-    return QStringLiteral("quill %1 %2\n%3\n").arg(verb->Name).arg(verb->Arguments).arg(verb->Help);
-  QString text = QStringLiteral(
-      "quill [FILE...]      open the window, with the contacts of these files brought in\n"
-      "quill COMMAND ...    do something without a window\n\nCommands:\n");
+  if (verb) return VerbHelp(*verb);
+  std::vector<HelpRow> verbs;
   for (const Verb& each : Verbs())
-    text += HelpLine(each.Name.toString() + u' ' + each.Arguments.toString(), each.Help);
-  text += QStringLiteral("\nOptions:\n");
-  for (const Option& option : kOptions)
-    text += HelpLine(option.Name.toString() + u' ' + option.Value.toString(), option.Help);
-  return text;
+    verbs.push_back({each.Name.toString() + u' ' + each.Arguments.toString(), each.Help});
+  std::vector<HelpRow> options;
+  for (const ProgramOption& option : kOptions) options.push_back(RowOf(option.Shown));
+  return QStringLiteral(
+             "quill [FILE...]      open the window, with the contacts of these files brought in\n"
+             "quill COMMAND ...    do something without a window\n") +
+         HelpLines(QStringLiteral("Commands (quill COMMAND --help tells more):"), verbs) +
+         HelpLines(QStringLiteral("Options:"), options);
 }
 
 }  // namespace quill

@@ -2,6 +2,7 @@
 // or "--home=DIR"; behind "--" every word is a file.
 #pragma once
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -29,8 +30,8 @@ struct CommandLine {
   std::optional<QString> Home;
   std::optional<Scale> AskedScale;
   std::optional<Request> FirstRequest;
+  QMap<QString, QString> VerbOptions;  // those that were given; empty where they take no value
   bool Demo = false;
-  bool AsJson = false;
 };
 
 // The words without the program's name.

@@ -30,6 +30,7 @@ QByteArray JsonLine(Oid oid, const ContactRecord& record) {
 
 // Each row as it is read, so that a large store needs no more memory than a small one.
 bool PrintRows(ContactsFolder& contacts, const VerbCall& call, QTextStream& out) {
+  const bool asJson = IsGiven(call, kJsonOption);
   const ContactCollection all = contacts.Items();
   const int count = contacts.Count(all);
   bool isFirst = true;
@@ -38,14 +39,14 @@ bool PrintRows(ContactsFolder& contacts, const VerbCall& call, QTextStream& out)
     ContactRecord record;
     // A contact may go while the list is printed.
     if (oid == 0 || !contacts.ReadListRow(oid, record)) continue;
-    if (call.AsJson) {
+    if (asJson) {
       out << (isFirst ? "[\n" : ",\n") << JsonLine(oid, record);
     } else {
       out << PlainLine(record[ContactField::FileAs]) << '\n';
     }
     isFirst = false;
   }
-  if (call.AsJson) out << (isFirst ? "[]\n" : "\n]\n");
+  if (asJson) out << (isFirst ? "[]\n" : "\n]\n");
   out.flush();
   return !isFirst;
 }

@@ -9,7 +9,7 @@ int RunCalledVerb(const CommandLine& line, const QProcessEnvironment& environmen
                   const Console& console) {
   const auto places = PrepareHome(line, environment, console);
   if (!places) return kExitFailed;
-  return line.Called->Run({*places, line.Arguments, line.AsJson}, console);
+  return line.Called->Run({*places, line.Arguments, line.VerbOptions}, console);
 }
 
 }  // namespace

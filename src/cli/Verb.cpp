@@ -12,23 +12,38 @@ namespace quill {
 namespace {
 
 constexpr int kAny = std::numeric_limits<int>::max();
-constexpr auto kVerbs = std::to_array<Verb>({
-    {u"check", u"[--json]", u"look the store over and mend its index", 0, 0, VerbOutput::TextOrJson,
-     RunCheck},
-    {u"import", u"FILE...", u"bring in the contacts of vCard files", 1, kAny, VerbOutput::Text,
-     RunImport},
-    {u"list", u"[--json]", u"print the contacts' names, one on a line", 0, 0,
-     VerbOutput::TextOrJson, RunList},
+constexpr auto kPrinting = std::to_array<Option>({
+    {kJsonOption, u"", u"print JSON"},
 });
+constexpr auto kVerbs = std::to_array<Verb>({
+    {u"check", u"", u"look the store over and mend its index", 0, 0, kPrinting, RunCheck},
+    {u"import", u"FILE...", u"bring in the contacts of vCard files", 1, kAny, {}, RunImport},
+    {u"list", u"", u"print the contacts' names, one on a line", 0, 0, kPrinting, RunList},
+});
+
+template <typename Rows>
+auto FindNamed(const Rows& rows, const QString& name) {
+  const auto found =
+      std::find_if(rows.begin(), rows.end(), [&name](const auto& row) { return row.Name == name; });
+  return found == rows.end() ? nullptr : &*found;
+}
 
 }  // namespace
 
 std::span<const Verb> Verbs() { return kVerbs; }
 
-const Verb* FindVerb(const QString& name) {
-  const auto found = std::find_if(kVerbs.begin(), kVerbs.end(),
-                                  [&name](const Verb& verb) { return verb.Name == name; });
-  return found == kVerbs.end() ? nullptr : &*found;
+const Verb* FindVerb(const QString& name) { return FindNamed(kVerbs, name); }
+
+const Option* FindOption(const Verb& verb, const QString& name) {
+  return FindNamed(verb.Options, name);
+}
+
+bool IsGiven(const VerbCall& call, QStringView option) {
+  return call.Options.contains(option.toString());
+}
+
+QString ValueOf(const VerbCall& call, QStringView option) {
+  return call.Options.value(option.toString());
 }
 
 }  // namespace quill

@@ -2,6 +2,7 @@
 // its folder, ./import.
 #pragma once
 
+#include <QMap>
 #include <QStringList>
 #include <QStringView>
 
@@ -12,13 +13,17 @@
 
 namespace quill {
 
-struct VerbCall {
-  Places Where;           // its folders exist
-  QStringList Arguments;  // at least as many as the verb needs
-  bool AsJson = false;
+struct Option {
+  QStringView Name;   // "--json"
+  QStringView Value;  // as the help shows it; empty: takes none; "a|b": takes these words alone
+  QStringView Help;   // one line
 };
 
-enum class VerbOutput { Text, TextOrJson };  // whether it knows --json
+struct VerbCall {
+  Places Where;                    // its folders exist
+  QStringList Arguments;           // at least as many as the verb needs
+  QMap<QString, QString> Options;  // those that were given; empty where they take no value
+};
 
 struct Verb {
   QStringView Name;
@@ -26,12 +31,21 @@ struct Verb {
   QStringView Help;       // one line
   int Least;              // arguments
   int Most;
-  VerbOutput Output;
+  std::span<const Option> Options;                           // of its own
   int (*Run)(const VerbCall& call, const Console& console);  // returns the exit code
 };
 
 std::span<const Verb> Verbs();
 // Null when there is none of this name.
 const Verb* FindVerb(const QString& name);
+// Null when the verb has no such option.
+const Option* FindOption(const Verb& verb, const QString& name);
+
+// Under which the verbs' rows and the verbs themselves know their options.
+inline constexpr QStringView kJsonOption = u"--json";
+
+bool IsGiven(const VerbCall& call, QStringView option);
+// Empty when it was not given.
+QString ValueOf(const VerbCall& call, QStringView option);
 
 }  // namespace quill

@@ -47,7 +47,7 @@ bool FilesExist(const CommandLine& line, const Console& console) {
 // True also when there was nothing to bring in.
 bool BringIn(const CommandLine& line, const Places& places, const Console& console) {
   if (line.Arguments.isEmpty()) return true;
-  return RunImport({places, line.Arguments, line.AsJson}, console) != kExitFailed;
+  return RunImport({places, line.Arguments, {}}, console) != kExitFailed;
 }
 
 int HandOver(const Request& request, RequestOutcome outcome, const Console& console) {

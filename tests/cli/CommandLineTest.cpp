@@ -31,6 +31,7 @@ INSTANTIATE_TEST_SUITE_P(
                     WrongCase{"--home", "--home needs a value"},
                     WrongCase{"--home=", "--home does not understand \"\""},
                     WrongCase{"--demo=1", "--demo takes no value"},
+                    WrongCase{"list --json=1", "--json takes no value"},
                     WrongCase{"--scale big", "--scale does not understand \"big\""},
                     WrongCase{"--scale 1.1", "--scale does not understand \"1.1\""},
                     WrongCase{"--scale 9", "--scale does not understand \"9\""},
@@ -39,7 +40,9 @@ INSTANTIATE_TEST_SUITE_P(
                     WrongCase{"import", "import needs FILE..."},
                     WrongCase{"list people", "list does not take \"people\""},
                     WrongCase{"import --json a.vcf", "import does not know --json"},
-                    WrongCase{"--json", "--json is for commands that print"},
+                    WrongCase{"--json import a.vcf", "import does not know --json"},
+                    WrongCase{"--json", "--json is for commands"},
+                    WrongCase{"--json a.vcf", "--json is for commands"},
                     WrongCase{"--show Ann list",
                               "--show and --new are for the window, not for list"},
                     WrongCase{"--show Ann a.vcf", "--show and --new do not go with files"}));
@@ -85,8 +88,14 @@ TEST(CommandLine, TakesOptionsBehindTheVerb) {
   const CommandLine line = Parse("list --json --home /tmp/h");
   EXPECT_EQ(line.Kind, CommandKind::RunVerb);
   EXPECT_EQ(line.Called, FindVerb(u"list"_qs));
-  EXPECT_TRUE(line.AsJson);
+  EXPECT_EQ(line.VerbOptions, (QMap<QString, QString>{{u"--json"_qs, QString()}}));
   EXPECT_EQ(line.Home, u"/tmp/h"_qs);
+}
+
+TEST(CommandLine, TakesAVerbsOptionsBeforeIt) {
+  const CommandLine line = Parse("--json list");
+  EXPECT_EQ(line.Called, FindVerb(u"list"_qs));
+  EXPECT_TRUE(line.VerbOptions.contains(u"--json"_qs));
 }
 
 TEST(CommandLine, AFirstWordThatIsNoVerbIsAFile) {
@@ -119,11 +128,31 @@ TEST(CommandLine, HelpAndVersionGoBeforeAllElse) {
 TEST(HelpText, NamesEveryVerbAndOption) {
   const QString text = HelpText(nullptr);
   for (const Verb& verb : Verbs()) EXPECT_TRUE(text.contains(verb.Help.toString()));
-  for (const char* option : {"--home DIR", "--demo", "--scale N", "--show NAME", "--new TEXT",
-                             "--json", "--version", "--help"})
+  for (const char* option :
+       {"--home DIR", "--demo", "--scale N", "--show NAME", "--new TEXT", "--version", "--help"})
     EXPECT_TRUE(text.contains(QString::fromLatin1(option))) << option;
   EXPECT_TRUE(text.endsWith(u'\n'));
   EXPECT_TRUE(HelpText(FindVerb(u"import"_qs)).startsWith(u"quill import FILE...\n"_qs));
+}
+
+TEST(HelpText, OfAVerbNamesItsOptions) {
+  EXPECT_EQ(HelpText(FindVerb(u"list"_qs)).toStdString(),
+            "quill list [OPTION...]\n"
+            "print the contacts' names, one on a line\n"
+            "\n"
+            "Options:\n"
+            "  --json  print JSON\n");
+}
+
+TEST(Verbs, CallOptionsAlikeThatLookAlike) {
+  QMap<QString, QString> values;
+  for (const Verb& verb : Verbs()) {
+    for (const Option& option : verb.Options) {
+      const QString value = option.Value.toString();
+      EXPECT_EQ(values.value(option.Name.toString(), value), value) << value.toStdString();
+      values.insert(option.Name.toString(), value);
+    }
+  }
 }
 
 TEST(Verbs, AreFoundByTheirWholeName) {
