@@ -3,8 +3,8 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <array>
 
+#include "exchange/CardFields.h"
 #include "exchange/CardPool.h"
 #include "exchange/CardRelations.h"
 #include "exchange/CardSlots.h"
@@ -17,27 +17,8 @@ namespace {
 
 using Field = ContactField;
 
-// The fields that are one whole property.
-struct TextRow {
-  QStringView Property;
-  Field Where;
-};
-constexpr std::array kTextRows{
-    TextRow{u"X-EVOLUTION-FILE-AS", Field::FileAs},
-    TextRow{u"TITLE", Field::JobTitle},
-    TextRow{u"URL", Field::WebPage},
-    TextRow{u"X-QUILL-FIELD19", Field::RadioTelephoneNumber},
-};
-
-// The parts of N, in its order.
-constexpr std::array kNameParts{Field::LastName, Field::FirstName, Field::MiddleName, Field::Title,
-                                Field::Suffix};
-// The name parts in the order in which they are spoken.
-constexpr std::array kSpokenParts{Field::Title, Field::FirstName, Field::MiddleName,
-                                  Field::LastName, Field::Suffix};
-
 void PlaceTexts(CardPool& pool, ContactRecord& record) {
-  for (const TextRow& row : kTextRows) {
+  for (const CardTextRow& row : kCardTexts) {
     const CardProperty* property = pool.First(row.Property);
     if (!property) continue;
     record[row.Where] = TextOf(*property);
@@ -128,7 +109,7 @@ void PlaceBeyondRecord(CardPool& pool, ContactItem& item) {
     item.Uid = TextOf(*uid).trimmed();
     pool.Take(*uid);
   }
-  if (const CardProperty* ink = pool.First(u"X-QUILL-INK")) {
+  if (const CardProperty* ink = pool.First(kInkProperty)) {
     item.BodyInk = BytesOf(*ink);
     if (!item.BodyInk.isEmpty()) pool.Take(*ink);
   }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "exchange/CardFields.h"
+
 namespace quill {
 
 namespace {
@@ -48,7 +50,7 @@ void CardPool::Take(const CardProperty& property) {
 
 const CardProperty* CardPool::LabelOf(const CardProperty& property) const {
   if (property.Group.isEmpty()) return nullptr;
-  for (const CardProperty* label : All(u"X-ABLABEL")) {
+  for (const CardProperty* label : All(kLabelProperty)) {
     if (label->Group.compare(property.Group, Qt::CaseInsensitive) == 0) return label;
   }
   return nullptr;
@@ -58,8 +60,9 @@ QString CardPool::Label(const CardProperty& property) const {
   const CardProperty* label = LabelOf(property);
   if (!label) return {};
   QString text = TextOf(*label).trimmed();
-  // Built-in labels are written as _$!<Spouse>!$_ to tell them from the user's own.
-  if (text.startsWith(u"_$!<") && text.endsWith(u">!$_")) text = text.sliced(4).chopped(4);
+  if (text.startsWith(kLabelBegin) && text.endsWith(kLabelEnd)) {
+    text = text.sliced(kLabelBegin.size()).chopped(kLabelEnd.size());
+  }
   return text;
 }
 

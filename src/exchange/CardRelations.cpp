@@ -4,6 +4,7 @@
 #include <span>
 
 #include "exchange/CardDate.h"
+#include "exchange/CardFields.h"
 
 namespace quill {
 
@@ -11,15 +12,15 @@ namespace {
 
 using Properties = std::vector<const CardProperty*>;
 
-constexpr std::array<QStringView, 5> kSpouseNames{u"X-SPOUSE", u"X-EVOLUTION-SPOUSE",
-                                                  u"X-MS-SPOUSE", u"X-KADDRESSBOOK-X-SPOUSESNAME",
+constexpr std::array<QStringView, 5> kSpouseNames{u"X-SPOUSE", kCardSpouse.Property, u"X-MS-SPOUSE",
+                                                  u"X-KADDRESSBOOK-X-SPOUSESNAME",
                                                   u"X-WAB-SPOUSE_NAME"};
-constexpr std::array<QStringView, 3> kChildrenNames{u"X-QUILL-CHILDREN", u"X-CHILDREN",
+constexpr std::array<QStringView, 3> kChildrenNames{kCardChildren.Property, u"X-CHILDREN",
                                                     u"X-MS-CHILD"};
-constexpr std::array<QStringView, 1> kBirthdayNames{u"BDAY"};
-constexpr std::array<QStringView, 6> kAnniversaryNames{u"ANNIVERSARY",
+constexpr std::array<QStringView, 1> kBirthdayNames{kBirthdayProperty};
+constexpr std::array<QStringView, 6> kAnniversaryNames{kAnniversaryProperty40,
                                                        u"X-ANNIVERSARY",
-                                                       u"X-EVOLUTION-ANNIVERSARY",
+                                                       kAnniversaryProperty,
                                                        u"X-MS-ANNIVERSARY",
                                                        u"X-KADDRESSBOOK-X-ANNIVERSARY",
                                                        u"X-WAB-WEDDING_ANNIVERSARY"};
@@ -46,11 +47,12 @@ Properties Labelled(const CardPool& pool, QStringView name, QStringView label) {
 }
 
 // Relatives that are named; one that is only a reference to another card has no name to show.
-Properties Related(const CardPool& pool, const QString& type) {
+Properties Related(const CardPool& pool, QStringView type) {
   Properties found;
-  for (const CardProperty* property : pool.All(u"RELATED")) {
+  for (const CardProperty* property : pool.All(kRelativeProperty40)) {
     const bool isReference = property->Value.startsWith(u"urn:", Qt::CaseInsensitive);
-    if (!isReference && TypesOf(*property).contains(type)) found.push_back(property);
+    if (!isReference && TypesOf(*property).contains(type, Qt::CaseInsensitive))
+      found.push_back(property);
   }
   return found;
 }
@@ -62,8 +64,8 @@ void TakeWithLabel(CardPool& pool, const CardProperty& property) {
 
 void PlaceSpouse(CardPool& pool, QString& spouse) {
   Properties sources = Named(pool, kSpouseNames);
-  Append(sources, Labelled(pool, u"X-ABRELATEDNAMES", u"Spouse"));
-  Append(sources, Related(pool, u"SPOUSE"_qs));
+  Append(sources, Labelled(pool, kRelativeProperty, kCardSpouse.Label));
+  Append(sources, Related(pool, kCardSpouse.Label));
   for (const CardProperty* source : sources) {
     const QString name = TextOf(*source);
     if (spouse.isEmpty()) spouse = name;
@@ -74,8 +76,8 @@ void PlaceSpouse(CardPool& pool, QString& spouse) {
 
 void PlaceChildren(CardPool& pool, QString& children) {
   Properties sources = Named(pool, kChildrenNames);
-  Append(sources, Labelled(pool, u"X-ABRELATEDNAMES", u"Child"));
-  Append(sources, Related(pool, u"CHILD"_qs));
+  Append(sources, Labelled(pool, kRelativeProperty, kCardChildren.Label));
+  Append(sources, Related(pool, kCardChildren.Label));
   QStringList names;
   for (const CardProperty* source : sources) {
     for (const QString& name : TextOf(*source).split(u", "_qs)) {
@@ -120,7 +122,7 @@ void PlaceRelatives(CardPool& pool, ContactRecord& record) {
 void PlaceDays(CardPool& pool, ContactRecord& record) {
   PlaceDay(pool, Named(pool, kBirthdayNames), record.Birthday);
   Properties anniversaries = Named(pool, kAnniversaryNames);
-  Append(anniversaries, Labelled(pool, u"X-ABDATE", u"Anniversary"));
+  Append(anniversaries, Labelled(pool, kLabelledDayProperty, kAnniversaryLabel));
   Append(anniversaries, AndroidAnniversaries(pool));
   PlaceDay(pool, anniversaries, record.Anniversary);
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "exchange/CardFields.h"
 #include "store/ContactFields.h"
 
 namespace quill {
@@ -27,9 +28,18 @@ bool HasAny(const QStringList& types, std::initializer_list<QStringView> words) 
                      [&types](QStringView word) { return types.contains(word); });
 }
 
+// The fields of the numbers that are written with these types.
+std::vector<Field> FieldsOf(QStringView types) {
+  std::vector<Field> fields;
+  for (const CardNumberRow& row : kCardNumbers) {
+    if (row.Types == types) fields.push_back(row.Where);
+  }
+  return fields;
+}
+
 NumberClaim FaxClaim(const QStringList& types) {
-  if (HasAny(types, {u"HOMEFAX", u"HOME"})) return {Turn::Typed, {Field::HomeFaxNumber}};
-  if (HasAny(types, {u"WORKFAX", u"WORK"})) return {Turn::Typed, {Field::BusinessFaxNumber}};
+  if (HasAny(types, {u"HOMEFAX", u"HOME"})) return {Turn::Typed, FieldsOf(u"HOME,FAX")};
+  if (HasAny(types, {u"WORKFAX", u"WORK"})) return {Turn::Typed, FieldsOf(u"WORK,FAX")};
   return {Turn::Remainder, {Field::BusinessFaxNumber, Field::HomeFaxNumber}};
 }
 
@@ -57,17 +67,11 @@ NumberClaim UntypedClaim(const QString& number) {
 NumberClaim ClaimOfTypes(const QStringList& types, const QString& number) {
   if (HasAny(types, {u"MODEM", u"ISDN", u"BBS"})) return {Turn::Never, {}};
   if (HasAny(types, {u"FAX", u"WORKFAX", u"HOMEFAX"})) return FaxClaim(types);
-  if (HasAny(types, {u"CELL", u"MOBILE"})) {
-    return {Turn::Typed, {Field::MobileTelephoneNumber, Field::PagerNumber}};
-  }
-  if (HasAny(types, {u"CAR"})) return {Turn::Typed, {Field::CarTelephoneNumber}};
+  if (HasAny(types, {u"CELL", u"MOBILE"})) return {Turn::Typed, FieldsOf(u"CELL")};
+  if (HasAny(types, {u"CAR"})) return {Turn::Typed, FieldsOf(u"CAR")};
   if (HasAny(types, {u"PAGER"})) return {Turn::Remainder, {Field::PagerNumber}};
-  if (HasAny(types, {u"WORK"})) {
-    return {Turn::Typed, {Field::BusinessTelephoneNumber, Field::Business2TelephoneNumber}};
-  }
-  if (HasAny(types, {u"HOME"})) {
-    return {Turn::Typed, {Field::HomeTelephoneNumber, Field::Home2TelephoneNumber}};
-  }
+  if (HasAny(types, {u"WORK"})) return {Turn::Typed, FieldsOf(u"WORK,VOICE")};
+  if (HasAny(types, {u"HOME"})) return {Turn::Typed, FieldsOf(u"HOME,VOICE")};
   return UntypedClaim(number);
 }
 
@@ -95,7 +99,7 @@ bool Put(ContactRecord& record, Field field, const QString& text) {
 template <typename Fields>
 bool PutWhereNamed(const CardProperty& property, const Fields& fields, const QString& text,
                    ContactRecord& record) {
-  const QString name = ParameterOf(property, u"X-QUILL-FIELD");
+  const QString name = ParameterOf(property, kFieldParameter);
   const auto isNamed = [&name](Field field) { return FieldRow(field).Property == name; };
   const auto found = std::find_if(fields.begin(), fields.end(), isNamed);
   return found != fields.end() && Put(record, *found, text);
@@ -115,37 +119,21 @@ void TakeEmpty(CardPool& pool, QStringView name) {
 
 constexpr int kAddressParts = 7;  // box, extension, street, city, state, postal code, country
 
-struct AddressFields {
-  Field Street;
-  Field City;
-  Field State;
-  Field PostalCode;
-  Field Country;
-};
-constexpr AddressFields kBusinessAddress{
-    Field::BusinessAddressStreet, Field::BusinessAddressCity, Field::BusinessAddressState,
-    Field::BusinessAddressPostalCode, Field::BusinessAddressCountry};
-constexpr AddressFields kHomeAddress{Field::HomeAddressStreet, Field::HomeAddressCity,
-                                     Field::HomeAddressState, Field::HomeAddressPostalCode,
-                                     Field::HomeAddressCountry};
-constexpr AddressFields kOtherAddress{Field::OtherAddressStreet, Field::OtherAddressCity,
-                                      Field::OtherAddressState, Field::OtherAddressPostalCode,
-                                      Field::OtherAddressCountry};
-
-bool IsFree(const ContactRecord& record, const AddressFields& fields) {
+bool IsFree(const ContactRecord& record, const CardAddressRow& fields) {
   return record[fields.Street].isEmpty() && record[fields.City].isEmpty() &&
          record[fields.State].isEmpty() && record[fields.PostalCode].isEmpty() &&
          record[fields.Country].isEmpty();
 }
 
-const AddressFields& AddressFieldsFor(const CardProperty& address, const ContactRecord& record) {
+const CardAddressRow& AddressFieldsFor(const CardProperty& address, const ContactRecord& record) {
   const QStringList types = TypesOf(address);
-  if (HasAny(types, {u"WORK"}) && IsFree(record, kBusinessAddress)) return kBusinessAddress;
-  if (HasAny(types, {u"HOME"}) && IsFree(record, kHomeAddress)) return kHomeAddress;
-  return kOtherAddress;
+  const auto fits = [&](const CardAddressRow& row) {
+    return row.Type.isEmpty() || (types.contains(row.Type) && IsFree(record, row));
+  };
+  return *std::find_if(kCardAddresses.begin(), kCardAddresses.end(), fits);
 }
 
-void PutAddress(const QStringList& parts, const AddressFields& fields, ContactRecord& record) {
+void PutAddress(const QStringList& parts, const CardAddressRow& fields, ContactRecord& record) {
   QStringList street = parts.first(3);
   street.removeAll(QString());
   record[fields.Street] = street.join(u'\n');
@@ -185,7 +173,7 @@ void PlaceEmails(CardPool& pool, ContactRecord& record) {
 void PlaceAddresses(CardPool& pool, ContactRecord& record) {
   for (const CardProperty* address : pool.All(u"ADR")) {
     const QStringList parts = FixedPartsOf(*address, kAddressParts);
-    const AddressFields& fields = AddressFieldsFor(*address, record);
+    const CardAddressRow& fields = AddressFieldsFor(*address, record);
     const bool isEmpty = parts.join(QString()).trimmed().isEmpty();
     if (!isEmpty && !IsFree(record, fields)) continue;
     if (!isEmpty) PutAddress(parts, fields, record);

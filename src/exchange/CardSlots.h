@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "exchange/CardFields.h"
 #include "exchange/CardPool.h"
 #include "store/ContactRecord.h"
 
@@ -15,8 +16,6 @@ inline constexpr std::array kNumberFields{
     ContactField::Home2TelephoneNumber,    ContactField::HomeFaxNumber,
     ContactField::MobileTelephoneNumber,   ContactField::PagerNumber,
     ContactField::CarTelephoneNumber,      ContactField::RadioTelephoneNumber};
-inline constexpr std::array kEmailFields{ContactField::Email1Address, ContactField::Email2Address,
-                                         ContactField::Email3Address};
 
 void PlaceNumbers(CardPool& pool, ContactRecord& record);
 void PlaceEmails(CardPool& pool, ContactRecord& record);
