@@ -50,7 +50,9 @@ Properties Labelled(const CardPool& pool, QStringView name, QStringView label) {
 Properties Related(const CardPool& pool, QStringView type) {
   Properties found;
   for (const CardProperty* property : pool.All(kRelativeProperty40)) {
-    const bool isReference = property->Value.startsWith(u"urn:", Qt::CaseInsensitive);
+    const bool isReference =
+        property->Value.startsWith(u"urn:", Qt::CaseInsensitive) &&
+        ParameterOf(*property, u"VALUE").compare(u"text", Qt::CaseInsensitive) != 0;
     if (!isReference && TypesOf(*property).contains(type, Qt::CaseInsensitive))
       found.push_back(property);
   }
@@ -75,17 +77,23 @@ void PlaceSpouse(CardPool& pool, QString& spouse) {
 }
 
 void PlaceChildren(CardPool& pool, QString& children) {
+  // Our own property holds the field as it is; others are of other programs and add to it.
+  if (const CardProperty* whole = pool.First(kCardChildren.Property)) {
+    children = TextOf(*whole);
+    pool.Take(*whole);
+  }
   Properties sources = Named(pool, kChildrenNames);
   Append(sources, Labelled(pool, kRelativeProperty, kCardChildren.Label));
   Append(sources, Related(pool, kCardChildren.Label));
-  QStringList names;
+  QStringList known = children.split(u", "_qs);
   for (const CardProperty* source : sources) {
     for (const QString& name : TextOf(*source).split(u", "_qs)) {
-      if (!name.isEmpty() && !names.contains(name)) names.append(name);
+      if (name.isEmpty() || known.contains(name)) continue;
+      children += (children.isEmpty() ? QString() : u", "_qs) + name;
+      known.append(name);
     }
     TakeWithLabel(pool, *source);
   }
-  children = names.join(u", "_qs);
 }
 
 Properties AndroidAnniversaries(const CardPool& pool) {
