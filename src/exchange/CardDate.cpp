@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include "store/AutomationDate.h"
+
 namespace quill {
 
 namespace {
@@ -44,6 +46,10 @@ std::optional<CalendarDate> DateFromCard(QStringView text) {
   calendar.Day = static_cast<quint16>(date.day());
   calendar.DayOfWeek = static_cast<quint16>(date.dayOfWeek() % 7);
   return calendar;
+}
+
+QString DateForCard(const CalendarDate& date, CardVersion version) {
+  return DayOf(date).toString(version == CardVersion::V40 ? u"yyyyMMdd" : u"yyyy-MM-dd");
 }
 
 }  // namespace quill

@@ -13,15 +13,19 @@ namespace quill {
 namespace detail {
 using enum ContactField;
 
+// An address of the web is written without a backslash before its commas and semicolons.
+enum class CardTextKind { Text, Uri };
+
 // A field that is one whole property.
 struct CardTextRow {
   QStringView Property;
   ContactField Where;
+  CardTextKind Kind = CardTextKind::Text;
 };
 inline constexpr std::array kCardTexts{
     CardTextRow{u"X-EVOLUTION-FILE-AS", FileAs},
     CardTextRow{u"TITLE", JobTitle},
-    CardTextRow{u"URL", WebPage},
+    CardTextRow{u"URL", WebPage, CardTextKind::Uri},
     CardTextRow{u"X-QUILL-FIELD19", RadioTelephoneNumber},
 };
 
@@ -79,6 +83,7 @@ inline constexpr CardRelativeRow kCardChildren{Children, u"X-QUILL-CHILDREN", u"
 using detail::CardAddressRow;
 using detail::CardNumberRow;
 using detail::CardRelativeRow;
+using detail::CardTextKind;
 using detail::CardTextRow;
 using detail::kCardAddresses;
 using detail::kCardChildren;

@@ -11,6 +11,26 @@ int HexDigit(char c) {
   return -1;
 }
 
+constexpr qsizetype kLongestCharacter = 12;  // four bytes, quoted
+
+QByteArray Quoted(char c) { return '=' + QByteArray(1, c).toHex().toUpper(); }
+
+qsizetype CharacterEnd(QByteArrayView text, qsizetype start) {
+  qsizetype end = start + 1;
+  while (end < text.size() && (text[end] & 0xC0) == 0x80) ++end;
+  return end;
+}
+
+QByteArray QuotedCharacter(QByteArrayView character) {
+  const char first = character.front();
+  if (first >= ' ' && first <= '~' && first != '=' && first != ':' && first != '\\') {
+    return character.toByteArray();
+  }
+  QByteArray quoted;
+  for (const char c : character) quoted += Quoted(c);
+  return quoted;
+}
+
 }  // namespace
 
 bool IsQuotedByte(QByteArrayView text, qsizetype position) {
@@ -32,6 +52,26 @@ QByteArray DecodeQuotedPrintable(QByteArrayView text) {
   return bytes;
 }
 
+QByteArray EncodeQuotedPrintable(QByteArrayView text, qsizetype column, qsizetype lineLength) {
+  QByteArray encoded;
+  qsizetype end = 0;
+  for (qsizetype i = 0; i < text.size(); i = end) {
+    end = CharacterEnd(text, i);
+    const bool isLast = end == text.size();
+    QByteArray character = QuotedCharacter(text.sliced(i, end - i));
+    const bool isNearEnd = isLast || column + 1 + kLongestCharacter >= lineLength;
+    if (character == " " && (i == 0 || column == 0 || isNearEnd)) character = Quoted(' ');
+    // The mark of the soft break takes a place as well.
+    if (column + character.size() + (isLast ? 0 : 1) > lineLength) {
+      encoded += "=\r\n";
+      column = 0;
+    }
+    encoded += character;
+    column += character.size();
+  }
+  return encoded;
+}
+
 QByteArray AsciiQuotedPrintable(QByteArrayView text) {
   QByteArray ascii;
   ascii.reserve(text.size());
@@ -39,7 +79,7 @@ QByteArray AsciiQuotedPrintable(QByteArrayView text) {
     if ((c & 0x80) == 0) {
       ascii += c;
     } else {
-      ascii += '=' + QByteArray(1, c).toHex().toUpper();
+      ascii += Quoted(c);
     }
   }
   return ascii;

@@ -33,5 +33,11 @@ INSTANTIATE_TEST_SUITE_P(
                     DateCase{u"2004-06-", {}}, DateCase{u"T", {}}, DateCase{u"circa 1800", {}},
                     DateCase{u"", {}}));
 
+TEST(CardDatesForCards, AreWrittenAsTheVersionHasThem) {
+  EXPECT_EQ(DateForCard(kThirdOfJune, CardVersion::V21), u"2004-06-03"_qs);
+  EXPECT_EQ(DateForCard(kThirdOfJune, CardVersion::V30), u"2004-06-03"_qs);
+  EXPECT_EQ(DateForCard(kThirdOfJune, CardVersion::V40), u"20040603"_qs);
+}
+
 }  // namespace
 }  // namespace quill::test
