@@ -4,6 +4,7 @@
 
 #include "exchange/CardMapper.h"
 #include "exchange/CardMatch.h"
+#include "exchange/CardMerge.h"
 
 namespace quill {
 
@@ -12,10 +13,20 @@ namespace {
 constexpr int kCardsPerTransaction = 1000;
 constexpr int kCardsPerQuestion = 50;  // between two calls of Continue
 
+// Of the open transaction.
+struct PendingCounts {
+  qint64 New = 0;
+  qint64 Changed = 0;
+  qint64 Same = 0;
+};
+
 class CardImport {
  public:
   CardImport(QIODevice& device, StoreProvider& provider, const ImportOptions& options)
-      : m_reader(device, {options.FallbackCharset}), m_provider(provider), m_options(options) {}
+      : m_reader(device, {options.FallbackCharset}),
+        m_provider(provider),
+        m_options(options),
+        m_match(*provider.Contacts()) {}
 
   ImportSummary Run() {
     m_hasMore = true;
@@ -31,8 +42,8 @@ class CardImport {
   void RunTransaction() {
     const auto transaction = m_provider.Begin();
     if (!transaction) return FailStore();
-    const qint64 newBefore = m_summary.New;
-    const qint64 sameBefore = m_summary.Same;
+    ForgetWhatOthersChanged();
+    m_pending = {};
     for (int i = 0; i < kCardsPerTransaction && m_summary.End == ImportEnd::WholeFile; ++i) {
       Card card;
       m_hasMore = m_reader.Next(card);
@@ -40,10 +51,17 @@ class CardImport {
       Take(card);
       AskWhetherToContinue();
     }
-    if (transaction->Commit()) return;
-    m_summary.New = newBefore;
-    m_summary.Same = sameBefore;
-    FailStore();
+    if (!transaction->Commit()) return FailStore();
+    m_summary.New += m_pending.New;
+    m_summary.Changed += m_pending.Changed;
+    m_summary.Same += m_pending.Same;
+  }
+
+  // While a transaction is open nobody else writes.
+  void ForgetWhatOthersChanged() {
+    const qint64 changes = m_provider.Changes();
+    if (changes != m_changes) m_match.Forget();
+    m_changes = changes;
   }
 
   void FailStore() {
@@ -64,14 +82,33 @@ class CardImport {
     const std::optional<ContactItem> item = ContactFromCard(card);
     if (!item) return Report(card, CardFault::NothingToFile);
     m_summary.LinesNotUnderstood += card.LinesNotUnderstood;
-    ContactsFolder& contacts = *m_provider.Contacts();
-    if (FindSameContact(contacts, *item) != 0) {
-      ++m_summary.Same;
-    } else if (contacts.SaveWhole(0, *item) != 0) {
-      ++m_summary.New;
+    const bool looksUp = m_options.Duplicates != OnDuplicate::Add;
+    const auto known = looksUp ? m_match.Find(*item) : std::vector<KnownContact>();
+    if (known.empty()) {
+      Write(card, 0, *item, m_pending.New);
+    } else if (m_options.Duplicates == OnDuplicate::Skip) {
+      ++m_pending.Same;
     } else {
-      Report(card, CardFault::NotStored);
+      Merge(card, known);
     }
+  }
+
+  void Merge(const Card& card, const std::vector<KnownContact>& known) {
+    // One that took the card up before has it all, also when it is not the first.
+    for (const KnownContact& each : known) {
+      if (MergedContact(each.Item, card) != each.Item) continue;
+      ++m_pending.Same;
+      return;
+    }
+    const KnownContact& first = known.front();
+    Write(card, first.Id, MergedContact(first.Item, card), m_pending.Changed);
+  }
+
+  void Write(const Card& card, Oid oid, const ContactItem& item, qint64& counter) {
+    const Oid written = m_provider.Contacts()->SaveWhole(oid, item);
+    if (written == 0) return Report(card, CardFault::NotStored);
+    m_match.Note(written, item.Record);
+    ++counter;
   }
 
   void Report(const Card& card, CardFault fault) {
@@ -85,6 +122,9 @@ class CardImport {
   StoreProvider& m_provider;
   const ImportOptions& m_options;
   ImportSummary m_summary;
+  ContactMatch m_match;
+  PendingCounts m_pending;
+  qint64 m_changes = 0;  // of the store, by its own count
   qint64 m_cards = 0;
   bool m_hasMore = false;
 };

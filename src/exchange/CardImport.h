@@ -1,8 +1,8 @@
 // Brings the cards of one file into the store.
 //
 // Each card stands alone: one that cannot be read or stored is reported and never stops the rest.
-// A card whose person is there already counts as the same and changes nothing: a contact with its
-// UID, or one with its FileAs that shares a number or an e-mail address with it or equals it.
+// What happens to a card whose person is there already (ContactMatch) is a choice. Importing the
+// same file again changes nothing, unless every card is to be added.
 #pragma once
 
 #include <QIODevice>
@@ -21,7 +21,14 @@ struct ImportProgress {
   qint64 BytesRead = 0;  // of the file
 };
 
+enum class OnDuplicate {
+  Merge,  // the contact gets what it lacks (MergedContact)
+  Add,    // the card becomes a contact of its own
+  Skip,   // the contact stays as it is
+};
+
 struct ImportOptions {
+  OnDuplicate Duplicates = OnDuplicate::Merge;
   // How text is read that is not UTF-8 and does not say what it is.
   QByteArray FallbackCharset = "windows-1252";
   // Asked now and then; false stops the import. What was counted until then stays.
@@ -45,7 +52,8 @@ struct ImportSummary {
   static constexpr std::size_t kMaxListed = 100'000;
 
   qint64 New = 0;
-  qint64 Same = 0;
+  qint64 Changed = 0;
+  qint64 Same = 0;  // had nothing new, or were skipped
   qint64 Unreadable = 0;
   std::vector<UnreadableCard> UnreadableCards;  // in the order of the file; the first kMaxListed
   qint64 LinesNotUnderstood = 0;                // within cards that were read, and outside of cards

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "exchange/CardFields.h"
+#include "exchange/CardParts.h"
 #include "exchange/CardPool.h"
 #include "exchange/CardRelations.h"
 #include "exchange/CardSlots.h"
@@ -17,37 +18,58 @@ namespace {
 
 using Field = ContactField;
 
+constexpr std::array kCompanyParts{Field::CompanyName, Field::Department};
+
+// True when the field has the text, after it was put there if need be.
+bool PutOrHas(const QString& text, QString& field) {
+  if (field.isEmpty()) field = text;
+  return text.isEmpty() || field == text;
+}
+
 void PlaceTexts(CardPool& pool, ContactRecord& record) {
   for (const CardTextRow& row : kCardTexts) {
-    const CardProperty* property = pool.First(row.Property);
-    if (!property) continue;
-    record[row.Where] = TextOf(*property);
-    pool.Take(*property);
+    for (const CardProperty* property : pool.All(row.Property)) {
+      if (PutOrHas(TextOf(*property), record[row.Where])) pool.Take(*property);
+    }
   }
+}
+
+// Only the first of its name is placed, and as a whole: half a name would make another person.
+template <typename TextsOf>
+void PlaceParts(CardPool& pool, QStringView name, FieldSpan fields, TextsOf textsOf,
+                ContactRecord& record) {
+  const auto properties = pool.All(name);
+  if (properties.empty()) return;
+  const QStringList first = textsOf(*properties.front());
+  if (Agree(fields, first, record)) FillEmpty(fields, first, record);
+  for (const CardProperty* property : properties) {
+    if (HasAll(fields, textsOf(*property), record)) pool.Take(*property);
+  }
+}
+
+QStringList NameTexts(const CardProperty& name) {
+  return FixedPartsOf(name, static_cast<int>(kNameParts.size()));
+}
+
+QStringList CompanyTexts(const CardProperty& organization) {
+  QStringList parts = PartsOf(organization, u';');
+  const QString company = parts.takeFirst();
+  parts.removeAll(QString());
+  return {company, parts.join(u"; "_qs)};
 }
 
 void PlaceNames(CardPool& pool, ContactRecord& record) {
-  const CardProperty* name = pool.First(u"N");
-  if (!name) return;
-  const QStringList parts = FixedPartsOf(*name, static_cast<int>(kNameParts.size()));
-  for (std::size_t i = 0; i < kNameParts.size(); ++i) {
-    record[kNameParts[i]] = parts.at(static_cast<qsizetype>(i));
-  }
-  pool.Take(*name);
+  PlaceParts(pool, u"N", kNameParts, NameTexts, record);
 }
 
 void PlaceCompany(CardPool& pool, ContactRecord& record) {
-  const CardProperty* organization = pool.First(u"ORG");
-  if (!organization) return;
-  QStringList parts = PartsOf(*organization, u';');
-  record[Field::CompanyName] = parts.takeFirst();
-  parts.removeAll(QString());
-  record[Field::Department] = parts.join(u"; "_qs);
-  pool.Take(*organization);
+  PlaceParts(pool, u"ORG", kCompanyParts, CompanyTexts, record);
 }
 
 void PlaceCategories(CardPool& pool, ContactRecord& record) {
-  QStringList names;
+  QString& field = record[Field::Categories];
+  QStringList names = SplitCategories(field);
+  const qsizetype before = names.size();
   for (const CardProperty* categories : pool.All(u"CATEGORIES")) {
     for (QString name : PartsOf(*categories, u',')) {
       // A comma separates names in the record.
@@ -56,7 +78,7 @@ void PlaceCategories(CardPool& pool, ContactRecord& record) {
     }
     pool.Take(*categories);
   }
-  record[Field::Categories] = JoinCategories(names);
+  if (names.size() > before) field = JoinCategories(names);
 }
 
 bool HasName(const ContactRecord& record) {
@@ -105,21 +127,20 @@ void PlaceFiling(CardPool& pool, ContactRecord& record) {
 }
 
 void PlaceBeyondRecord(CardPool& pool, ContactItem& item) {
-  if (const CardProperty* uid = pool.First(u"UID")) {
-    item.Uid = TextOf(*uid).trimmed();
-    pool.Take(*uid);
+  for (const CardProperty* uid : pool.All(u"UID")) {
+    if (PutOrHas(TextOf(*uid).trimmed(), item.Uid)) pool.Take(*uid);
   }
-  if (const CardProperty* ink = pool.First(kInkProperty)) {
-    item.BodyInk = BytesOf(*ink);
-    if (!item.BodyInk.isEmpty()) pool.Take(*ink);
+  for (const CardProperty* ink : pool.All(kInkProperty)) {
+    const QByteArray bytes = BytesOf(*ink);
+    if (item.BodyInk.isEmpty()) item.BodyInk = bytes;
+    if (!bytes.isEmpty() && item.BodyInk == bytes) pool.Take(*ink);
   }
+  for (const CardProperty* version : pool.All(u"VERSION")) pool.Take(*version);
 }
 
 }  // namespace
 
-std::optional<ContactItem> ContactFromCard(const Card& card) {
-  CardPool pool(card);
-  ContactItem item;
+void PlaceProperties(CardPool& pool, ContactItem& item) {
   PlaceTexts(pool, item.Record);
   PlaceNames(pool, item.Record);
   PlaceCompany(pool, item.Record);
@@ -131,10 +152,25 @@ std::optional<ContactItem> ContactFromCard(const Card& card) {
   PlaceDays(pool, item.Record);
   PlaceFiling(pool, item.Record);
   PlaceBeyondRecord(pool, item);
+}
+
+std::optional<ContactItem> ContactFromCard(const Card& card) {
+  CardPool pool(card);
+  ContactItem item;
+  PlaceProperties(pool, item);
   if (item.Record == ContactRecord{} && item.BodyInk.isEmpty()) return std::nullopt;
-  for (const CardProperty* version : pool.All(u"VERSION")) pool.Take(*version);
   item.CarriedLines = pool.Rest();
   return item;
+}
+
+bool SaysFormattedName(const Card& card) {
+  CardPool pool(card);
+  const CardProperty* property = pool.First(u"FN");
+  ContactRecord record;
+  PlaceTexts(pool, record);
+  PlaceNames(pool, record);
+  PlaceCompany(pool, record);
+  return property && TextOf(*property) == FormattedName(record);
 }
 
 QString FormattedName(const ContactRecord& record) {

@@ -5,6 +5,7 @@
 
 #include <optional>
 
+#include "exchange/CardPool.h"
 #include "exchange/CardReader.h"
 #include "store/StoreProvider.h"
 
@@ -13,6 +14,14 @@ namespace quill {
 // Every field of the record that the card has something for, the UID and the ink notes; what has no
 // field is carried as it came. Nothing when the card holds no field at all.
 std::optional<ContactItem> ContactFromCard(const Card& card);
+
+// The same into a contact that may hold something: fields that have a text keep it, empty ones are
+// filled, categories and children are joined. What the contact holds then is taken from the pool,
+// the rest stays there.
+void PlaceProperties(CardPool& pool, ContactItem& item);
+
+// Whether the card's FN only repeats its name parts, company or filing name.
+bool SaysFormattedName(const Card& card);
 
 // The name as it is spoken: "Title First Middle Last Suffix" of what exists, else the company, else
 // FileAs. This is what a card made from the record calls its person.

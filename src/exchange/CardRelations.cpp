@@ -78,7 +78,8 @@ void PlaceSpouse(CardPool& pool, QString& spouse) {
 
 void PlaceChildren(CardPool& pool, QString& children) {
   // Our own property holds the field as it is; others are of other programs and add to it.
-  if (const CardProperty* whole = pool.First(kCardChildren.Property)) {
+  const CardProperty* whole = pool.First(kCardChildren.Property);
+  if (whole && children.isEmpty()) {
     children = TextOf(*whole);
     pool.Take(*whole);
   }
@@ -111,12 +112,16 @@ QString DayText(const CardProperty& property) {
   return property.Name == u"X-ANDROID-CUSTOM" ? PartsOf(property, u';').value(1) : TextOf(property);
 }
 
+bool IsSameDay(const CalendarDate& a, const CalendarDate& b) {
+  return a.Year == b.Year && a.Month == b.Month && a.Day == b.Day;
+}
+
 void PlaceDay(CardPool& pool, const Properties& sources, CalendarDate& day) {
   for (const CardProperty* source : sources) {
     const std::optional<CalendarDate> date = DateFromCard(DayText(*source));
     if (!date) continue;
     if (day.Year == 0) day = *date;
-    if (*date == day) TakeWithLabel(pool, *source);
+    if (IsSameDay(*date, day)) TakeWithLabel(pool, *source);
   }
 }
 

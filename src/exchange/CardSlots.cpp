@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "exchange/CardFields.h"
+#include "exchange/CardParts.h"
 #include "store/ContactFields.h"
 
 namespace quill {
@@ -75,12 +76,6 @@ NumberClaim ClaimOfTypes(const QStringList& types, const QString& number) {
   return UntypedClaim(number);
 }
 
-// The number of a "tel:" URI is what follows the scheme.
-QString NumberOf(const CardProperty& property) {
-  const QString text = TextOf(property);
-  return text.startsWith(u"tel:", Qt::CaseInsensitive) ? text.sliced(4) : text;
-}
-
 NumberClaim ClaimOf(const CardProperty& property) {
   const QString number = NumberOf(property);
   NumberClaim claim = ClaimOfTypes(TypesOf(property), number);
@@ -119,13 +114,13 @@ void TakeEmpty(CardPool& pool, QStringView name) {
 
 constexpr int kAddressParts = 7;  // box, extension, street, city, state, postal code, country
 
-bool IsFree(const ContactRecord& record, const CardAddressRow& fields) {
-  return record[fields.Street].isEmpty() && record[fields.City].isEmpty() &&
-         record[fields.State].isEmpty() && record[fields.PostalCode].isEmpty() &&
-         record[fields.Country].isEmpty();
+bool IsFree(const ContactRecord& record, const CardAddressRow& row) {
+  const AddressFields fields = AddressFieldsOf(row);
+  return std::all_of(fields.begin(), fields.end(),
+                     [&record](Field field) { return record[field].isEmpty(); });
 }
 
-const CardAddressRow& AddressFieldsFor(const CardProperty& address, const ContactRecord& record) {
+const CardAddressRow& FreeRowFor(const CardProperty& address, const ContactRecord& record) {
   const QStringList types = TypesOf(address);
   const auto fits = [&](const CardAddressRow& row) {
     return row.Type.isEmpty() || (types.contains(row.Type) && IsFree(record, row));
@@ -133,17 +128,29 @@ const CardAddressRow& AddressFieldsFor(const CardProperty& address, const Contac
   return *std::find_if(kCardAddresses.begin(), kCardAddresses.end(), fits);
 }
 
-void PutAddress(const QStringList& parts, const CardAddressRow& fields, ContactRecord& record) {
-  QStringList street = parts.first(3);
-  street.removeAll(QString());
-  record[fields.Street] = street.join(u'\n');
-  record[fields.City] = parts.at(3);
-  record[fields.State] = parts.at(4);
-  record[fields.PostalCode] = parts.at(5);
-  record[fields.Country] = parts.at(6);
+}  // namespace
+
+QString NumberOf(const CardProperty& tel) {
+  const QString text = TextOf(tel);
+  return text.startsWith(u"tel:", Qt::CaseInsensitive) ? text.sliced(4) : text;
 }
 
-}  // namespace
+bool MayHaveField(const CardProperty& tel) { return ClaimOf(tel).When != Turn::Never; }
+
+const CardAddressRow& AddressRowOf(const CardProperty& address) {
+  const QStringList types = TypesOf(address);
+  return *std::find_if(kCardAddresses.begin(), kCardAddresses.end(),
+                       [&types](const CardAddressRow& row) {
+                         return row.Type.isEmpty() || types.contains(row.Type);
+                       });
+}
+
+QStringList AddressTexts(const CardProperty& address) {
+  const QStringList parts = FixedPartsOf(address, kAddressParts);
+  QStringList street = parts.first(3);
+  street.removeAll(QString());
+  return QStringList(street.join(u'\n')) + parts.sliced(3);
+}
 
 void PlaceNumbers(CardPool& pool, ContactRecord& record) {
   TakeEmpty(pool, u"TEL");
@@ -172,11 +179,11 @@ void PlaceEmails(CardPool& pool, ContactRecord& record) {
 
 void PlaceAddresses(CardPool& pool, ContactRecord& record) {
   for (const CardProperty* address : pool.All(u"ADR")) {
-    const QStringList parts = FixedPartsOf(*address, kAddressParts);
-    const CardAddressRow& fields = AddressFieldsFor(*address, record);
-    const bool isEmpty = parts.join(QString()).trimmed().isEmpty();
-    if (!isEmpty && !IsFree(record, fields)) continue;
-    if (!isEmpty) PutAddress(parts, fields, record);
+    const QStringList texts = AddressTexts(*address);
+    const CardAddressRow& row = FreeRowFor(*address, record);
+    const bool isEmpty = texts.join(QString()).trimmed().isEmpty();
+    if (!isEmpty && !IsFree(record, row)) continue;
+    if (!isEmpty) FillEmpty(AddressFieldsOf(row), texts, record);
     pool.Take(*address);
   }
 }

@@ -28,6 +28,8 @@ struct ContactItem {
   QByteArray BodyInk = {};
   QString Uid = {};
   QString CarriedLines = {};
+
+  bool operator==(const ContactItem&) const = default;
 };
 
 class ContactsFolder {

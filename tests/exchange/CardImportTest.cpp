@@ -29,6 +29,15 @@ class CardImports : public testing::Test {
 
   int Count() { return m_store.Contacts()->Count(m_store.Contacts()->Items()); }
 
+  // The only contact of this name.
+  ContactItem Only(const QString& fileAs) {
+    const auto found = m_store.Contacts()->FindByFileAs(fileAs);
+    ContactItem item;
+    EXPECT_EQ(found.size(), 1U);
+    EXPECT_TRUE(!found.empty() && m_store.Contacts()->Read(found.front(), item));
+    return item;
+  }
+
   PimStore m_store{u":memory:"_qs};
   RefusingStore m_refusing{m_store};
 };
@@ -109,11 +118,51 @@ TEST_F(CardImports, ChangeNothingWhenTheSameFileComesAgain) {
   EXPECT_EQ(Count(), 23);
 }
 
-TEST_F(CardImports, LeaveAContactThatIsThereAsItIs) {
+TEST_F(CardImports, MergeACardWhosePersonIsThere) {
   Import(CardText("UID:u1\nFN:Old Name\n"));
-  EXPECT_EQ(Import(CardText("UID:u1\nFN:New Name\n")).Same, 1);
-  EXPECT_EQ(m_store.Contacts()->FindByFileAs(u"Old Name"_qs).size(), 1U);
-  EXPECT_EQ(m_store.Contacts()->FindByFileAs(u"New Name"_qs).size(), 0U);
+  const ImportSummary summary = Import(CardText("UID:u1\nFN:New Name\nTEL:1\n"));
+  EXPECT_EQ(summary.New, 0);
+  EXPECT_EQ(summary.Changed, 1);
+  EXPECT_EQ(summary.Same, 0);
+  const ContactItem item = Only(u"Old Name"_qs);
+  EXPECT_EQ(item.Record[ContactField::HomeTelephoneNumber], u"1");
+  EXPECT_EQ(item.CarriedLines, u"FN:New Name\n");
+  EXPECT_EQ(Import(CardText("UID:u1\nFN:New Name\nTEL:1\n")).Same, 1);
+}
+
+TEST_F(CardImports, LeaveAContactThatIsThereWhenToldToSkip) {
+  ImportOptions options;
+  options.Duplicates = OnDuplicate::Skip;
+  Import(CardText("UID:u1\nFN:Old Name\n"));
+  EXPECT_EQ(Import(CardText("UID:u1\nFN:New Name\nTEL:1\n"), options).Same, 1);
+  EXPECT_EQ(Only(u"Old Name"_qs).CarriedLines, QString());
+}
+
+TEST_F(CardImports, AddEveryCardWhenToldTo) {
+  ImportOptions options;
+  options.Duplicates = OnDuplicate::Add;
+  const QByteArray bytes = CardText("UID:u1\nFN:One\nTEL:1\n");
+  EXPECT_EQ(Import(bytes + bytes, options).New, 2);
+  EXPECT_EQ(Import(bytes, options).New, 1);
+  EXPECT_EQ(Count(), 3);
+}
+
+TEST_F(CardImports, ChangeNothingTheSecondTimeAlsoWhereCardsMetEachOther) {
+  // The third card brings the first two contacts' numbers together.
+  const QByteArray bytes = CardText("FN:A\nTEL:1\n") + CardText("FN:A\nTEL:2\nTITLE:Cook\n") +
+                           CardText("FN:A\nTEL:1\nTEL:2\n");
+  const ImportSummary first = Import(bytes);
+  EXPECT_EQ(first.New, 2);
+  EXPECT_EQ(first.Changed, 1);
+  EXPECT_EQ(Import(bytes).Same, 3);
+}
+
+TEST_F(CardImports, ReportAMergeThatTheStoreRefuses) {
+  Import(CardText("FN:Two\nTEL:1\n"));
+  m_refusing.Refuse(u"Two"_qs);
+  const ImportSummary summary = Import(CardText("FN:Two\nTEL:1\nTITLE:x\n"));
+  EXPECT_EQ(summary.Changed, 0);
+  EXPECT_EQ(summary.Unreadable, 1);
 }
 
 struct MatchCase {

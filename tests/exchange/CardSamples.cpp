@@ -31,29 +31,10 @@ QString DescribeDay(QStringView name, const CalendarDate& date) {
       .arg(date.DayOfWeek);
 }
 
-QString DescribeItem(const ContactItem& item) {
-  QString text;
-  for (const ContactFieldRow& row : kContactFields) {
-    const QString& value = item.Record[row.Field];
-    if (!value.isEmpty()) text += row.Property.toString() + u'=' + OneLine(value) + u'\n';
-  }
-  for (const ContactDateRow& row : kContactDates) {
-    text += DescribeDay(row.Property, item.Record.*(row.Date));
-  }
-  if (!item.Uid.isEmpty()) text += u"Uid="_qs + OneLine(item.Uid) + u'\n';
-  if (!item.BodyInk.isEmpty()) {
-    text += u"Ink="_qs + QString::fromLatin1(item.BodyInk.toHex()) + u'\n';
-  }
-  for (const QString& line : item.CarriedLines.split(u'\n', Qt::SkipEmptyParts)) {
-    text += u"Carried="_qs + OneLine(line) + u'\n';
-  }
-  return text;
-}
-
 QString DescribeCard(const Card& card) {
   QString text = u"card %1 line %2\n"_qs.arg(card.Ordinal).arg(card.Line);
   const auto item = ContactFromCard(card);
-  text += item ? DescribeItem(*item) : u"Fault=NothingToFile\n"_qs;
+  text += item ? Describe(*item) : u"Fault=NothingToFile\n"_qs;
   if (card.LinesNotUnderstood > 0) {
     text += u"notUnderstood %1\n"_qs.arg(card.LinesNotUnderstood);
   }
@@ -109,6 +90,25 @@ CardProperty PropertyOf(const QByteArray& line) {
   const auto property = ParseProperty(line, {});
   EXPECT_TRUE(property.has_value()) << line.constData();
   return property.value_or(CardProperty());
+}
+
+QString Describe(const ContactItem& item) {
+  QString text;
+  for (const ContactFieldRow& row : kContactFields) {
+    const QString& value = item.Record[row.Field];
+    if (!value.isEmpty()) text += row.Property.toString() + u'=' + OneLine(value) + u'\n';
+  }
+  for (const ContactDateRow& row : kContactDates) {
+    text += DescribeDay(row.Property, item.Record.*(row.Date));
+  }
+  if (!item.Uid.isEmpty()) text += u"Uid="_qs + OneLine(item.Uid) + u'\n';
+  if (!item.BodyInk.isEmpty()) {
+    text += u"Ink="_qs + QString::fromLatin1(item.BodyInk.toHex()) + u'\n';
+  }
+  for (const QString& line : item.CarriedLines.split(u'\n', Qt::SkipEmptyParts)) {
+    text += u"Carried="_qs + OneLine(line) + u'\n';
+  }
+  return text;
 }
 
 QString Describe(const QByteArray& bytes) {

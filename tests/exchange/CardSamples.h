@@ -26,6 +26,8 @@ Card CardOf(const QByteArray& properties);
 ContactItem ContactOf(const QByteArray& properties);
 CardProperty PropertyOf(const QByteArray& line);
 
+// What a contact holds, field by field, as lines of text.
+QString Describe(const ContactItem& item);
 // Every card as lines of text: where it starts, then what was made of it, field by field.
 QString Describe(const QByteArray& bytes);
 
