@@ -15,6 +15,7 @@ bool IsLineEnd(char c) { return c == '\n' || c == '\r'; }
 
 bool ByteLines::Next(ByteLine& line) {
   line.Bytes.resize(0);
+  line.Raw.resize(0);
   line.IsCut = false;
   if (m_position == m_block.size() && !Fill()) return false;
   line.Number = ++m_lines;
@@ -24,7 +25,7 @@ bool ByteLines::Next(ByteLine& line) {
     Append(line, stop);
     m_position = stop;
   } while (m_position == m_block.size() && Fill());
-  SkipLineEnd();
+  SkipLineEnd(line);
   if (line.Bytes.contains('\0')) line.Bytes.replace('\0', QByteArrayView());
   // Files put together from others carry a mark in front of every part.
   if (line.Bytes.startsWith(kUtf8Mark)) line.Bytes.remove(0, sizeof kUtf8Mark - 1);
@@ -35,15 +36,24 @@ void ByteLines::Append(ByteLine& line, qsizetype end) const {
   const qsizetype room = kMaxLine - line.Bytes.size();
   const qsizetype count = end - m_position;
   line.Bytes.append(m_block.constData() + m_position, std::min(count, room));
+  if (m_raw == RawBytes::Kept) {
+    line.Raw.append(m_block.constData() + m_position, std::min(count, room));
+  }
   line.IsCut = line.IsCut || count > room;
 }
 
-void ByteLines::SkipLineEnd() {
+void ByteLines::SkipLineEnd(ByteLine& line) {
   if (m_position == m_block.size()) return;
-  const bool isCarriageReturn = m_block.at(m_position++) == '\r';
+  const bool isCarriageReturn = m_block.at(m_position) == '\r';
+  TakeEndCharacter(line);
   if (!isCarriageReturn) return;
   if (m_position == m_block.size() && !Fill()) return;
-  if (m_block.at(m_position) == '\n') ++m_position;
+  if (m_block.at(m_position) == '\n') TakeEndCharacter(line);
+}
+
+void ByteLines::TakeEndCharacter(ByteLine& line) {
+  if (m_raw == RawBytes::Kept) line.Raw += m_block.at(m_position);
+  ++m_position;
 }
 
 bool ByteLines::Fill() {

@@ -15,7 +15,10 @@ struct ByteLine {
   QByteArray Bytes;    // without the line end, byte order mark and NUL bytes
   qint64 Number = 0;   // 1-based
   bool IsCut = false;  // longer than the limit: only the beginning is here
+  QByteArray Raw;      // as it came, with its line end (UTF-16 as UTF-8); empty unless kept
 };
+
+enum class RawBytes { Dropped, Kept };
 
 // Streams: holds one line and one block of the file. UTF-16 is told by its byte order mark or by
 // its NUL bytes, and comes out as UTF-8.
@@ -24,7 +27,8 @@ class ByteLines {
   static constexpr qsizetype kMaxLine = 8 * 1024 * 1024;  // bytes
 
   // The device is open for reading and outlives this.
-  explicit ByteLines(QIODevice& device) : m_device(device) {}
+  explicit ByteLines(QIODevice& device, RawBytes raw = RawBytes::Dropped)
+      : m_device(device), m_raw(raw) {}
 
   // False at the end of the file and when the device fails.
   bool Next(ByteLine& line);
@@ -38,9 +42,11 @@ class ByteLines {
   QByteArray ReadBlock();
   void DetectWide(const QByteArray& beginning);
   void Append(ByteLine& line, qsizetype end) const;
-  void SkipLineEnd();
+  void SkipLineEnd(ByteLine& line);
+  void TakeEndCharacter(ByteLine& line);
 
   QIODevice& m_device;
+  RawBytes m_raw;
   std::optional<QStringDecoder> m_wide;  // set for UTF-16
   // Keeps half a surrogate pair from one block to the next.
   QStringEncoder m_toUtf8{QStringEncoder::Utf8};

@@ -5,6 +5,7 @@
 #include "exchange/CardMapper.h"
 #include "exchange/CardMatch.h"
 #include "exchange/CardMerge.h"
+#include "exchange/CardName.h"
 
 namespace quill {
 
@@ -23,7 +24,8 @@ struct PendingCounts {
 class CardImport {
  public:
   CardImport(QIODevice& device, StoreProvider& provider, const ImportOptions& options)
-      : m_reader(device, {options.FallbackCharset}),
+      : m_reader(device, {options.FallbackCharset},
+                 options.Rejects ? RawBytes::Kept : RawBytes::Dropped),
         m_provider(provider),
         m_options(options),
         m_match(*provider.Contacts()) {}
@@ -113,9 +115,17 @@ class CardImport {
 
   void Report(const Card& card, CardFault fault) {
     ++m_summary.Unreadable;
+    if (m_options.Rejects) Reject(card);
     if (m_summary.UnreadableCards.size() >= ImportSummary::kMaxListed) return;
     const qint64 line = card.FaultLine != 0 ? card.FaultLine : card.Line;
-    m_summary.UnreadableCards.push_back({card.Ordinal, line, fault});
+    const QString name = card.Name.isEmpty() ? CardName(card.Properties) : card.Name;
+    m_summary.UnreadableCards.push_back({card.Ordinal, line, fault, name});
+  }
+
+  void Reject(const Card& card) {
+    m_options.Rejects->write(card.Raw);
+    const bool isEnded = card.Raw.endsWith('\n') || card.Raw.endsWith('\r');
+    if (!isEnded) m_options.Rejects->write("\n");
   }
 
   CardReader m_reader;

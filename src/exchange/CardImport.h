@@ -33,12 +33,17 @@ struct ImportOptions {
   QByteArray FallbackCharset = "windows-1252";
   // Asked now and then; false stops the import. What was counted until then stays.
   std::function<bool(const ImportProgress&)> Continue = {};
+  // Gets the unreadable cards as they came, each ended by a line end; null: nobody does. A card
+  // beyond the reader's limits is cut there, and UTF-16 comes as UTF-8. It is open for writing;
+  // what it cannot write, it has to remember itself.
+  QIODevice* Rejects = nullptr;
 };
 
 struct UnreadableCard {
   qint64 Ordinal = 0;  // 1-based, in the file
   qint64 Line = 0;     // 1-based: where it failed, else its first line
   CardFault Fault = CardFault::None;
+  QString Name;  // CardName
 };
 
 enum class ImportEnd {

@@ -25,6 +25,10 @@ bool HasOpenBackslash(QByteArrayView line) {
   return count % 2 == 1;
 }
 
+void AppendWithin(qsizetype limit, QByteArrayView more, QByteArray& bytes) {
+  bytes += more.first(std::clamp<qsizetype>(limit - bytes.size(), 0, more.size()));
+}
+
 // Whether a line can be the start of a property rather than quoted-printable text going on: writers
 // exist that end such a text with a bare "=".
 bool LooksLikeProperty(QByteArrayView line) {
@@ -67,10 +71,13 @@ bool CardLines::Next(ByteLine& line) {
 bool CardLines::Peek() {
   if (m_hasAhead) return true;
   m_afterBlank = false;
+  QByteArray blanks;
   while (m_source.Next(m_ahead)) {
     m_hasAhead = !m_ahead.Bytes.isEmpty();
+    if (m_hasAhead && m_afterBlank) m_ahead.Raw.prepend(blanks);
     if (m_hasAhead) return true;
     m_afterBlank = true;
+    AppendWithin(kMaxLine, m_ahead.Raw, blanks);
   }
   return false;
 }
@@ -109,6 +116,7 @@ void CardLines::Join(ByteLine& line, Following following) {
   const qsizetype room = std::max<qsizetype>(kMaxLine - line.Bytes.size(), 0);
   line.IsCut = line.IsCut || m_ahead.IsCut || more.size() > room;
   line.Bytes += more.first(std::min(more.size(), room));
+  AppendWithin(kMaxLine, m_ahead.Raw, line.Raw);
   m_last = LastCharacter(more);
   m_hasAhead = false;
   // Only a new colon can end the header, and only near the beginning: lines may be very long.

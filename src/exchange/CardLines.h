@@ -16,9 +16,10 @@ class CardLines {
   static constexpr qsizetype kMaxLine = ByteLines::kMaxLine;  // bytes, unfolded
 
   // The device is open for reading and outlives this.
-  explicit CardLines(QIODevice& device) : m_source(device) {}
+  explicit CardLines(QIODevice& device, RawBytes raw = RawBytes::Dropped) : m_source(device, raw) {}
 
-  // The next logical line, numbered by its first physical line; a line beyond the limit is cut.
+  // The next logical line, numbered by its first physical line; a line beyond the limit is cut. The
+  // blank lines before it belong to its raw bytes.
   // False at the end of the file and when the device fails.
   bool Next(ByteLine& line);
 

@@ -1,6 +1,9 @@
 #include "exchange/CardReader.h"
 
+#include <algorithm>
 #include <utility>
+
+#include "exchange/CardName.h"
 
 namespace quill {
 
@@ -14,10 +17,14 @@ bool IsMark(const QByteArray& line, QByteArrayView mark) {
 bool IsBegin(const QByteArray& line) { return IsMark(line, "BEGIN:VCARD"); }
 bool IsEnd(const QByteArray& line) { return IsMark(line, "END:VCARD"); }
 
+bool EndsWithLineEnd(const QByteArray& bytes) {
+  return bytes.endsWith('\n') || bytes.endsWith('\r');
+}
+
 }  // namespace
 
-CardReader::CardReader(QIODevice& device, CardCharset charset)
-    : m_lines(device), m_charset(std::move(charset)) {}
+CardReader::CardReader(QIODevice& device, CardCharset charset, RawBytes raw)
+    : m_lines(device, raw), m_charset(std::move(charset)) {}
 
 bool CardReader::Next(Card& card) {
   card = {};
@@ -63,6 +70,7 @@ void CardReader::Begin(Card& card) {
   m_depth = 0;
   m_bytes = 0;
   m_afterAgent = false;
+  KeepRaw(card);
 }
 
 CardReader::Place CardReader::Take(Card& card) {
@@ -71,6 +79,7 @@ CardReader::Place CardReader::Take(Card& card) {
     m_isPending = true;
     return Place::After;
   }
+  KeepRaw(card);
   if (IsBegin(m_line.Bytes)) {
     if (++m_depth > kMaxDepth) SetFault(card, CardFault::NestedTooDeep);
   }
@@ -101,10 +110,20 @@ void CardReader::Keep(Card& card, CardProperty property) {
   card.Properties.push_back(std::move(property));
 }
 
+void CardReader::KeepRaw(Card& card) const {
+  const QByteArrayView raw = m_line.Raw;
+  if (raw.isEmpty()) return;
+  const qsizetype room = std::max<qsizetype>(kMaxCard - card.Raw.size(), 0);
+  // Where something was cut off, the next line still begins on a line of its own.
+  if (!card.Raw.isEmpty() && !EndsWithLineEnd(card.Raw)) card.Raw += '\n';
+  card.Raw += raw.first(std::min(room, raw.size()));
+}
+
 void CardReader::SetFault(Card& card, CardFault fault) const {
   if (card.Fault != CardFault::None) return;
   card.Fault = fault;
   card.FaultLine = m_line.Number;
+  card.Name = CardName(card.Properties);
   card.Properties = {};
 }
 

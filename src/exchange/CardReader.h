@@ -28,6 +28,8 @@ struct Card {
   int LinesNotUnderstood = 0;
   CardFault Fault = CardFault::None;
   qint64 FaultLine = 0;  // 1-based; 0 without a fault
+  QString Name;          // of whom it was, as far as was read; empty without a fault
+  QByteArray Raw;        // its lines as they came; empty unless kept, cut at kMaxCard
 };
 
 // Streams: holds one card at a time, and never more than the limits below. What is wrong inside a
@@ -39,7 +41,7 @@ class CardReader {
   static constexpr int kMaxDepth = 16;  // cards within cards
 
   // The device is open for reading and outlives this.
-  CardReader(QIODevice& device, CardCharset charset);
+  CardReader(QIODevice& device, CardCharset charset, RawBytes raw = RawBytes::Dropped);
 
   // False at the end of the file and when the device fails.
   bool Next(Card& card);
@@ -56,6 +58,7 @@ class CardReader {
   Place Take(Card& card);
   void TakeProperty(Card& card);
   void Keep(Card& card, CardProperty property);
+  void KeepRaw(Card& card) const;
   void SetFault(Card& card, CardFault fault) const;
 
   CardLines m_lines;

@@ -78,6 +78,37 @@ TEST(ByteLines, AreCutAtTheLimitAndTheNextLineIsWhole) {
   EXPECT_EQ(lines.BytesRead(), count + 6);
 }
 
+QByteArrayList RawLinesOf(QIODevice& device) {
+  ByteLines lines(device, RawBytes::Kept);
+  QByteArrayList found;
+  ByteLine line;
+  while (lines.Next(line)) found.append(line.Raw);
+  return found;
+}
+
+TEST(ByteLines, KeepTheBytesAsTheyCameWhenTheyShall) {
+  const QByteArray bytes("\xEF\xBB\xBFn\0l\r\n\rb\n", 11);
+  PatternDevice device(bytes, 1, 1);
+  EXPECT_EQ(RawLinesOf(device), (QByteArrayList{bytes.first(8), "\r", "b\n"}));
+}
+
+TEST(ByteLines, KeepNoMoreThanTheLimitOfALine) {
+  PatternDevice device("x", 2 * ByteLines::kMaxLine, 64 * 1024, "\nnext");
+  const QByteArrayList raw = RawLinesOf(device);
+  ASSERT_EQ(raw.size(), 2);
+  EXPECT_EQ(raw.first().size(), ByteLines::kMaxLine + 1);
+  EXPECT_TRUE(raw.first().endsWith('\n'));
+  EXPECT_EQ(raw.last(), "next");
+}
+
+TEST(ByteLines, KeepNoBytesUnlessTheyShall) {
+  PatternDevice device("a\n", 1, 2);
+  ByteLines lines(device);
+  ByteLine line;
+  ASSERT_TRUE(lines.Next(line));
+  EXPECT_EQ(line.Raw, "");
+}
+
 TEST(ByteLines, TellThatTheDeviceFailed) {
   PatternDevice device("x\n", 1, 2);
   device.FailAtEnd();

@@ -93,6 +93,28 @@ TEST_F(CardImports, ReportACardThatTheStoreRefusesAndGoOn) {
   EXPECT_EQ(summary.UnreadableCards.front().Fault, CardFault::NotStored);
 }
 
+TEST_F(CardImports, NameTheCardsThatTheyReport) {
+  m_refusing.Refuse(u"Two"_qs);
+  const ImportSummary summary =
+      Import(CardText("FN:Two\n") + CardText("NICKNAME:Jay\n") +
+             CardText("FN:Three\n" + QByteArray("TEL:1\n").repeated(6000)) + CardText("NOTE:x\n"));
+  QStringList names;
+  for (const UnreadableCard& card : summary.UnreadableCards) names.append(card.Name);
+  EXPECT_EQ(names, (QStringList{u"Two"_qs, u"Jay"_qs, u"Three"_qs, QString()}));
+}
+
+TEST_F(CardImports, KeepTheCardsThatCouldNotBeRead) {
+  QBuffer rejects;
+  rejects.open(QIODevice::WriteOnly);
+  ImportOptions options;
+  options.Rejects = &rejects;
+  m_refusing.Refuse(u"Two"_qs);
+  const QByteArray refused = CardText("FN:Two\r\n\n");
+  const QByteArray empty = CardText("NOTE:caf\xE9\n x").chopped(1);
+  Import(CardText("FN:One\n") + refused + CardText("FN:Three\n") + empty, options);
+  EXPECT_EQ(rejects.data(), refused + empty + '\n');
+}
+
 TEST_F(CardImports, ReportTheLineAtWhichACardFailed) {
   const QByteArray much = "TEL:1\n";
   PatternDevice device(much, 6000, 4096, "END:VCARD\nFN:Next\n");

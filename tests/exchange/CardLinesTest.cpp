@@ -4,6 +4,8 @@
 
 #include <QBuffer>
 
+#include <algorithm>
+
 #include "exchange/PatternDevice.h"
 
 namespace quill::test {
@@ -91,6 +93,32 @@ TEST(CardLines, AreCutAtTheLimitHoweverManyFolds) {
   ASSERT_TRUE(lines.Next(line));
   EXPECT_EQ(line.Bytes, "B:1");
   EXPECT_FALSE(line.IsCut);
+}
+
+TEST(CardLines, KeepFoldsAndTheBlankLinesBeforeThem) {
+  PatternDevice device("\r\n\nA:1\r\n 2\r\n\n 3\nB;BASE64:\nQ\n\nC", 1, 3);
+  CardLines lines(device, RawBytes::Kept);
+  QByteArrayList raw;
+  ByteLine line;
+  while (lines.Next(line)) raw.append(line.Raw);
+  EXPECT_EQ(raw, (QByteArrayList{"\r\n\nA:1\r\n 2\r\n\n 3\n", "B;BASE64:\nQ\n", "\nC"}));
+}
+
+TEST(CardLines, KeepNoMoreThanTheLimitHoweverManyFoldsOrBlankLines) {
+  for (const char* piece : {"\n y", "\n"}) {
+    PatternDevice device(piece, CardLines::kMaxLine, 64 * 1024, "\nB:1\n");
+    CardLines lines(device, RawBytes::Kept);
+    ByteLine line;
+    qsizetype longest = 0;
+    QByteArray last;
+    while (lines.Next(line)) {
+      longest = std::max(longest, line.Raw.size());
+      last = line.Raw;
+    }
+    EXPECT_GE(longest, CardLines::kMaxLine);
+    EXPECT_LE(longest, CardLines::kMaxLine + 4);
+    EXPECT_TRUE(last.endsWith("B:1\n"));
+  }
 }
 
 }  // namespace

@@ -83,5 +83,47 @@ TEST(CardReader, TakesTheAgentOfVersion30ForACardThatWasNotClosed) {
   EXPECT_EQ(ReadCards("BEGIN:VCARD\nVERSION:3.0\nAGENT:\nBEGIN:VCARD\nEND:VCARD\n").size(), 2U);
 }
 
+QByteArrayList RawCardsOf(QIODevice& device) {
+  CardReader reader(device, {}, RawBytes::Kept);
+  QByteArrayList found;
+  Card card;
+  while (reader.Next(card)) found.append(card.Raw);
+  return found;
+}
+
+TEST(CardReader, KeepsCardsAsTheyCame) {
+  const QByteArray first =
+      "BEGIN:VCARD\r\nVERSION:2.1\r\nAGENT:\r\nbegin:vcard\nEND:VCARD\n\nX\r\n";
+  const QByteArray second = "BEGIN:VCARD\rFN:a\r b\rEND:VCARD\r";
+  const QByteArray third = "N:c\nEND:VCARD";
+  PatternDevice device(first + second + third, 1, 7);
+  EXPECT_EQ(RawCardsOf(device), (QByteArrayList{first, second, third}));
+}
+
+TEST(CardReader, KeepsNoMoreThanTheLimitOfACard) {
+  PatternDevice device("FN:" + QByteArray(1024 * 1024, 'x') + '\n', 40, 64 * 1024, kNextCard);
+  const QByteArrayList raw = RawCardsOf(device);
+  ASSERT_EQ(raw.size(), 2);
+  EXPECT_GE(raw.first().size(), CardReader::kMaxCard);
+  EXPECT_LE(raw.first().size(), CardReader::kMaxCard + 1);
+  EXPECT_EQ(raw.last(), "BEGIN:VCARD\nFN:Next\nEND:VCARD\n");
+}
+
+TEST(CardReader, BeginsALineAfterOneThatWasCut) {
+  PatternDevice device("FN:x\n y", CardLines::kMaxLine, 64 * 1024, kNextCard);
+  const QByteArrayList raw = RawCardsOf(device);
+  ASSERT_EQ(raw.size(), 2);
+  EXPECT_TRUE(raw.first().endsWith("\nEND:VCARD\n"));
+}
+
+TEST(CardReader, NamesACardThatItGaveUp) {
+  PatternDevice device("BEGIN:VCARD\nFN:Jane\n" + QByteArray("TEL:1\n").repeated(6000), 1, 4096);
+  CardReader reader(device, {});
+  Card card;
+  ASSERT_TRUE(reader.Next(card));
+  EXPECT_EQ(card.Fault, CardFault::TooManyLines);
+  EXPECT_EQ(card.Name, u"Jane");
+}
+
 }  // namespace
 }  // namespace quill::test
