@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "exchange/CardCategories.h"
 #include "exchange/CardMapper.h"
 #include "exchange/CardMatch.h"
 #include "exchange/CardMerge.h"
@@ -28,7 +29,8 @@ class CardImport {
                  options.Rejects ? RawBytes::Kept : RawBytes::Dropped),
         m_provider(provider),
         m_options(options),
-        m_match(*provider.Contacts()) {}
+        m_match(*provider.Contacts()),
+        m_categories(*provider.Categories()) {}
 
   ImportSummary Run() {
     m_hasMore = true;
@@ -53,7 +55,7 @@ class CardImport {
       Take(card);
       AskWhetherToContinue();
     }
-    if (!transaction->Commit()) return FailStore();
+    if (!m_categories.AddToLibrary() || !transaction->Commit()) return FailStore();
     m_summary.New += m_pending.New;
     m_summary.Changed += m_pending.Changed;
     m_summary.Same += m_pending.Same;
@@ -110,6 +112,7 @@ class CardImport {
     const Oid written = m_provider.Contacts()->SaveWhole(oid, item);
     if (written == 0) return Report(card, CardFault::NotStored);
     m_match.Note(written, item.Record);
+    m_categories.Note(item.Record);
     ++counter;
   }
 
@@ -133,6 +136,7 @@ class CardImport {
   const ImportOptions& m_options;
   ImportSummary m_summary;
   ContactMatch m_match;
+  CardCategories m_categories;
   PendingCounts m_pending;
   qint64 m_changes = 0;  // of the store, by its own count
   qint64 m_cards = 0;

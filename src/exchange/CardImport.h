@@ -2,7 +2,8 @@
 //
 // Each card stands alone: one that cannot be read or stored is reported and never stops the rest.
 // What happens to a card whose person is there already (ContactMatch) is a choice. Importing the
-// same file again changes nothing, unless every card is to be added.
+// same file again changes nothing, unless every card is to be added. The categories of contacts
+// that are new or changed go into the category library.
 #pragma once
 
 #include <QIODevice>

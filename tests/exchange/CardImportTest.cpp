@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QBuffer>
+#include <QTemporaryDir>
 
 #include "exchange/CardSamples.h"
 #include "exchange/PatternDevice.h"
@@ -216,6 +217,72 @@ INSTANTIATE_TEST_SUITE_P(
         MatchCase{"NameAlone", "FN:A\n", "FN:A\n", 1},
         MatchCase{"NameAndOtherTitle", "FN:A\nTITLE:x\n", "FN:A\nTITLE:y\n", 2}),
     [](const auto& match) { return std::string(match.param.Name); });
+
+TEST_F(CardImports, BringTheCategoriesOfTheirContactsIntoTheLibrary) {
+  const QStringList before = m_store.Categories()->Names();
+  Import(CardText("FN:A\nTEL:1\nCATEGORIES:Golf,Work\n"));
+  EXPECT_EQ(m_store.Categories()->Names(), before + QStringList{u"Golf"_qs});
+  Import(CardText("FN:A\nTEL:1\nCATEGORIES:Art\n"));
+  EXPECT_EQ(m_store.Categories()->Names(), before + QStringList({u"Golf"_qs, u"Art"_qs}));
+}
+
+TEST_F(CardImports, LeaveTheLibraryAloneWhereContactsStayTheSame) {
+  const QStringList before = m_store.Categories()->Names();
+  const QByteArray bytes = CardText("FN:A\nTEL:1\nCATEGORIES:Golf\n");
+  Import(bytes);
+  ASSERT_TRUE(m_store.Categories()->SetNames(before));
+  EXPECT_EQ(Import(bytes).Same, 1);
+  EXPECT_EQ(m_store.Categories()->Names(), before);
+}
+
+TEST_F(CardImports, BringNoCategoriesFromATransactionThatFailed) {
+  const QStringList before = m_store.Categories()->Names();
+  m_refusing.FailCommit(1);
+  Import(CardText("FN:A\nCATEGORIES:Golf\n"));
+  EXPECT_EQ(m_store.Categories()->Names(), before);
+}
+
+// Another program that writes a contact between two transactions.
+class ShiftingStore : public FaultyStore {
+ public:
+  ShiftingStore(StoreProvider& inner, ContactsFolder& other) : FaultyStore(inner), m_other(other) {}
+
+  std::unique_ptr<StoreTransaction> Begin() override {
+    if (++m_begun == 2) {
+      EXPECT_NE(m_other.SaveWhole(0, ContactOf("FN:Kim\nTEL:77\n")), 0);
+    }
+    return FaultyStore::Begin();
+  }
+
+ private:
+  ContactsFolder& m_other;
+  int m_begun = 0;
+};
+
+void Open(PimStore& store) {
+  ASSERT_EQ(store.Create(), 0);
+  ASSERT_EQ(store.Logon(), 0);
+  ASSERT_EQ(store.OpenFolder(FolderKind::Contacts), 0);
+}
+
+TEST(CardImportBesideAnother, SeesWhatTheOtherWroteBetweenTransactions) {
+  const QTemporaryDir folder;
+  PimStore own(folder.filePath(u"store.db"_qs));
+  PimStore other(folder.filePath(u"store.db"_qs));
+  Open(own);
+  Open(other);
+  ShiftingStore shifting(own, *other.Contacts());
+  QByteArray bytes;
+  for (int i = 0; i < 1000; ++i) {
+    bytes += CardText("FN:Kim\nEMAIL:k" + QByteArray::number(i) + "@example.org\n");
+  }
+  bytes += CardText("FN:Kim\nTEL:77\n");
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::ReadOnly);
+  const ImportSummary summary = ImportCards(buffer, shifting, {});
+  EXPECT_EQ(summary.New, 1000);
+  EXPECT_EQ(summary.Same, 1);
+}
 
 TEST_F(CardImports, StopWhenToldAndKeepWhatWasCounted) {
   std::vector<qint64> asked;
