@@ -20,9 +20,9 @@ struct Option {
 };
 
 struct VerbCall {
-  Places Where;                    // its folders exist
-  QStringList Arguments;           // at least as many as the verb needs
-  QMap<QString, QString> Options;  // those that were given; empty where they take no value
+  Places Where;                         // its folders exist
+  QStringList Arguments;                // at least as many as the verb needs
+  QMap<QString, QString> Options = {};  // those that were given; empty where they take no value
 };
 
 struct Verb {
