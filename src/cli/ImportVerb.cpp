@@ -1,18 +1,34 @@
 #include "cli/ImportVerb.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QLocale>
 
 #include <algorithm>
+#include <cstdio>
 
 #include "app/StoreOpening.h"
+#include "cli/CardFiles.h"
+#include "cli/ImportReport.h"
 #include "cli/ProgressLine.h"
+#include "cli/RejectsFile.h"
 #include "exchange/CardImport.h"
 #include "store/pim/PimStore.h"
 
 namespace quill {
 namespace {
+
+constexpr QStringView kStandardInput = u"-";
+
+OnDuplicate DuplicatesOf(const VerbCall& call) {
+  const QString word = ValueOf(call, kDuplicateOption);
+  if (word == u"add") return OnDuplicate::Add;
+  return word == u"skip" ? OnDuplicate::Skip : OnDuplicate::Merge;
+}
+
+QByteArray CharsetOf(const VerbCall& call) {
+  return IsGiven(call, kCharsetOption) ? ValueOf(call, kCharsetOption).toLatin1()
+                                       : FallbackCharset(QLocale::system());
+}
 
 QString ProgressText(const QString& name, const ImportProgress& progress, qint64 size) {
   const QString text = QStringLiteral("%1: %2 cards").arg(name).arg(progress.Cards);
@@ -20,77 +36,102 @@ QString ProgressText(const QString& name, const ImportProgress& progress, qint64
   return text + QStringLiteral(", %1 %").arg(100 * progress.BytesRead / size);
 }
 
-ImportSummary ImportFile(QFile& file, StoreProvider& store, const Console& console) {
-  ProgressLine line(console);
-  ImportOptions options;
-  options.FallbackCharset = FallbackCharset(QLocale::system());
-  options.Continue = [&](const ImportProgress& progress) {
-    line.Show(ProgressText(file.fileName(), progress, file.size()));
-    return true;
-  };
-  return ImportCards(file, store, options);
-}
+// The files of one command, one after the other into the same store.
+class FileImport {
+ public:
+  FileImport(StoreProvider& store, const ImportOptions& options, const Console& console)
+      : m_store(store), m_options(options), m_console(console) {}
 
-void PrintUnreadable(const QString& name, const ImportSummary& summary, QTextStream& err) {
-  for (const UnreadableCard& card : summary.UnreadableCards) {
-    err << name << ':' << card.Line << ": card " << card.Ordinal << ": "
-        << CardFaultText(card.Fault) << '\n';
+  void Take(const QString& argument) {
+    const QStringList names = CardFilesOf(argument);
+    if (names.isEmpty()) Fail(kExitPartly, argument, QStringLiteral("no card files in it"));
+    for (const QString& name : names) TakeFile(name);
   }
-  const qint64 unlisted = summary.Unreadable - static_cast<qint64>(summary.UnreadableCards.size());
-  if (unlisted > 0) err << name << ": and " << unlisted << " more unreadable cards\n";
-  if (summary.LinesNotUnderstood > 0)
-    err << name << ": lines not understood: " << summary.LinesNotUnderstood << '\n';
-  err.flush();
-}
 
-int ExitCodeOf(const ImportSummary& summary) {
-  if (summary.End != ImportEnd::WholeFile) return kExitFailed;
-  const bool heldNone = summary.New + summary.Same == 0;
-  return summary.Unreadable > 0 || heldNone ? kExitPartly : kExitDone;
-}
-
-// Returns the exit code as if this were the only file.
-int Report(const QFile& file, const ImportSummary& summary, const Console& console) {
-  const QString name = file.fileName();
-  PrintUnreadable(name, summary, console.Err);
-  if (summary.End == ImportEnd::DeviceFailed)
-    Complain(console, QStringLiteral("%1: %2").arg(name, file.errorString()));
-  if (summary.End == ImportEnd::StoreFailed)
-    Complain(console, QStringLiteral("%1: %2").arg(name, summary.StoreError));
-  if (summary.New + summary.Same + summary.Unreadable == 0) {
-    Complain(console, QStringLiteral("%1: no contacts in it").arg(name));
-  } else {
-    console.Out << name << ": " << summary.New << " new, " << summary.Same << " the same, "
-                << summary.Unreadable << " unreadable" << Qt::endl;
+  int Finish() {
+    if (m_files > 1)
+      m_console.Out << CountsLine(QStringLiteral("%1 files").arg(m_files), m_sum) << Qt::endl;
+    return m_exitCode;
   }
-  return ExitCodeOf(summary);
+
+ private:
+  void TakeFile(const QString& name) {
+    const bool isInput = name == kStandardInput;
+    QFile file(name);
+    if (!(isInput ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly)))
+      return Fail(kExitFailed, name, file.errorString());
+    const QString title = isInput ? QStringLiteral("standard input") : name;
+    ImportSummary summary = Import(title, file);
+    if (summary.End == ImportEnd::DeviceFailed) summary.Reason = file.errorString();
+    m_exitCode = std::max(m_exitCode, ReportImport(title, summary, m_console));
+    Sum(summary);
+  }
+
+  ImportSummary Import(const QString& title, QFile& file) {
+    ProgressLine line(m_console);
+    ImportOptions options = m_options;
+    options.Continue = [&](const ImportProgress& progress) {
+      line.Show(ProgressText(title, progress, file.size()));
+      return true;
+    };
+    return ImportCards(file, m_store, options);
+  }
+
+  void Fail(int exitCode, const QString& name, const QString& reason) {
+    Complain(m_console, QStringLiteral("%1: %2").arg(name, reason));
+    m_exitCode = std::max(m_exitCode, exitCode);
+  }
+
+  void Sum(const ImportSummary& summary) {
+    ++m_files;
+    m_sum.New += summary.New;
+    m_sum.Changed += summary.Changed;
+    m_sum.Same += summary.Same;
+    m_sum.Unreadable += summary.Unreadable;
+  }
+
+  StoreProvider& m_store;
+  const ImportOptions& m_options;
+  const Console& m_console;
+  ImportSummary m_sum;  // its counts
+  int m_files = 0;      // that could be opened
+  int m_exitCode = kExitDone;
+};
+
+int FailWith(const QString& problem, const Console& console) {
+  Complain(console, problem);
+  return kExitFailed;
 }
 
-int ImportNamed(const QString& name, StoreProvider& store, const Console& console) {
-  QFile file(name);
-  // Opening a folder for reading works, reading it does not.
-  const bool isFolder = QFileInfo(name).isDir();
-  if (isFolder || !file.open(QIODevice::ReadOnly)) {
-    const QString reason = isFolder ? QStringLiteral("is a folder") : file.errorString();
-    Complain(console, QStringLiteral("%1: %2").arg(name, reason));
-    return kExitFailed;
+QString ProblemOfRejects(const QStringList& arguments, RejectsFile& rejects) {
+  for (const QString& argument : arguments) {
+    if (rejects.IsOneOf(CardFilesOf(argument)))
+      return QStringLiteral("%1 is to be brought in itself").arg(rejects.Path());
   }
-  return Report(file, ImportFile(file, store, console), console);
+  return rejects.Open() ? QString() : rejects.Problem();
 }
 
 }  // namespace
 
 int RunImport(const VerbCall& call, const Console& console) {
+  ImportOptions options;
+  options.Duplicates = DuplicatesOf(call);
+  options.FallbackCharset = CharsetOf(call);
+  if (!IsKnownCharset(options.FallbackCharset))
+    return FailWith(
+        QStringLiteral("there is no character set %1").arg(ValueOf(call, kCharsetOption)), console);
+  RejectsFile rejects(ValueOf(call, kRejectsOption));
+  const QString problem = ProblemOfRejects(call.Arguments, rejects);
+  if (!problem.isEmpty()) return FailWith(problem, console);
+  options.Rejects = rejects.Device();
+
   PimStore store(call.Where.StoreFile);
   const StoreOpening opening(store);
-  if (!opening.Succeeded()) {
-    Complain(console, opening.Problem());
-    return kExitFailed;
-  }
-  int exitCode = kExitDone;
-  for (const QString& name : call.Arguments)
-    exitCode = std::max(exitCode, ImportNamed(name, store, console));
-  return exitCode;
+  if (!opening.Succeeded()) return FailWith(opening.Problem(), console);
+  FileImport import(store, options, console);
+  for (const QString& argument : call.Arguments) import.Take(argument);
+  const int exitCode = import.Finish();
+  return rejects.Finish() ? exitCode : FailWith(rejects.Problem(), console);
 }
 
 }  // namespace quill

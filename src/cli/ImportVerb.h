@@ -5,9 +5,16 @@
 
 namespace quill {
 
-// A file that cannot be read is told and the next one taken. The summary goes to Out, one line
-// "FILE:LINE: card N: reason" for each card that could not be brought in to Err. kExitFailed when a
-// file or the store failed, kExitPartly when a card did or a file held none.
+// Of the verb's row.
+inline constexpr QStringView kDuplicateOption = u"--on-duplicate";
+inline constexpr QStringView kCharsetOption = u"--charset";
+inline constexpr QStringView kRejectsOption = u"--rejects";
+
+// Each argument is a file, a folder whose card files are meant (CardFilesOf), or "-" for standard
+// input. A file that cannot be read is told and the next one taken; of each the report is printed
+// (ReportImport), of several their sum. Answers the worst of the files' exit codes. With a rejects
+// file the cards that could not be read stand there afterwards; when there is none, the file is not
+// touched.
 int RunImport(const VerbCall& call, const Console& console);
 
 }  // namespace quill

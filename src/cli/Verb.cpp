@@ -15,9 +15,15 @@ constexpr int kAny = std::numeric_limits<int>::max();
 constexpr auto kPrinting = std::to_array<Option>({
     {kJsonOption, u"", u"print JSON"},
 });
+constexpr auto kImporting = std::to_array<Option>({
+    {kDuplicateOption, u"merge|add|skip", u"a card whose person is there: merge unless told"},
+    {kCharsetOption, u"NAME", u"of text that does not say its character set"},
+    {kRejectsOption, u"FILE", u"keep the cards that cannot be read in this file"},
+});
 constexpr auto kVerbs = std::to_array<Verb>({
     {u"check", u"", u"look the store over and mend its index", 0, 0, kPrinting, RunCheck},
-    {u"import", u"FILE...", u"bring in the contacts of vCard files", 1, kAny, {}, RunImport},
+    {u"import", u"FILE|DIR...", u"bring in the contacts of vCard files", 1, kAny, kImporting,
+     RunImport},
     {u"list", u"", u"print the contacts' names, one on a line", 0, 0, kPrinting, RunList},
 });
 

@@ -75,6 +75,12 @@ QByteArray FallbackCharset(const QLocale& locale) {
   }
 }
 
+bool IsKnownCharset(const QByteArray& name) {
+  constexpr char kAscii[] = "BEGIN:VCARD";
+  QStringDecoder decoder(DecoderName(name).constData(), kWholeText);
+  return decoder.isValid() && QString(decoder(kAscii)) == QLatin1String(kAscii);
+}
+
 QString DecodeText(QByteArrayView bytes, const QByteArray& declared, const QByteArray& fallback) {
   if (!declared.isEmpty()) {
     QStringDecoder decoder(DecoderName(declared).constData(), kWholeText);

@@ -17,6 +17,10 @@ struct CardCharset {
 // The fallback for cards written where the locale is spoken.
 QByteArray FallbackCharset(const QLocale& locale);
 
+// Whether text can be read in a character set of this name that contains ASCII, as all do in which
+// the lines of a card are written; UTF-16 shows by itself.
+bool IsKnownCharset(const QByteArray& name);
+
 // The declared character set when it is one we know, else UTF-8 when the bytes are valid, else the
 // fallback. Never fails: what cannot be decoded becomes U+FFFD.
 QString DecodeText(QByteArrayView bytes, const QByteArray& declared, const QByteArray& fallback);

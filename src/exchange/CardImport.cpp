@@ -70,7 +70,7 @@ class CardImport {
 
   void FailStore() {
     m_summary.End = ImportEnd::StoreFailed;
-    m_summary.StoreError = m_provider.LastError();
+    m_summary.Reason = m_provider.LastError();
   }
 
   void AskWhetherToContinue() {

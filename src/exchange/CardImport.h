@@ -64,7 +64,7 @@ struct ImportSummary {
   std::vector<UnreadableCard> UnreadableCards;  // in the order of the file; the first kMaxListed
   qint64 LinesNotUnderstood = 0;                // within cards that were read, and outside of cards
   ImportEnd End = ImportEnd::WholeFile;
-  QString StoreError;  // why, after StoreFailed
+  QString Reason;  // after StoreFailed: why
 };
 
 // The device is open for reading; the provider's contacts folder is open. Durable after every 1,000

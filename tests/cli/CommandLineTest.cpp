@@ -37,7 +37,7 @@ INSTANTIATE_TEST_SUITE_P(
                     WrongCase{"--scale 9", "--scale does not understand \"9\""},
                     WrongCase{"--show=", "--show does not understand \"\""},
                     WrongCase{"--new=", "--new does not understand \"\""},
-                    WrongCase{"import", "import needs FILE..."},
+                    WrongCase{"import", "import needs FILE|DIR..."},
                     WrongCase{"list people", "list does not take \"people\""},
                     WrongCase{"import --json a.vcf", "import does not know --json"},
                     WrongCase{"--json import a.vcf", "import does not know --json"},
@@ -132,7 +132,8 @@ TEST(HelpText, NamesEveryVerbAndOption) {
        {"--home DIR", "--demo", "--scale N", "--show NAME", "--new TEXT", "--version", "--help"})
     EXPECT_TRUE(text.contains(QString::fromLatin1(option))) << option;
   EXPECT_TRUE(text.endsWith(u'\n'));
-  EXPECT_TRUE(HelpText(FindVerb(u"import"_qs)).startsWith(u"quill import FILE...\n"_qs));
+  EXPECT_TRUE(
+      HelpText(FindVerb(u"import"_qs)).startsWith(u"quill import FILE|DIR... [OPTION...]\n"_qs));
 }
 
 TEST(HelpText, OfAVerbNamesItsOptions) {

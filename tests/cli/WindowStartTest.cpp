@@ -113,10 +113,10 @@ TEST_F(WindowStartOf, FilesAreBroughtInBesideAnOpenWindow) {
 }
 
 TEST_F(WindowStartOf, AFileThatCannotBeReadEndsTheStart) {
-  const WindowStart start = Start({m_folder.path()});
+  const WindowStart start = Start({u"/proc/self/mem"_qs});
   EXPECT_FALSE(start.Running);
   EXPECT_EQ(start.ExitCode, kExitFailed);
-  EXPECT_THAT(TakeErr(), HasSubstr(": is a folder\n"));
+  EXPECT_THAT(TakeErr(), HasSubstr("quill: /proc/self/mem: "));
 }
 
 TEST_F(WindowStartOf, AMistypedCommandIsSaidBeforeAllElse) {

@@ -41,6 +41,19 @@ INSTANTIATE_TEST_SUITE_P(
                     CharsetCase{"UTF-8", "windows-1252", "Gr\xC3", u"Gr\uFFFD"},
                     CharsetCase{"no-such-set", "windows-1252", "Gr\xC3\xBCn", u"Grün"}));
 
+TEST(CardCharset, IsKnownByEveryNameThatCardsUse) {
+  for (const char* name : {"EUC-KR", "cp949", "UHC", "windows-1251", "Shift_JIS", "GB2312", "Big5",
+                           "ISO-8859-2", "KOI8-R", "Latin1", "us-ascii", "UTF-8"}) {
+    EXPECT_TRUE(IsKnownCharset(name)) << name;
+  }
+}
+
+TEST(CardCharset, IsNotKnownWhereNoCardCouldBeWrittenInIt) {
+  for (const char* name : {"", "no-such-set", "UTF-16", "UTF-32LE"}) {
+    EXPECT_FALSE(IsKnownCharset(name)) << name;
+  }
+}
+
 struct LocaleCase {
   const char* Locale;
   const char* Charset;

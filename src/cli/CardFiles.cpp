@@ -1,0 +1,19 @@
+#include "cli/CardFiles.h"
+
+#include <QDirIterator>
+#include <QFileInfo>
+
+namespace quill {
+
+QStringList CardFilesOf(const QString& name) {
+  if (!QFileInfo(name).isDir()) return {name};
+  QStringList files;
+  // Patterns are compared without case.
+  QDirIterator found(name, {QStringLiteral("*.vcf"), QStringLiteral("*.vcard")}, QDir::Files,
+                     QDirIterator::Subdirectories);
+  while (found.hasNext()) files.append(found.next());
+  files.sort();
+  return files;
+}
+
+}  // namespace quill
