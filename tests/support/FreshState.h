@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include "list/CategoryMenu.h"
 #include "list/ListState.h"
+#include "list/PendingRequest.h"
 #include "memo/MemoState.h"
 #include "platform/Services.h"
 #include "settings/DeleteScope.h"
@@ -18,6 +20,8 @@ inline void ResetProcessState() {
   g_store = {};
   g_contactInk = {};
   g_list = {};
+  g_categoryMenu = {};
+  g_pendingRequest = {};
   g_memo = {};
   g_settings = {};
   g_deleteScope = {};

@@ -4,7 +4,6 @@
 #include <QPalette>
 
 #include "resources/SettingsDialogs.h"
-#include "settings/DeleteScope.h"
 
 namespace quill {
 
@@ -25,6 +24,11 @@ CDeleteConfirmDlg::CDeleteConfirmDlg(CScreen& screen)
 void CDeleteConfirmDlg::OnInitDialog() {
   auto* const message = qobject_cast<QLabel*>(Control(DeleteConfirmIds::kMessage));
   message->setText(DeleteQuestion(g_deleteScope));
+}
+
+bool ConfirmDeletion(CScreen& screen, DeleteScope scope) {
+  g_deleteScope = scope;
+  return CDeleteConfirmDlg(screen).DoModal() == kResultOK;
 }
 
 }  // namespace quill

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/ui/Dialog.h"
+#include "settings/DeleteScope.h"
 
 namespace quill {
 
@@ -14,5 +15,8 @@ class CDeleteConfirmDlg : public CDialog {
  protected:
   void OnInitDialog() override;
 };
+
+// Sets g_deleteScope and asks. True when the contacts shall go.
+bool ConfirmDeletion(CScreen& screen, DeleteScope scope);
 
 }  // namespace quill

@@ -1,0 +1,43 @@
+#include "list/ui/CategoryCommands.h"
+
+#include "list/CategoryMenu.h"
+#include "list/ui/ContactsView.h"
+#include "platform/ui/Screen.h"
+#include "resources/Ids.h"
+#include "store/Categories.h"
+
+namespace quill {
+
+namespace {
+
+constexpr QPoint kMenuAt{158, 34};  // in the view
+
+void ChooseSeveral(CContactsView&) {}
+
+void Choose(CContactsView& view, int id) {
+  switch (ChooseCategory(g_list, g_categoryMenu, id)) {
+    case CategoryChoice::Ignored:
+      return;
+    case CategoryChoice::Chosen:
+      return view.ShowFiltered();
+    case CategoryChoice::AskForMore:
+      return ChooseSeveral(view);
+  }
+}
+
+}  // namespace
+
+std::unique_ptr<CommandTarget> MakeCategoryCommands(CContactsView& view) {
+  return std::make_unique<CommandTarget>(std::vector<CommandRow>{
+      {ID_CATEGORY_FIRST, ID_CATEGORY_LAST, [&view](int id) { Choose(view, id); }}});
+}
+
+void ShowCategoryMenu(CContactsView& view) {
+  if (g_list.Mode == ViewMode::ByMemo) return;
+  FillCategoryMenu(g_categoryMenu, OfferedCategories(), g_list.CategoryName);
+  CScreen* const screen = ScreenAround(&view);
+  const int id = screen->TrackMenu(view.mapTo(screen, kMenuAt), CategoryMenuItems(g_categoryMenu));
+  if (id != 0) Choose(view, id);
+}
+
+}  // namespace quill

@@ -1,0 +1,17 @@
+// The category menu: shown at the label, and its commands.
+#pragma once
+
+#include <memory>
+
+#include "platform/CommandTarget.h"
+
+namespace quill {
+
+class CContactsView;
+
+std::unique_ptr<CommandTarget> MakeCategoryCommands(CContactsView& view);
+
+// Opens the menu and carries out what is chosen. By memo nothing happens.
+void ShowCategoryMenu(CContactsView& view);
+
+}  // namespace quill

@@ -1,0 +1,24 @@
+// The commands on memo files, for the list by memo. Each acts on the memo under the current row and
+// lists the folder anew.
+#pragma once
+
+#include <memory>
+
+#include "platform/CommandTarget.h"
+
+namespace quill {
+
+class CContactsView;
+
+// Rename, copy and delete, of a memo row's popup.
+std::unique_ptr<CommandTarget> MakeMemoCommands(CContactsView& view);
+
+// As many memos as rows are selected, one after the other from the current row on, whichever rows
+// are selected: intended.
+void DeleteSelectedMemos(CContactsView& view);
+void DeleteListedMemos(CContactsView& view);
+
+void MakeNewMemo(CContactsView& view);
+void OpenMemo(CContactsView& view);
+
+}  // namespace quill

@@ -1,0 +1,39 @@
+#include "list/ui/SettingsCommands.h"
+
+#include "list/ContactChanges.h"
+#include "list/ui/ContactsView.h"
+#include "platform/ui/Screen.h"
+#include "platform/ui/WaitCursor.h"
+#include "resources/Ids.h"
+#include "settings/Settings.h"
+#include "settings/ui/ConfigDlg.h"
+#include "settings/ui/DeleteConfirmDlg.h"
+
+namespace quill {
+
+namespace {
+
+// Whatever the filter, other than the list's own command. The list is built again when the
+// configuration closes.
+void DeleteEveryone(CScreen& screen) {
+  if (g_list.Total <= 0 || !ConfirmDeletion(screen, DeleteScope::All)) return;
+  const WaitCursor waiting;
+  DeleteEveryContact();
+}
+
+void Configure(CContactsView& view) {
+  CScreen& screen = *ScreenAround(&view);
+  // Saved and laid out also after a Cancel: intended.
+  CConfigDlg(screen, {.DeleteAll = [&screen] { DeleteEveryone(screen); }, .Receive = {}}).DoModal();
+  SaveSettings(g_settings);
+  view.Relayout();
+}
+
+}  // namespace
+
+std::unique_ptr<CommandTarget> MakeSettingsCommands(CContactsView& view) {
+  return std::make_unique<CommandTarget>(std::vector<CommandRow>{
+      {ID_CONFIGURATION, ID_CONFIGURATION, [&view](int) { Configure(view); }}});
+}
+
+}  // namespace quill

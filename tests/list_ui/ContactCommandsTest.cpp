@@ -1,0 +1,101 @@
+#include "list/ui/ContactCommands.h"
+
+#include <QLabel>
+
+#include "ViewFixture.h"
+#include "list/Selection.h"
+#include "settings/DeleteScope.h"
+
+namespace quill {
+namespace {
+
+class ContactCommandsTest : public test::ViewFixture {
+ protected:
+  void SetUp() override {
+    Open({QStringLiteral("Adams"), QStringLiteral("Gray"), QStringLiteral("Zed")});
+  }
+
+  // Runs the command; its confirmation must ask this and is answered by a key.
+  void RunAndAnswer(int id, Qt::Key key, const QString& question) {
+    test::Steps steps(*m_screen, {[&] {
+      auto* const label =
+          qobject_cast<QLabel*>(m_screen->Topmost()->Control(DeleteConfirmIds::kMessage));
+      ASSERT_NE(label, nullptr);
+      EXPECT_EQ(label->text(), question);
+      m_input.Key(key);
+    }});
+    EXPECT_EQ(m_frame->RunCommand(id), CommandResult::Done);
+  }
+  bool IsEnabled(int id) { return m_frame->Route().State(id).Enabled; }
+
+  const QString m_selectedQuestion =
+      QStringLiteral("Selected item(s) would be permanently removed. Continue?");
+  const QString m_allQuestion =
+      QStringLiteral("All items in the list would be permanently Removed. Continue?");
+};
+
+TEST_F(ContactCommandsTest, DeletingIsEnabledWithASelectedRowAndDeletingAllWithAnItem) {
+  EXPECT_FALSE(IsEnabled(ID_DELETE_ITEMS));
+  EXPECT_TRUE(IsEnabled(ID_DELETE_ALL));
+  SelectRow(g_list, 1);
+  EXPECT_TRUE(IsEnabled(ID_DELETE_ITEMS));
+  SearchEdit().setText(QStringLiteral("nobody"));
+  View().Search();
+  EXPECT_FALSE(IsEnabled(ID_DELETE_ITEMS));
+  EXPECT_FALSE(IsEnabled(ID_DELETE_ALL));
+  EXPECT_TRUE(IsEnabled(ID_COPY_CONTACT));
+}
+
+TEST_F(ContactCommandsTest, TheSelectedContactsAreDeletedAfterAnOK) {
+  SelectRun(g_list, 0, 1);
+  RunAndAnswer(ID_DELETE_ITEMS, Qt::Key_Return, m_selectedQuestion);
+  EXPECT_EQ(ShownNames(), QStringList(QStringLiteral("Zed")));
+  EXPECT_TRUE(g_list.SelectedKeys.empty());
+}
+
+TEST_F(ContactCommandsTest, ACancelDeletesNothing) {
+  SelectRun(g_list, 0, 1);
+  RunAndAnswer(ID_DELETE_ITEMS, Qt::Key_Escape, m_selectedQuestion);
+  RunAndAnswer(ID_DELETE_ALL, Qt::Key_Escape, m_allQuestion);
+  EXPECT_EQ(ShownNames().size(), 3);
+}
+
+TEST_F(ContactCommandsTest, ACurrentRowBesideTheListMakesDeletingAndCopyingDoNothing) {
+  g_list.SelectedKeys = {g_list.Rows[0].Oid};
+  m_frame->RunCommand(ID_DELETE_ITEMS);
+  m_frame->RunCommand(ID_COPY_CONTACT);
+  View().Rebuild();
+  EXPECT_EQ(ShownNames().size(), 3);
+}
+
+TEST_F(ContactCommandsTest, AllListedContactsAreDeletedAfterAnOK) {
+  View().ChooseIndex(2);
+  RunAndAnswer(ID_DELETE_ALL, Qt::Key_Return, m_allQuestion);
+  EXPECT_EQ(ShownNames(), QStringList());
+  View().ShowMode(ViewMode::ByName);
+  EXPECT_EQ(ShownNames(), QStringList({QStringLiteral("Adams"), QStringLiteral("Zed")}));
+}
+
+TEST_F(ContactCommandsTest, TheQuestionIsTheCommandsOwnWhateverWasAskedBefore) {
+  SelectRow(g_list, 0);
+  RunAndAnswer(ID_DELETE_ALL, Qt::Key_Escape, m_allQuestion);
+  RunAndAnswer(ID_DELETE_ITEMS, Qt::Key_Escape, m_selectedQuestion);
+}
+
+TEST_F(ContactCommandsTest, ACopyStandsBesideItsOriginal) {
+  SelectRow(g_list, 1);
+  EXPECT_EQ(m_frame->RunCommand(ID_COPY_CONTACT), CommandResult::Done);
+  EXPECT_EQ(ShownNames(), QStringList({QStringLiteral("Adams"), QStringLiteral("Gray"),
+                                       QStringLiteral("Gray"), QStringLiteral("Zed")}));
+}
+
+TEST_F(ContactCommandsTest, AnEmptyListIsNotAskedAbout) {
+  SearchEdit().setText(QStringLiteral("nobody"));
+  View().Search();
+  m_frame->RunCommand(ID_DELETE_ALL, CommandCheck::Anyway);
+  View().ShowMode(ViewMode::ByName);
+  EXPECT_EQ(ShownNames().size(), 3);
+}
+
+}  // namespace
+}  // namespace quill

@@ -1,0 +1,131 @@
+#include "list/ui/MemoCommands.h"
+
+#include <QLineEdit>
+
+#include "ViewFixture.h"
+#include "list/Selection.h"
+#include "memo/MemoFolder.h"
+#include "memo/MemoListing.h"
+#include "support/ScriptedPrompt.h"
+
+namespace quill {
+namespace {
+
+class MemoCommandsTest : public test::ViewFixture {
+ protected:
+  void SetUp() override {
+    g_services.Prompt = &m_prompt;
+    Open({QStringLiteral("Kim")});
+    FixMemoFolder(g_memo);
+    for (const char* name : {"a.pwi", "b.pwi", "c.pwi", "d.pwi", "e.pwi"})
+      ASSERT_TRUE(m_deviceHome.Files.WriteWhole(MemoPath(g_memo, QLatin1String(name)), name));
+    View().ShowMode(ViewMode::ByMemo);
+  }
+
+  // What is in the folder, by the first letters.
+  QString Memos() const {
+    QString letters;
+    for (const QString& name : AllMemos(g_memo)) letters += name.section(u'.', 0, 0);
+    return letters;
+  }
+  void RunWithYes(int id, const char* question) {
+    m_prompt.Expect(PromptAnswer::Yes);
+    m_frame->RunCommand(id);
+    ASSERT_FALSE(m_prompt.Shown().empty());
+    EXPECT_EQ(m_prompt.Shown().back().Text, QLatin1String(question));
+    EXPECT_EQ(m_prompt.Shown().back().Buttons, PromptButtons::YesNo);
+  }
+  // Runs the command, types the name at the end of its dialog's path and presses OK.
+  void RunAndType(int id, const QString& caption, const QString& text) {
+    test::Steps steps(*m_screen, {[&] {
+      EXPECT_EQ(m_screen->Topmost()->Caption(), caption);
+      auto* const edit =
+          qobject_cast<QLineEdit*>(m_screen->Topmost()->Control(NameEntryIds::kEdit));
+      m_preset = edit->text();
+      if (!text.isEmpty()) edit->setText(MemoPath(g_memo, text));
+      m_input.Key(Qt::Key_Return);
+    }});
+    m_frame->RunCommand(id);
+  }
+
+  test::ScriptedPrompt m_prompt;
+  QString m_preset;
+};
+
+constexpr char kOneQuestion[] = "This memo will be deleted. Continue?";
+constexpr char kAllQuestion[] = "All memos in the list will be deleted. Continue?";
+
+TEST_F(MemoCommandsTest, TheMemoUnderTheCurrentRowIsDeleted) {
+  SelectRow(g_list, 1);
+  RunWithYes(ID_DELETE_MEMO, kOneQuestion);
+  EXPECT_EQ(Memos(), QStringLiteral("acde"));
+  EXPECT_EQ(g_memo.NameList.size(), 4);
+}
+
+TEST_F(MemoCommandsTest, ANoDeletesNothing) {
+  SelectRow(g_list, 1);
+  for (const int id : {ID_DELETE_MEMO, ID_DELETE_ITEMS, ID_DELETE_ALL}) {
+    m_prompt.Expect(PromptAnswer::No);
+    m_frame->RunCommand(id);
+  }
+  EXPECT_EQ(Memos(), QStringLiteral("abcde"));
+}
+
+TEST_F(MemoCommandsTest, OfThreeSelectedRowsTheCurrentOneAndTheTwoAfterItAreDeletedAsIntended) {
+  SelectRun(g_list, 3, 1);  // upwards: the current row is the first of them
+  RunWithYes(ID_DELETE_ITEMS, kOneQuestion);
+  EXPECT_EQ(Memos(), QStringLiteral("ae"));
+  EXPECT_TRUE(g_list.SelectedKeys.empty());
+}
+
+TEST_F(MemoCommandsTest, RowsPastTheEndOfTheListAreNotMissed) {
+  SelectRun(g_list, 2, 4);  // downwards: the current row is the last
+  RunWithYes(ID_DELETE_ITEMS, kOneQuestion);
+  EXPECT_EQ(Memos(), QStringLiteral("abcd"));
+}
+
+TEST_F(MemoCommandsTest, AllListedMemosAreDeletedAndNoOthers) {
+  SearchEdit().setText(QStringLiteral("b"));
+  View().Search();
+  RunWithYes(ID_DELETE_ALL, kAllQuestion);
+  EXPECT_EQ(Memos(), QStringLiteral("acde"));
+}
+
+TEST_F(MemoCommandsTest, ARenamedMemoIsOfferedItsWholePath) {
+  SelectRow(g_list, 0);
+  RunAndType(ID_RENAME_MEMO, QStringLiteral("Rename As"), QStringLiteral("z.pwi"));
+  EXPECT_EQ(m_preset, QStringLiteral("\\My Documents\\Fennick\\a.pwi"));
+  EXPECT_EQ(Memos(), QStringLiteral("bcdez"));
+  EXPECT_EQ(g_memo.NameList.last(), QStringLiteral("z.pwi"));
+}
+
+TEST_F(MemoCommandsTest, ACopiedMemoIsOfferedANameOfItsOwn) {
+  SelectRow(g_list, 0);
+  RunAndType(ID_COPY_MEMO, QStringLiteral("Copy As"), {});
+  EXPECT_EQ(m_preset, QStringLiteral("\\My Documents\\Fennick\\a_Copy.pwi"));
+  EXPECT_EQ(Memos(), QStringLiteral("aa_Copybcde"));
+}
+
+TEST_F(MemoCommandsTest, WithoutACurrentRowNothingHappens) {
+  for (const int id : {ID_DELETE_MEMO, ID_RENAME_MEMO, ID_COPY_MEMO, ID_DELETE_ITEMS})
+    m_frame->RunCommand(id, CommandCheck::Anyway);
+  EXPECT_EQ(Memos(), QStringLiteral("abcde"));
+}
+
+TEST_F(MemoCommandsTest, OverContactsTheMemoCommandsAreIgnored) {
+  View().ShowMode(ViewMode::ByName);
+  SelectRow(g_list, 0);
+  for (const int id : {ID_DELETE_MEMO, ID_RENAME_MEMO, ID_COPY_MEMO})
+    m_frame->RunCommand(id, CommandCheck::Anyway);
+  EXPECT_EQ(Memos(), QStringLiteral("abcde"));
+}
+
+TEST_F(MemoCommandsTest, OverMemosContactsAreNotCopied) {
+  SelectRow(g_list, 0);
+  m_frame->RunCommand(ID_COPY_CONTACT, CommandCheck::Anyway);
+  View().ShowMode(ViewMode::ByName);
+  EXPECT_EQ(g_list.Total, 1);
+}
+
+}  // namespace
+}  // namespace quill
