@@ -46,7 +46,7 @@ class PageMeasures {
     ruler.SetUnit(Unit::View, QStringLiteral("V: painting the list alone"), paintList, paintList);
     MeasureIndex(ruler);
     MeasureSearch(ruler);
-    m_view.ShowByName();
+    m_view.ShowMode(ViewMode::ByName);
     MeasureScrolling(ruler);
     return ruler;
   }

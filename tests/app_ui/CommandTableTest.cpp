@@ -9,8 +9,11 @@
 #include "app/Program.h"
 #include "app/ui/ContactsApp.h"
 #include "app/ui/ShellCommands.h"
+#include "list/ui/CategoryCommands.h"
 #include "list/ui/ContactCommands.h"
 #include "list/ui/LinkedItemCommands.h"
+#include "list/ui/MemoCommands.h"
+#include "list/ui/SettingsCommands.h"
 #include "list/ui/ViewModeCommands.h"
 #include "resources/Menus.h"
 
@@ -42,6 +45,8 @@ std::set<int> MenuIds() {
   for (const int id : kSubmenus) ids.erase(id);
   // What a contact's submenus list.
   for (int id = ID_OPEN_APPOINTMENT_FIRST; id <= ID_OPEN_MEMO_LAST; ++id) ids.insert(id);
+  // What the category menu lists.
+  for (int id = ID_CATEGORY_FIRST; id <= ID_CATEGORY_LAST; ++id) ids.insert(id);
   return ids;
 }
 
@@ -66,12 +71,16 @@ class CommandTableTest : public test::FrameFixture {
 
   std::vector<CommandRow> AllRows() {
     std::vector<CommandRow> rows;
-    const auto contacts = MakeContactCommands(m_frame->View());
-    const auto modes = MakeViewModeCommands(m_frame->View());
+    CContactsView& view = m_frame->View();
+    const auto contacts = MakeContactCommands(view);
     const auto linkedItems = MakeLinkedItemCommands();
-    const std::vector<const CommandTarget*> targets = {contacts.get(), linkedItems.get(),
-                                                       modes.get(), &m_shellCommands,
-                                                       &m_screen->ScreenCommands()};
+    const auto memos = MakeMemoCommands(view);
+    const auto modes = MakeViewModeCommands(view);
+    const auto categories = MakeCategoryCommands(view);
+    const auto settings = MakeSettingsCommands(view);
+    const std::vector<const CommandTarget*> targets = {
+        contacts.get(),   linkedItems.get(), memos.get(),      modes.get(),
+        categories.get(), settings.get(),    &m_shellCommands, &m_screen->ScreenCommands()};
     for (const CommandTarget* target : targets)
       rows.insert(rows.end(), target->Rows().begin(), target->Rows().end());
     return rows;

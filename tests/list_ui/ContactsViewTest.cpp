@@ -81,7 +81,7 @@ TEST_F(ContactsViewTest, ASessionThatFailedLeavesTheViewEmptyAndItsCommandsHarml
   EXPECT_EQ(g_list.RowsShown, 0);
   SearchEdit().setText(QStringLiteral("Kim"));
   View().Search();
-  View().ShowByName();
+  View().ShowMode(ViewMode::ByName);
   View().ChooseIndex(2);
   for (const int key : {Qt::Key_Down, Qt::Key_PageDown, Qt::Key_End, Qt::Key_Home}) {
     View().FocusList();

@@ -210,9 +210,10 @@ struct KeyAsks {
 
 class ListActionKey : public ListGesturesTest, public testing::WithParamInterface<KeyAsks> {};
 
-TEST_P(ListActionKey, ActsOnTheOneSelectedRowOnly) {
+TEST_P(ListActionKey, ActsOnTheCurrentRowWhenItIsSelected) {
   View().FocusList();
-  SelectRun(g_list, 2, 3);
+  SelectRow(g_list, 3);
+  ClearSelectedKeys(g_list);
   m_input.KeyPress(GetParam().Key, GetParam().Modifiers);
   EXPECT_EQ(Asked(), QString());
   SelectRow(g_list, 3);
@@ -228,6 +229,14 @@ INSTANTIATE_TEST_SUITE_P(Keys, ListActionKey,
                                                  "popup 3 at 112,64"},
                                          KeyAsks{Qt::Key_Right, Qt::NoModifier, "card 3 at 225,58"},
                                          KeyAsks{Qt::Key_Left, Qt::NoModifier, ""}));
+
+TEST_F(ListGesturesTest, OfARunEnterOpensNothing) {
+  View().FocusList();
+  SelectRun(g_list, 2, 3);
+  m_input.Key(Qt::Key_Return);
+  m_input.Key(Qt::Key_Right);
+  EXPECT_EQ(Asked(), QString());
+}
 
 TEST_F(ListGesturesTest, AKeyThatIsHeldOpensOnce) {
   View().FocusList();

@@ -38,9 +38,10 @@ TEST_F(OpenContactTest, AContactThatIsGoneShowsNothing) {
 }
 
 TEST_F(OpenContactTest, AMemosPositionIsNotReadAsAContact) {
-  g_list.Mode = ViewMode::ByMemo;
+  View().ShowMode(ViewMode::ByMemo);  // without memos
   View().FocusList();
-  SelectRow(g_list, 1);
+  g_list.CurrentRow = 1;
+  g_list.SelectedKeys = {1};
   m_input.Key(Qt::Key_Return);
   EXPECT_TRUE(m_prompt.Shown().empty());
 }

@@ -7,7 +7,9 @@
 
 #include <memory>
 
+#include "list/CategoryMenu.h"
 #include "list/ListState.h"
+#include "list/PendingRequest.h"
 #include "list/ui/CategoryLabel.h"
 #include "list/ui/ContactListCtrl.h"
 #include "list/ui/ContactsView.h"
@@ -105,6 +107,8 @@ class ViewFixture : public ScreenFixture {
     CloseSession();
     g_store = {};
     g_list = {};
+    g_categoryMenu = {};
+    g_pendingRequest = {};
     g_memo = {};
     g_settings = {};
   }

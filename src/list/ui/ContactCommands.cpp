@@ -1,7 +1,12 @@
 #include "list/ui/ContactCommands.h"
 
+#include "list/ContactChanges.h"
 #include "list/ui/ContactsView.h"
+#include "list/ui/MemoCommands.h"
+#include "platform/ui/Screen.h"
+#include "platform/ui/WaitCursor.h"
 #include "resources/Ids.h"
+#include "settings/ui/DeleteConfirmDlg.h"
 
 namespace quill {
 
@@ -10,19 +15,55 @@ namespace {
 // Listed in the menus, disabled until its window exists.
 CommandRow Unavailable(int id) { return {id, id, nullptr, nullptr}; }
 
+bool IsByMemo() { return g_list.Mode == ViewMode::ByMemo; }
+
+bool Confirm(CContactsView& view, DeleteScope scope) {
+  return ConfirmDeletion(*ScreenAround(&view), scope);
+}
+
+void DeleteSelected(CContactsView& view) {
+  if (IsByMemo()) return DeleteSelectedMemos(view);
+  if (!IsCurrentRowInList(g_list) || !Confirm(view, DeleteScope::Selected)) return;
+  DeleteSelectedContacts(g_list);
+  view.Rebuild();
+}
+
+void DeleteListed(CContactsView& view) {
+  if (g_list.Total <= 0) return;
+  if (IsByMemo()) return DeleteListedMemos(view);
+  if (!Confirm(view, DeleteScope::All)) return;
+  const WaitCursor waiting;
+  DeleteListedContacts(g_list);
+  view.Rebuild();
+}
+
+void CopySelected(CContactsView& view) {
+  if (IsByMemo() || !IsCurrentRowInList(g_list)) return;
+  CopySelectedContacts(g_list);
+  view.Rebuild();
+}
+
+void MakeNew(CContactsView& view) {
+  if (IsByMemo()) MakeNewMemo(view);
+}
+
 }  // namespace
 
 std::unique_ptr<CommandTarget> MakeContactCommands(CContactsView& view) {
+  const auto whenSelected = [](int, CommandState& state) {
+    state.Enabled = !g_list.SelectedKeys.empty();
+  };
+  const auto whenListed = [](int, CommandState& state) { state.Enabled = g_list.Total > 0; };
+  const auto byMemo = [](int, CommandState& state) { state.Enabled = IsByMemo(); };
   return std::make_unique<CommandTarget>(std::vector<CommandRow>{
       {ContactsViewIds::kSearchButton, ContactsViewIds::kSearchButton,
        [&view](int) { view.Search(); }, nullptr},
-      Unavailable(ID_FILE_NEW),
+      {ID_FILE_NEW, ID_FILE_NEW, [&view](int) { MakeNew(view); }, byMemo},
+      {ID_DELETE_ITEMS, ID_DELETE_ITEMS, [&view](int) { DeleteSelected(view); }, whenSelected},
+      {ID_DELETE_ALL, ID_DELETE_ALL, [&view](int) { DeleteListed(view); }, whenListed},
+      {ID_COPY_CONTACT, ID_COPY_CONTACT, [&view](int) { CopySelected(view); }, nullptr},
       Unavailable(ID_BEAM_CONTACTS),
-      Unavailable(ID_DELETE_ITEMS),
       Unavailable(ID_RECEIVE_INFRARED),
-      Unavailable(ID_DELETE_ALL),
-      Unavailable(ID_CONFIGURATION),
-      Unavailable(ID_COPY_CONTACT),
   });
 }
 

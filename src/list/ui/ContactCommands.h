@@ -1,4 +1,5 @@
-// The commands on the contacts of the list: search, and those whose windows are still to come.
+// The commands on the list as a whole and on its selected rows: new, search, copy, delete. By memo
+// the deleting ones act on memo files.
 #pragma once
 
 #include <memory>

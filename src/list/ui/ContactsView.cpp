@@ -5,21 +5,28 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+#include <utility>
+
 #include "editor/CardText.h"
 #include "list/CategoryLabelLayout.h"
 #include "list/ContactPopup.h"
 #include "list/IndexRanges.h"
 #include "list/ListAreas.h"
 #include "list/PageBuilding.h"
+#include "list/PendingRequest.h"
 #include "list/Search.h"
+#include "list/Selection.h"
 #include "list/StartUp.h"
 #include "list/TapBands.h"
 #include "list/ViewModes.h"
+#include "list/ui/CategoryCommands.h"
 #include "list/ui/CategoryLabel.h"
 #include "list/ui/ContactCommands.h"
 #include "list/ui/ContactListCtrl.h"
 #include "list/ui/IndexStrip.h"
 #include "list/ui/LinkedItemCommands.h"
+#include "list/ui/MemoCommands.h"
+#include "list/ui/SettingsCommands.h"
 #include "list/ui/ViewModeCommands.h"
 #include "platform/Prompt.h"
 #include "platform/Services.h"
@@ -49,8 +56,11 @@ CContactsView::CContactsView(QWidget* frame)
       m_list(new CContactListCtrl(this)),
       m_scrollBar(new QScrollBar(Qt::Vertical, this)),
       m_contactCommands(MakeContactCommands(*this)),
+      m_linkedItemCommands(MakeLinkedItemCommands()),
+      m_memoCommands(MakeMemoCommands(*this)),
       m_modeCommands(MakeViewModeCommands(*this)),
-      m_linkedItemCommands(MakeLinkedItemCommands()) {
+      m_categoryCommands(MakeCategoryCommands(*this)),
+      m_settingsCommands(MakeSettingsCommands(*this)) {
   MakeControls();
   PlaceControls();
   ShowPage();
@@ -74,9 +84,7 @@ void CContactsView::MakeControls() {
   m_scrollBar->setFocusPolicy(Qt::NoFocus);
   connect(m_scrollBar, &QScrollBar::actionTriggered, this, &CContactsView::RunScrollAction);
   m_indexStrip->Tapped = [this](int index) { ChooseIndex(index); };
-  m_category->Tapped = [this] {
-    if (CategoryMenuAsked) CategoryMenuAsked();
-  };
+  m_category->Tapped = [this] { ShowCategoryMenu(*this); };
   ListenToList();
   m_controls = {{ContactsViewIds::kSearchEdit, m_searchEdit},
                 {ContactsViewIds::kSearchButton, button},
@@ -87,7 +95,7 @@ void CContactsView::MakeControls() {
 void CContactsView::ListenToList() {
   m_list->ScrollAsked = [this](ScrollRequest request) { Scroll(request, 0); };
   m_list->MoveAsked = [this](KeyMove move) { MoveRow(move); };
-  m_list->OpenAsked = [this](int row) { OpenContact(row); };
+  m_list->OpenAsked = [this](int row) { OpenRow(row); };
   m_list->CardAsked = [this](int row, QPoint at) {
     if (CardAsked) CardAsked(row, at);
   };
@@ -119,7 +127,10 @@ CommandRoute CContactsView::Route() const {
   CommandRoute route;
   route.Add(*m_contactCommands);
   route.Add(*m_linkedItemCommands);
+  route.Add(*m_memoCommands);
   route.Add(*m_modeCommands);
+  route.Add(*m_categoryCommands);
+  route.Add(*m_settingsCommands);
   return route;
 }
 
@@ -131,6 +142,7 @@ void CContactsView::OnStoreNotice(int first, int) {
 }
 
 void CContactsView::OnTimer(int id) {
+  if (id == kRequestTimer) return OpenPending();
   if (id != kNoticeTimer) return;
   g_services.Timers->Kill(*this, kNoticeTimer);
   ShowWaiting(false);
@@ -144,11 +156,33 @@ void CContactsView::ShowWaiting(bool waiting) {
           : QGuiApplication::restoreOverrideCursor();
 }
 
-bool CContactsView::OnCopyData(int, const QString&) { return false; }
+bool CContactsView::OnCopyData(int kind, const QString& text) {
+  const RequestAnswer answer = TakeRequest(g_pendingRequest, kind, text);
+  if (answer == RequestAnswer::Kept)
+    g_services.Timers->Set(*this, kRequestTimer, kRequestMilliseconds);
+  // Whoever asks must not wait for a message box.
+  if (answer == RequestAnswer::NotFound)
+    QMetaObject::invokeMethod(
+        this, [] { g_services.Prompt->Show({.Text = QStringLiteral("Related name not found.")}); },
+        Qt::QueuedConnection);
+  return answer == RequestAnswer::Kept;
+}
+
+void CContactsView::OpenPending() {
+  const CScreen* const screen = ScreenAround(this);
+  if (screen && !screen->IsIdle()) return;  // the timer goes on until what is open has closed
+  g_services.Timers->Kill(*this, kRequestTimer);
+  OpenContact(std::exchange(g_pendingRequest, {}).Contact);
+}
 
 void CContactsView::Rebuild() {
   BuildPage(g_list);
   ShowPage();
+}
+
+void CContactsView::ShowFiltered() {
+  m_searchEdit->clear();
+  Rebuild();
 }
 
 void CContactsView::Search() {
@@ -156,15 +190,22 @@ void CContactsView::Search() {
   Rebuild();
 }
 
-void CContactsView::ShowByName() {
-  SwitchViewMode(g_list, ViewMode::ByName);
-  m_searchEdit->clear();
-  Rebuild();
+void CContactsView::ShowMode(ViewMode mode) {
+  SwitchViewMode(g_list, mode);
+  ShowFiltered();
 }
 
 void CContactsView::ChooseIndex(int button) {
   ChooseIndexButton(g_list, button);
   Rebuild();
+}
+
+void CContactsView::Relayout() {
+  g_list.RowsPerPage = LayOutAreas(g_settings).RowsPerPage;
+  g_list.Top = 0;
+  DropSelection(g_list);
+  PlaceControls();
+  g_list.Mode == ViewMode::ByMemo ? ShowPage() : Rebuild();
 }
 
 void CContactsView::FocusList() { m_list->setFocus(); }
@@ -197,10 +238,13 @@ void CContactsView::MoveRow(KeyMove move) {
   m_scrollBar->setValue(g_list.Top);
 }
 
-void CContactsView::OpenContact(int row) {
-  if (g_list.Mode == ViewMode::ByMemo) return;  // its key is no contact's
+void CContactsView::OpenRow(int row) {
+  if (g_list.Mode == ViewMode::ByMemo) return OpenMemo(*this);
+  OpenContact(g_list.Rows[static_cast<std::size_t>(row)].Oid);
+}
+
+void CContactsView::OpenContact(Oid oid) {
   ContactRecord record;
-  const Oid oid = g_list.Rows[static_cast<std::size_t>(row)].Oid;
   if (ReadContact(ContactSelector(oid), record) != 0)
     g_services.Prompt->Show({.Text = CardText(record)});
 }

@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "list/KeyMoves.h"
+#include "list/ListState.h"
 #include "list/Scrolling.h"
 #include "platform/CommandTarget.h"
 #include "platform/Timers.h"
@@ -40,22 +41,25 @@ class CContactsView : public QWidget, public TimerTarget {
   // The store's change notice. first is 1 for a change of this program itself; any other rebuilds
   // the list half a second after the last notice.
   void OnStoreNotice(int first, int second);
-  // A request by another program. True when it was taken: nothing is, so far.
+  // A request by another program. True when it will be shown: as soon as no dialog and no menu is
+  // open.
   bool OnCopyData(int kind, const QString& text);
   void OnTimer(int id) override;
 
   // Fills the page again with the filter in force.
   void Rebuild();
+  // The same after a filter took the place of the search: the search box is empty then.
+  void ShowFiltered();
   void Search();
-  void ShowByName();
+  void ShowMode(ViewMode mode);
   void ChooseIndex(int button);
+  // Places list and scroll bar as the settings say and goes to the first row, nothing selected.
+  void Relayout();
   void FocusList();
 
   // What pen and keys ask for a contact of the page; at is in pixels of the list. Unset, nothing is
   // shown.
   std::function<void(int row, QPoint at)> CardAsked;
-  // A tap on the category label.
-  std::function<void()> CategoryMenuAsked;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -67,7 +71,9 @@ class CContactsView : public QWidget, public TimerTarget {
   void RunScrollAction(int action);
   void Scroll(ScrollRequest request, int thumb);
   void MoveRow(KeyMove move);
-  void OpenContact(int row);
+  void OpenRow(int row);
+  void OpenContact(Oid oid);
+  void OpenPending();
   void ShowRowPopup(int row, QPoint at);
   void ShowPage();
   void ShowWaiting(bool waiting);
@@ -80,8 +86,11 @@ class CContactsView : public QWidget, public TimerTarget {
   ControlMap m_controls;
   bool m_waiting = false;  // the wait cursor is this view's
   std::unique_ptr<CommandTarget> m_contactCommands;
-  std::unique_ptr<CommandTarget> m_modeCommands;
   std::unique_ptr<CommandTarget> m_linkedItemCommands;
+  std::unique_ptr<CommandTarget> m_memoCommands;
+  std::unique_ptr<CommandTarget> m_modeCommands;
+  std::unique_ptr<CommandTarget> m_categoryCommands;
+  std::unique_ptr<CommandTarget> m_settingsCommands;
 };
 
 }  // namespace quill

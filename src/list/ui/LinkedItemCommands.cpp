@@ -18,9 +18,6 @@ std::unique_ptr<CommandTarget> MakeLinkedItemCommands() {
       Unavailable(ID_ADD_MEMO),
       Unavailable(ID_OPEN_APPOINTMENT_FIRST, ID_OPEN_APPOINTMENT_LAST),
       Unavailable(ID_OPEN_MEMO_FIRST, ID_OPEN_MEMO_LAST),
-      Unavailable(ID_RENAME_MEMO),
-      Unavailable(ID_COPY_MEMO),
-      Unavailable(ID_DELETE_MEMO),
   });
 }
 

@@ -1,6 +1,5 @@
 #include "list/ui/ViewModeCommands.h"
 
-#include "list/ListState.h"
 #include "list/ui/ContactsView.h"
 #include "resources/Ids.h"
 
@@ -8,8 +7,8 @@ namespace quill {
 
 namespace {
 
-CommandRow ModeRow(int id, ViewMode mode, std::function<void(int)> run) {
-  return {id, id, std::move(run),
+CommandRow ModeRow(int id, ViewMode mode, CContactsView& view) {
+  return {id, id, [&view, mode](int) { view.ShowMode(mode); },
           [mode](int, CommandState& state) { state.Checked = g_list.Mode == mode; }};
 }
 
@@ -17,9 +16,9 @@ CommandRow ModeRow(int id, ViewMode mode, std::function<void(int)> run) {
 
 std::unique_ptr<CommandTarget> MakeViewModeCommands(CContactsView& view) {
   return std::make_unique<CommandTarget>(std::vector<CommandRow>{
-      ModeRow(ID_VIEW_BY_NAME, ViewMode::ByName, [&view](int) { view.ShowByName(); }),
-      ModeRow(ID_VIEW_BY_COMPANY, ViewMode::ByCompany, nullptr),
-      ModeRow(ID_VIEW_BY_MEMO, ViewMode::ByMemo, nullptr),
+      ModeRow(ID_VIEW_BY_NAME, ViewMode::ByName, view),
+      ModeRow(ID_VIEW_BY_COMPANY, ViewMode::ByCompany, view),
+      ModeRow(ID_VIEW_BY_MEMO, ViewMode::ByMemo, view),
   });
 }
 
