@@ -1,0 +1,287 @@
+// View modes, categories, the commands on contacts and memos, the configuration and requests of
+// other programs, end to end.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+#include "driver/DriverProcess.h"
+
+using quill::test::ReadyDriver;
+
+namespace {
+
+class CommandScript : public testing::Test {
+ protected:
+  void AddMemos(const QStringList& names) {
+    QDir(m_home.path()).mkpath(QStringLiteral("My Documents/Fennick"));
+    for (const QString& name : names) {
+      QFile file(MemoFile(name));
+      ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+      file.write(name.toUtf8());
+    }
+  }
+  QString MemoFile(const QString& name) const {
+    return m_home.filePath(QStringLiteral("My Documents/Fennick/") + name);
+  }
+  QStringList Arguments() const { return {QStringLiteral("--home"), m_home.path()}; }
+
+  QTemporaryDir m_home;
+};
+
+// A contact; the program is not told.
+void Put(ReadyDriver& driver, const QByteArray& fields) {
+  driver.Result(R"({"op":"put","quiet":true,"fields":)" + fields + '}', u"oid");
+}
+
+void Run(ReadyDriver& driver, const QByteArray& id) {
+  driver.Do(R"({"op":"command","id":)" + id + '}');
+}
+
+constexpr char kByName[] = "59413";
+constexpr char kByCompany[] = "32823";
+constexpr char kByMemo[] = "32825";
+
+QJsonObject List(ReadyDriver& driver) {
+  return driver.Result(R"({"op":"list"})", u"list").toObject();
+}
+
+QStringList Names(ReadyDriver& driver) {
+  QStringList names;
+  for (const auto& row : List(driver)[u"rows"].toArray())
+    names.append(row.toObject()[u"name"].toString());
+  return names;
+}
+
+QStringList Memos(ReadyDriver& driver) {
+  QStringList names;
+  for (const auto& name : List(driver)[u"memos"].toArray()) names.append(name.toString());
+  return names;
+}
+
+QStringList Texts(const QJsonValue& items, QStringView checkedKey = {}) {
+  QStringList texts;
+  for (const auto& item : items.toArray())
+    if (checkedKey.isEmpty() || item.toObject()[checkedKey].toBool())
+      texts.append(item.toObject()[u"text"].toString());
+  return texts;
+}
+
+QStringList TextsOnView(ReadyDriver& driver) {
+  return Texts(driver.Result(R"({"op":"texts","on":"view"})", u"texts"));
+}
+
+// Three people of three companies and two categories, by name.
+void PutPeople(ReadyDriver& driver) {
+  Put(driver, R"({"FileAs":"Adams","CompanyName":"Zoo","Categories":"Work, Friends"})");
+  Put(driver, R"({"FileAs":"Gray","CompanyName":"abacus","Categories":"Family"})");
+  Put(driver, R"({"FileAs":"박지성"})");
+  Run(driver, kByName);
+}
+
+}  // namespace
+
+TEST_F(CommandScript, ByCompanyTheListStandsInTheCompaniesOrder) {
+  ReadyDriver driver(Arguments());
+  PutPeople(driver);
+  Run(driver, kByCompany);
+  EXPECT_EQ(Names(driver), QStringList({QStringLiteral("박지성"), QStringLiteral("Gray"),
+                                        QStringLiteral("Adams")}));
+  EXPECT_TRUE(TextsOnView(driver).contains(QStringLiteral("<None>")));
+  driver.Do(R"({"op":"set","id":1028,"text":"ab"})");
+  driver.Do(R"({"op":"click","id":1035})");
+  EXPECT_EQ(List(driver)[u"restriction"],
+            QStringLiteral(R"([CompanyName] >= "ab" AND [CompanyName] < "ac")"));
+  EXPECT_EQ(Names(driver), QStringList(QStringLiteral("Gray")));
+}
+
+TEST_F(CommandScript, ByMemoTheListHoldsTheMemosCutByIndexAndSearch) {
+  AddMemos({QStringLiteral("adams_1.pwi"), QStringLiteral("Gray_1.pwi"),
+            QStringLiteral("박지성_1.pwi"), QStringLiteral("notes.txt")});
+  ReadyDriver driver(Arguments());
+  PutPeople(driver);
+  Run(driver, kByMemo);
+  EXPECT_EQ(Memos(driver), QStringList({QStringLiteral("adams_1.pwi"), QStringLiteral("Gray_1.pwi"),
+                                        QStringLiteral("박지성_1.pwi")}));
+  EXPECT_EQ(List(driver)[u"total"], 3);
+  EXPECT_TRUE(TextsOnView(driver).contains(QStringLiteral("박지성_1.pwi")));
+  driver.Do(R"({"op":"tap","on":"view","x":20,"y":35})");
+  EXPECT_EQ(Memos(driver), QStringList(QStringLiteral("adams_1.pwi")));
+  driver.Do(R"({"op":"set","id":1028,"text":"박"})");
+  driver.Do(R"({"op":"click","id":1035})");
+  EXPECT_EQ(Memos(driver), QStringList(QStringLiteral("박지성_1.pwi")));
+  driver.Do(R"({"op":"tap","on":"view","x":190,"y":12})");
+  EXPECT_EQ(driver.Result(R"({"op":"popup"})", u"popup"), QJsonValue());
+  Run(driver, kByMemo);
+  EXPECT_EQ(List(driver)[u"total"], 3) << "the mode that is on drops its filters";
+}
+
+TEST_F(CommandScript, TheCategoryMenuFiltersAndChecksItsChoice) {
+  ReadyDriver driver(Arguments());
+  driver.Result(R"({"op":"categories","names":["Family","Work"],"quiet":true})", u"categories");
+  PutPeople(driver);
+  driver.Do(R"({"op":"tap","on":"view","x":190,"y":12})");
+  const QJsonValue menu = driver.Result(R"({"op":"popup"})", u"popup");
+  EXPECT_EQ(Texts(menu), QStringList({QStringLiteral("Show All"), QStringLiteral("Family"),
+                                      QStringLiteral("Work"), QStringLiteral("No Categories"),
+                                      QStringLiteral("More...")}));
+  EXPECT_EQ(Texts(menu, u"checked"), QStringList(QStringLiteral("Show All")));
+  driver.Do(R"({"op":"choose","id":109})");
+  EXPECT_EQ(Names(driver), QStringList(QStringLiteral("Adams")));
+  EXPECT_EQ(List(driver)[u"restriction"], QStringLiteral(R"([Categories] = "Work")"));
+  Run(driver, "110");
+  EXPECT_EQ(Names(driver), QStringList(QStringLiteral("박지성")));
+  EXPECT_EQ(List(driver)[u"restriction"], QStringLiteral(R"([Categories] = "")"));
+}
+
+TEST_F(CommandScript, DeletingAllUnderAFilterKeepsTheOthers) {
+  ReadyDriver driver(Arguments());
+  PutPeople(driver);
+  driver.Do(R"({"op":"tap","on":"view","x":60,"y":35})");
+  EXPECT_EQ(Names(driver), QStringList(QStringLiteral("Gray")));
+  Run(driver, "40002");
+  driver.Do(R"({"op":"ok"})");
+  EXPECT_EQ(List(driver)[u"total"], 0);
+  EXPECT_EQ(driver.Error(R"({"op":"command","id":40002})"), QStringLiteral("disabled"));
+  Run(driver, kByName);
+  EXPECT_EQ(Names(driver), QStringList({QStringLiteral("Adams"), QStringLiteral("박지성")}));
+}
+
+TEST_F(CommandScript, TheSelectedRowsAreDeletedAndCopied) {
+  ReadyDriver driver(Arguments());
+  PutPeople(driver);
+  EXPECT_EQ(driver.Error(R"({"op":"command","id":40017})"), QStringLiteral("disabled"));
+  driver.Do(R"({"op":"press","on":"list","x":20,"y":8})");
+  driver.Do(R"({"op":"move","on":"list","x":20,"y":24})");
+  driver.Do(R"({"op":"release","on":"list","x":20,"y":24})");
+  Run(driver, "32822");
+  EXPECT_EQ(List(driver)[u"total"], 5);
+  Run(driver, "40017");
+  const auto windows = driver.Result(R"({"op":"windows"})", u"windows").toArray();
+  EXPECT_EQ(windows.last().toObject()[u"title"], QStringLiteral("Delete"));
+  driver.Do(R"({"op":"ok"})");
+  EXPECT_EQ(List(driver)[u"total"], 3);
+  EXPECT_TRUE(List(driver)[u"selected"].toArray().isEmpty());
+}
+
+TEST_F(CommandScript, ADeletionThatFailsLeavesTheListAsItIs) {
+  ReadyDriver driver(Arguments());
+  PutPeople(driver);
+  driver.Do(R"({"op":"fault","name":"delete","on":true})");
+  Run(driver, "40002");
+  driver.Do(R"({"op":"ok"})");
+  EXPECT_EQ(List(driver)[u"total"], 3);
+  EXPECT_EQ(driver.Result(R"({"op":"message"})", u"message"), QJsonValue());
+}
+
+TEST_F(CommandScript, AMemoIsRenamedCopiedAndDeletedFromItsPopup) {
+  AddMemos({QStringLiteral("a.pwi"), QStringLiteral("b.pwi")});
+  ReadyDriver driver(Arguments());
+  Run(driver, kByMemo);
+  driver.Do(R"({"op":"hold","on":"list","x":20,"y":8})");
+  EXPECT_EQ(Texts(driver.Result(R"({"op":"popup"})", u"popup")),
+            QStringList({QStringLiteral("Rename Memo..."), QStringLiteral("Copy Memo..."),
+                         QStringLiteral("Delete Memo")}));
+  driver.Do(R"({"op":"choose","id":32829})");
+  EXPECT_EQ(driver.Result(R"({"op":"get","id":1017})", u"control").toObject()[u"text"],
+            QStringLiteral("\\My Documents\\Fennick\\a.pwi"));
+  driver.Do(R"({"op":"type","text":"\\My Documents\\Fennick\\c.pwi"})");
+  driver.Do(R"({"op":"ok"})");
+  EXPECT_EQ(Memos(driver), QStringList({QStringLiteral("b.pwi"), QStringLiteral("c.pwi")}));
+  Run(driver, "32828");
+  driver.Do(R"({"op":"ok"})");
+  EXPECT_EQ(Memos(driver).size(), 3);
+  Run(driver, "32826");
+  driver.Do(R"({"op":"answer","button":"Yes"})");
+  EXPECT_EQ(Memos(driver).size(), 2);
+}
+
+TEST_F(CommandScript, AMemoCannotBeMovedOutOfTheHome) {
+  AddMemos({QStringLiteral("a.pwi")});
+  ReadyDriver driver(Arguments());
+  Run(driver, kByMemo);
+  for (const char* path : {R"(\\..\\..\\a.pwi)", R"(/tmp/a.pwi)", R"(\\My Documents\\a:b.pwi)"}) {
+    driver.Do(R"({"op":"hold","on":"list","x":20,"y":8})");
+    driver.Do(R"({"op":"choose","id":32829})");
+    driver.Do(QByteArray(R"({"op":"set","id":1017,"text":")") + path + R"("})");
+    driver.Do(R"({"op":"ok"})");
+    EXPECT_EQ(Memos(driver), QStringList(QStringLiteral("a.pwi"))) << path;
+  }
+}
+
+TEST_F(CommandScript, TheConfigurationHidesTheIndexStripAndIsKept) {
+  {
+    ReadyDriver driver(Arguments());
+    PutPeople(driver);
+    Run(driver, "32830");
+    driver.Do(R"({"op":"set","id":1046,"checked":false})");
+    driver.Do(R"({"op":"ok"})");
+    EXPECT_EQ(List(driver)[u"rowsPerPage"], 15);
+    const QJsonObject list = driver.Result(R"({"op":"where","on":"list"})", u"where").toObject();
+    const QJsonObject view = driver.Result(R"({"op":"where","on":"view"})", u"where").toObject();
+    EXPECT_EQ(list[u"y"].toInt() - view[u"y"].toInt(), 25);
+    EXPECT_EQ(list[u"h"], 245);
+  }
+  ReadyDriver driver(Arguments());
+  EXPECT_EQ(List(driver)[u"rowsPerPage"], 15);
+}
+
+TEST_F(CommandScript, CancellingTheConfigurationWritesTheSettingsAllTheSame) {
+  ReadyDriver driver(Arguments());
+  driver.Result(R"({"op":"settings","values":{"ABC":0,"AreaCodeValueBytes":4}})", u"settings");
+  Run(driver, "32830");
+  driver.Do(R"({"op":"cancel"})");
+  const QJsonObject settings = driver.Result(R"({"op":"settings"})", u"settings").toObject();
+  EXPECT_EQ(settings[u"ABC"], 1) << "the program's own";
+  EXPECT_EQ(settings[u"AreaCodeValueBytes"], 520);
+}
+
+TEST_F(CommandScript, DeleteAllInTheConfigurationKnowsNoFilter) {
+  ReadyDriver driver(Arguments());
+  PutPeople(driver);
+  driver.Do(R"({"op":"tap","on":"view","x":60,"y":35})");
+  Run(driver, "32830");
+  driver.Do(R"({"op":"click","id":1000})");
+  driver.Do(R"({"op":"ok"})");
+  driver.Do(R"({"op":"cancel"})");
+  EXPECT_TRUE(driver.Result(R"({"op":"contacts"})", u"contacts").toArray().isEmpty());
+}
+
+TEST_F(CommandScript, AnotherProgramsRequestShowsItsContact) {
+  ReadyDriver driver(Arguments());
+  PutPeople(driver);
+  EXPECT_EQ(driver.Result(R"({"op":"copydata","kind":1,"text":"박지성"})", u"copydata"), true);
+  driver.Do(R"({"op":"wait","ms":300})");
+  EXPECT_TRUE(driver.Result(R"({"op":"message"})", u"message")
+                  .toObject()[u"text"]
+                  .toString()
+                  .startsWith(QStringLiteral("박지성")));
+}
+
+TEST_F(CommandScript, ARequestOfSoManyBytesNamesWhatTheyHold) {
+  ReadyDriver driver(Arguments());
+  PutPeople(driver);
+  EXPECT_EQ(
+      driver.Result(R"({"op":"copydata","kind":4,"text":"Gray wolf","bytes":8})", u"copydata"),
+      true);
+}
+
+TEST_F(CommandScript, ARequestForNobodyIsSaid) {
+  ReadyDriver driver(Arguments());
+  EXPECT_EQ(driver.Result(R"({"op":"copydata","kind":1,"text":"Nobody"})", u"copydata"), false);
+  const QJsonObject message = driver.Result(R"({"op":"message"})", u"message").toObject();
+  EXPECT_EQ(message[u"text"], QStringLiteral("Related name not found."));
+  EXPECT_EQ(message[u"caption"], QStringLiteral("Quill (Quillbook)"));
+}
+
+TEST_F(CommandScript, ARequestWaitsUntilTheOpenDialogHasClosed) {
+  ReadyDriver driver(Arguments());
+  PutPeople(driver);
+  Run(driver, "32830");
+  driver.Result(R"({"op":"copydata","kind":1,"text":"Gray"})", u"copydata");
+  driver.Do(R"({"op":"wait","ms":300})");
+  EXPECT_EQ(driver.Result(R"({"op":"message"})", u"message"), QJsonValue());
+  driver.Do(R"({"op":"cancel"})");
+  driver.Do(R"({"op":"wait","ms":300})");
+  EXPECT_NE(driver.Result(R"({"op":"message"})", u"message"), QJsonValue());
+}
