@@ -15,7 +15,7 @@ StartupCode StartList(StoreProvider& provider) {
   FixMemoFolder(g_memo);
   LoadSettings(g_settings);
   g_list.RowsPerPage = LayOutAreas(g_settings).RowsPerPage;
-  OpenCategoryLibrary();  // a failure is on the log: the list works without
+  Cate_OpenCreate_DB();  // a failure is on the log: the list works without
   FillCategoryMenu(g_categoryMenu, OfferedCategories(), g_list.CategoryName);
   BuildPage(g_list);
   return code;

@@ -12,7 +12,7 @@ CategoryLibrary* Library() { return g_store.Provider ? g_store.Provider->Categor
 
 }  // namespace
 
-bool OpenCategoryLibrary() {
+bool Cate_OpenCreate_DB() {
   if (Library()) return true;
   qCWarning(storeLog) << "There is no category library";
   return false;
@@ -24,6 +24,8 @@ QStringList UserCategories() {
 }
 
 QStringList OfferedCategories() { return UserCategories() << kNoCategories.toString(); }
+
+QString Cate_GetCategoryList(int) { return OfferedCategories().join(u','); }
 
 bool SetUserCategories(const QStringList& names) {
   CategoryLibrary* library = Library();

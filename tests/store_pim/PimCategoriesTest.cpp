@@ -79,9 +79,9 @@ TEST_F(CategoriesOfAStore, NoCategoriesIsOfferedLastAndNeverStored) {
 
 TEST_F(CategoriesOfAStore, AreThereWithASessionOnly) {
   m_store.Close();
-  EXPECT_FALSE(OpenCategoryLibrary());
+  EXPECT_FALSE(Cate_OpenCreate_DB());
   ASSERT_EQ(OpenSession(m_store), StartupCode::Opened);
-  EXPECT_TRUE(OpenCategoryLibrary());
+  EXPECT_TRUE(Cate_OpenCreate_DB());
   CloseSession();
 }
 
