@@ -1,6 +1,6 @@
 #include "store/CategoryText.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace quill {
 
@@ -19,6 +19,21 @@ bool AnyName(QStringView categories, Visit visit) {
     if (!name.isEmpty() && visit(name)) return true;
   }
   return false;
+}
+
+// With this name in place of the first one of that name and without further ones; an empty name
+// takes the place of none.
+QString Replaced(QStringView categories, QStringView from, QStringView to) {
+  QStringList pieces;
+  for (const QStringView piece : categories.tokenize(u',')) {
+    if (WithoutLeadingBlanks(piece) != from) {
+      pieces.append(piece.toString());
+    } else if (!to.isEmpty()) {
+      const QStringView blanks = piece.chopped(from.size());
+      pieces.append(blanks.toString() + std::exchange(to, QStringView()).toString());
+    }
+  }
+  return WithoutLeadingBlanks(pieces.join(u',')).toString();
 }
 
 }  // namespace
@@ -41,13 +56,24 @@ bool CategoriesMatch(QStringView chosen, QStringView categories) {
   });
 }
 
+QString RemoveFromCategories(QStringView categories, QStringView name) {
+  return Replaced(categories, name, {});
+}
+
+QString RenameInCategories(QStringView categories, QStringView from, QStringView to) {
+  return Replaced(categories, from, CategoriesMatch(to, categories) ? QStringView() : to);
+}
+
 QStringList ValidCategories(const QStringList& names) {
   QStringList valid;
   for (const QString& name : names) {
-    const bool isOneName = SplitCategories(name) == QStringList(name);
-    if (isOneName && name != kNoCategories && !valid.contains(name)) valid.append(name);
+    if (IsCategoryName(name) && !valid.contains(name)) valid.append(name);
   }
   return valid;
+}
+
+bool IsCategoryName(const QString& name) {
+  return name != kNoCategories && SplitCategories(name) == QStringList(name);
 }
 
 }  // namespace quill

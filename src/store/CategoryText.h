@@ -18,8 +18,14 @@ QString JoinCategories(const QStringList& names);
 // an empty text.
 bool CategoriesMatch(QStringView chosen, QStringView categories);
 
+// The text of a contact whose category goes or gets another name. All else stays as it is; a
+// contact that has the other name already keeps that and loses the old one.
+QString RemoveFromCategories(QStringView categories, QStringView name);
+QString RenameInCategories(QStringView categories, QStringView from, QStringView to);
+
 // What a list of categories can hold of these: no empty name, none with a comma or a leading blank,
 // none twice, and not kNoCategories.
 QStringList ValidCategories(const QStringList& names);
+bool IsCategoryName(const QString& name);
 
 }  // namespace quill

@@ -52,6 +52,40 @@ TEST(CategoryText, JoinsWithACommaAndABlank) {
   EXPECT_EQ(JoinCategories({}), QString());
 }
 
+struct ChangeCase {
+  QString Before;
+  QString From;
+  QString To;  // empty: it is removed
+  QString After;
+};
+
+class CategoryTextChange : public testing::TestWithParam<ChangeCase> {};
+
+TEST_P(CategoryTextChange, LeavesTheOtherNamesAsTheyAre) {
+  const ChangeCase& change = GetParam();
+  EXPECT_EQ(change.To.isEmpty() ? RemoveFromCategories(change.Before, change.From)
+                                : RenameInCategories(change.Before, change.From, change.To),
+            change.After);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Removed, CategoryTextChange,
+    testing::Values(ChangeCase{u"Work"_qs, u"Work"_qs, {}, {}},
+                    ChangeCase{u"Work, Club"_qs, u"Work"_qs, {}, u"Club"_qs},
+                    ChangeCase{
+                        u"Work,  Club ,Old Friends"_qs, u"Club "_qs, {}, u"Work,Old Friends"_qs},
+                    ChangeCase{u"A,  B,C, D"_qs, u"C"_qs, {}, u"A,  B, D"_qs},
+                    ChangeCase{u"Work,Club, Work"_qs, u"Work"_qs, {}, u"Club"_qs},
+                    ChangeCase{u"Workers,work"_qs, u"Work"_qs, {}, u"Workers,work"_qs},
+                    ChangeCase{{}, u"Work"_qs, {}, {}}));
+INSTANTIATE_TEST_SUITE_P(
+    Renamed, CategoryTextChange,
+    testing::Values(ChangeCase{u"Work"_qs, u"Work"_qs, u"Job"_qs, u"Job"_qs},
+                    ChangeCase{u"Club,  Work, A"_qs, u"Work"_qs, u"Job"_qs, u"Club,  Job, A"_qs},
+                    ChangeCase{u"Job, Work, A"_qs, u"Work"_qs, u"Job"_qs, u"Job, A"_qs},
+                    ChangeCase{u"Work,A, Work"_qs, u"Work"_qs, u"Job"_qs, u"Job,A"_qs},
+                    ChangeCase{u"Workers"_qs, u"Work"_qs, u"Job"_qs, u"Workers"_qs}));
+
 TEST(CategoryText, AListHoldsEachNameOnceAndOnlyWhatIsOneName) {
   EXPECT_EQ(ValidCategories({QStringLiteral("Work"), QString(), QStringLiteral("가족"),
                              QStringLiteral("A,B"), QStringLiteral(" Lead"), QStringLiteral("Work"),

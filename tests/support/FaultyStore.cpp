@@ -28,14 +28,16 @@ bool FaultyContacts::ReadListRow(Oid oid, ContactRecord& record) {
   return oid != Faults.ReadListRow && Inner->ReadListRow(oid, record);
 }
 
-bool FaultyContacts::Read(Oid oid, ContactItem& item) { return Inner->Read(oid, item); }
+bool FaultyContacts::Read(Oid oid, ContactItem& item) {
+  return oid != Faults.Read && Inner->Read(oid, item);
+}
 
 Oid FaultyContacts::Save(Oid oid, const ContactRecord& record, const QByteArray& bodyInk) {
   return Inner->Save(oid, record, bodyInk);
 }
 
 Oid FaultyContacts::SaveWhole(Oid oid, const ContactItem& item) {
-  return Inner->SaveWhole(oid, item);
+  return oid != 0 && oid == Faults.SaveWhole ? 0 : Inner->SaveWhole(oid, item);
 }
 
 bool FaultyContacts::Remove(Oid oid) { return Inner->Remove(oid); }

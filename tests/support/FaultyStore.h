@@ -9,6 +9,8 @@ namespace quill::test {
 struct StoreFaults {
   bool Restrict = false;
   Oid ReadListRow = 0;
+  Oid Read = 0;
+  Oid SaveWhole = 0;
 };
 
 struct CalendarFaults {
