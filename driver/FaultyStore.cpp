@@ -122,6 +122,8 @@ CategoryLibrary* FaultyStore::Categories() { return m_inner.Categories(); }
 
 std::unique_ptr<StoreTransaction> FaultyStore::Begin() { return m_inner.Begin(); }
 
+std::unique_ptr<StoreTransaction> FaultyStore::BeginReading() { return m_inner.BeginReading(); }
+
 qint64 FaultyStore::Changes() { return m_inner.Changes(); }
 
 QString FaultyStore::LastError() const { return m_inner.LastError(); }

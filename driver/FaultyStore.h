@@ -26,6 +26,7 @@ class FaultyStore : public StoreProvider {
   CalendarFolder* Calendar() override;
   CategoryLibrary* Categories() override;
   std::unique_ptr<StoreTransaction> Begin() override;
+  std::unique_ptr<StoreTransaction> BeginReading() override;
   qint64 Changes() override;
   QString LastError() const override;
 

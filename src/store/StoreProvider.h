@@ -132,6 +132,9 @@ class StoreProvider {
 
   // Null when no transaction can be begun.
   virtual std::unique_ptr<StoreTransaction> Begin() = 0;
+  // While it lives, everything is read as it was at the first reading, and other programs may
+  // write. Nothing is written in it, so it needs no Commit. Null as above.
+  virtual std::unique_ptr<StoreTransaction> BeginReading() = 0;
   // A number that differs from the last answer when another program has written meanwhile.
   virtual qint64 Changes() = 0;
   // Why the last operation failed, for the log and for commands; empty when none has.

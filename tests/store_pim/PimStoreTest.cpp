@@ -317,6 +317,23 @@ TEST_F(Transactions, ACommitKeepsAllAndNothingIsKeptWithoutOne) {
   EXPECT_EQ(Size(), 2);
 }
 
+TEST_F(Transactions, ReadingSeesOneMomentAndLetsOthersWrite) {
+  Add(QStringLiteral("a"));
+  {
+    const auto reading = m_store.BeginReading();
+    ASSERT_TRUE(reading);
+    EXPECT_EQ(m_store.Begin(), nullptr);
+    EXPECT_EQ(Size(), 1);
+    PimStore other(Path());
+    ASSERT_EQ(test::OpenAll(other), 0);
+    EXPECT_NE(other.Contacts()->Save(0, {}, {}), 0);
+    EXPECT_EQ(Size(), 1);
+  }
+  EXPECT_EQ(Size(), 2);
+  m_store.Close();
+  EXPECT_EQ(m_store.BeginReading(), nullptr);
+}
+
 TEST_F(Transactions, ThereIsOneAtATime) {
   auto transaction = m_store.Begin();
   ASSERT_TRUE(transaction);

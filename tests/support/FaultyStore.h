@@ -78,6 +78,7 @@ class FaultyStore : public StoreProvider {
   CalendarFolder* Calendar() override;
   CategoryLibrary* Categories() override { return m_inner.Categories(); }
   std::unique_ptr<StoreTransaction> Begin() override { return m_inner.Begin(); }
+  std::unique_ptr<StoreTransaction> BeginReading() override { return m_inner.BeginReading(); }
   qint64 Changes() override { return m_inner.Changes(); }
   QString LastError() const override { return m_inner.LastError(); }
 

@@ -111,12 +111,16 @@ DataStamp Database::Stamp() {
 
 bool Database::InTransaction() const { return sqlite3_get_autocommit(m_handle) == 0; }
 
-bool Database::Begin() {
+bool Database::Begin() { return BeginBy("BEGIN IMMEDIATE"); }
+
+bool Database::BeginReading() { return BeginBy("BEGIN"); }
+
+bool Database::BeginBy(const QByteArray& sql) {
   if (m_transaction) {
     Fail(SQLITE_MISUSE, QStringLiteral("a transaction is open already"));
     return false;
   }
-  if (Execute("BEGIN IMMEDIATE") != SQLITE_OK) return false;
+  if (Execute(sql) != SQLITE_OK) return false;
   m_transaction = true;
   return true;
 }

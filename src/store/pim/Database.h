@@ -57,6 +57,7 @@ class Database {
   // At most one transaction at a time. A failure such as a full disk may end it early; until it is
   // rolled back, TransactionLost says so and nothing may be written.
   bool Begin();
+  bool BeginReading();  // leaves writing to others
   bool Commit();
   void Rollback();
   bool TransactionLost() const;
@@ -71,6 +72,8 @@ class Database {
   int Fail(int code, const QString& text = {});
 
  private:
+  bool BeginBy(const QByteArray& sql);
+
   sqlite3* m_handle = nullptr;
   QHash<QByteArray, sqlite3_stmt*> m_statements;
   bool m_transaction = false;

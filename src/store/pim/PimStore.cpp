@@ -129,6 +129,11 @@ std::unique_ptr<StoreTransaction> PimStore::Begin() {
   return std::make_unique<PimTransaction>(m_database);
 }
 
+std::unique_ptr<StoreTransaction> PimStore::BeginReading() {
+  if (!m_database || !m_database->BeginReading()) return nullptr;
+  return std::make_unique<PimTransaction>(m_database);
+}
+
 qint64 PimStore::Changes() { return m_database ? m_database->Stamp().OthersVersion : 0; }
 
 QString PimStore::LastError() const { return m_database ? m_database->FailureText() : m_lastError; }

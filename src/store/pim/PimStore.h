@@ -41,6 +41,7 @@ class PimStore : public StoreProvider {
   // One transaction at a time: null while another one is open. One that outlives Close does
   // nothing.
   std::unique_ptr<StoreTransaction> Begin() override;
+  std::unique_ptr<StoreTransaction> BeginReading() override;
   qint64 Changes() override;
   QString LastError() const override;
 
