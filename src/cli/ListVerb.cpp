@@ -1,54 +1,23 @@
 #include "cli/ListVerb.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
-
-#include <algorithm>
-
 #include "app/StoreOpening.h"
-#include "store/ContactFields.h"
+#include "cli/ContactPrinter.h"
 #include "store/pim/PimStore.h"
 
 namespace quill {
 namespace {
 
-// On one line, whatever the name holds.
-QString PlainLine(QString name) {
-  std::replace_if(
-      name.begin(), name.end(), [](QChar each) { return each.category() == QChar::Other_Control; },
-      QChar(u' '));
-  return name;
-}
-
-QByteArray JsonLine(Oid oid, const ContactRecord& record) {
-  QJsonObject object{{QStringLiteral("Oid"), oid}};
-  for (const ContactFieldRow& row : kContactFields) {
-    if (!record[row.Field].isEmpty()) object.insert(row.Property.toString(), record[row.Field]);
-  }
-  return QJsonDocument(object).toJson(QJsonDocument::Compact);
-}
-
 // Each row as it is read, so that a large store needs no more memory than a small one.
-bool PrintRows(ContactsFolder& contacts, const VerbCall& call, QTextStream& out) {
-  const bool asJson = IsGiven(call, kJsonOption);
+int PrintRows(ContactsFolder& contacts, ContactPrinter printer) {
   const ContactCollection all = contacts.Items();
   const int count = contacts.Count(all);
-  bool isFirst = true;
   for (int position = 1; position <= count; ++position) {
     const Oid oid = contacts.OidAt(all, position);
     ContactRecord record;
     // A contact may go while the list is printed.
-    if (oid == 0 || !contacts.ReadListRow(oid, record)) continue;
-    if (asJson) {
-      out << (isFirst ? "[\n" : ",\n") << JsonLine(oid, record);
-    } else {
-      out << PlainLine(record[ContactField::FileAs]) << '\n';
-    }
-    isFirst = false;
+    if (oid != 0 && contacts.ReadListRow(oid, record)) printer.Print(oid, record);
   }
-  if (asJson) out << (isFirst ? "[]\n" : "\n]\n");
-  out.flush();
-  return !isFirst;
+  return printer.End();
 }
 
 }  // namespace
@@ -60,7 +29,8 @@ int RunList(const VerbCall& call, const Console& console) {
     Complain(console, opening.Problem());
     return kExitFailed;
   }
-  return PrintRows(*store.Contacts(), call, console.Out) ? kExitDone : kExitPartly;
+  const PrintForm form = IsGiven(call, kJsonOption) ? PrintForm::Json : PrintForm::Names;
+  return PrintRows(*store.Contacts(), {form, console.Out});
 }
 
 }  // namespace quill

@@ -5,8 +5,10 @@
 #include <limits>
 
 #include "cli/CheckVerb.h"
+#include "cli/ExportVerb.h"
 #include "cli/ImportVerb.h"
 #include "cli/ListVerb.h"
+#include "cli/ShowVerb.h"
 
 namespace quill {
 namespace {
@@ -20,11 +22,20 @@ constexpr auto kImporting = std::to_array<Option>({
     {kCharsetOption, u"NAME", u"of text that does not say its character set"},
     {kRejectsOption, u"FILE", u"keep the cards that cannot be read in this file"},
 });
+constexpr auto kExporting = std::to_array<Option>({
+    {kVersionOption, u"2.1|3.0|4.0", u"the version of the cards, 3.0 when not given"},
+    {kCategoryOption, u"NAME", u"only the contacts of this category"},
+    {kContactOption, u"NAME", u"only the contacts of this name, or whose name begins so"},
+});
 constexpr auto kVerbs = std::to_array<Verb>({
     {u"check", u"", u"look the store over and mend its index", 0, 0, kPrinting, RunCheck},
+    {u"export", u"FILE", u"write contacts to a vCard file, - for standard output", 1, 1, kExporting,
+     RunExport},
     {u"import", u"FILE|DIR...", u"bring in the contacts of vCard files", 1, kAny, kImporting,
      RunImport},
     {u"list", u"", u"print the contacts' names, one on a line", 0, 0, kPrinting, RunList},
+    {u"show", u"NAME", u"print the contacts of this name, or whose name begins so", 1, 1, kPrinting,
+     RunShow},
 });
 
 template <typename Rows>

@@ -43,6 +43,9 @@ const Option* FindOption(const Verb& verb, const QString& name);
 
 // Under which the verbs' rows and the verbs themselves know their options.
 inline constexpr QStringView kJsonOption = u"--json";
+inline constexpr QStringView kVersionOption = u"--vcard";
+inline constexpr QStringView kCategoryOption = u"--category";
+inline constexpr QStringView kContactOption = u"--contact";
 
 bool IsGiven(const VerbCall& call, QStringView option);
 // Empty when it was not given.
