@@ -34,7 +34,7 @@ void Put(ReadyDriver& driver, const QByteArray& fields) {
   driver.Result(R"({"op":"put","quiet":true,"fields":)" + fields + '}', u"oid");
 }
 
-void Run(ReadyDriver& driver, const QByteArray& id) {
+void RunCommand(ReadyDriver& driver, const QByteArray& id) {
   driver.Do(R"({"op":"command","id":)" + id + '}');
 }
 
@@ -76,7 +76,7 @@ void PutPeople(ReadyDriver& driver) {
   Put(driver, R"({"FileAs":"Adams","CompanyName":"Zoo","Categories":"Work, Friends"})");
   Put(driver, R"({"FileAs":"Gray","CompanyName":"abacus","Categories":"Family"})");
   Put(driver, R"({"FileAs":"박지성"})");
-  Run(driver, kByName);
+  RunCommand(driver, kByName);
 }
 
 }  // namespace
@@ -84,7 +84,7 @@ void PutPeople(ReadyDriver& driver) {
 TEST_F(CommandScript, ByCompanyTheListStandsInTheCompaniesOrder) {
   ReadyDriver driver(Arguments());
   PutPeople(driver);
-  Run(driver, kByCompany);
+  RunCommand(driver, kByCompany);
   EXPECT_EQ(Names(driver), QStringList({QStringLiteral("박지성"), QStringLiteral("Gray"),
                                         QStringLiteral("Adams")}));
   EXPECT_TRUE(TextsOnView(driver).contains(QStringLiteral("<None>")));
@@ -100,7 +100,7 @@ TEST_F(CommandScript, ByMemoTheListHoldsTheMemosCutByIndexAndSearch) {
             QStringLiteral("박지성_1.pwi"), QStringLiteral("notes.txt")});
   ReadyDriver driver(Arguments());
   PutPeople(driver);
-  Run(driver, kByMemo);
+  RunCommand(driver, kByMemo);
   EXPECT_EQ(Memos(driver), QStringList({QStringLiteral("adams_1.pwi"), QStringLiteral("Gray_1.pwi"),
                                         QStringLiteral("박지성_1.pwi")}));
   EXPECT_EQ(List(driver)[u"total"], 3);
@@ -112,7 +112,7 @@ TEST_F(CommandScript, ByMemoTheListHoldsTheMemosCutByIndexAndSearch) {
   EXPECT_EQ(Memos(driver), QStringList(QStringLiteral("박지성_1.pwi")));
   driver.Do(R"({"op":"tap","on":"view","x":190,"y":12})");
   EXPECT_EQ(driver.Result(R"({"op":"popup"})", u"popup"), QJsonValue());
-  Run(driver, kByMemo);
+  RunCommand(driver, kByMemo);
   EXPECT_EQ(List(driver)[u"total"], 3) << "the mode that is on drops its filters";
 }
 
@@ -129,7 +129,7 @@ TEST_F(CommandScript, TheCategoryMenuFiltersAndChecksItsChoice) {
   driver.Do(R"({"op":"choose","id":109})");
   EXPECT_EQ(Names(driver), QStringList(QStringLiteral("Adams")));
   EXPECT_EQ(List(driver)[u"restriction"], QStringLiteral(R"([Categories] = "Work")"));
-  Run(driver, "110");
+  RunCommand(driver, "110");
   EXPECT_EQ(Names(driver), QStringList(QStringLiteral("박지성")));
   EXPECT_EQ(List(driver)[u"restriction"], QStringLiteral(R"([Categories] = "")"));
 }
@@ -139,11 +139,11 @@ TEST_F(CommandScript, DeletingAllUnderAFilterKeepsTheOthers) {
   PutPeople(driver);
   driver.Do(R"({"op":"tap","on":"view","x":60,"y":35})");
   EXPECT_EQ(Names(driver), QStringList(QStringLiteral("Gray")));
-  Run(driver, "40002");
+  RunCommand(driver, "40002");
   driver.Do(R"({"op":"ok"})");
   EXPECT_EQ(List(driver)[u"total"], 0);
   EXPECT_EQ(driver.Error(R"({"op":"command","id":40002})"), QStringLiteral("disabled"));
-  Run(driver, kByName);
+  RunCommand(driver, kByName);
   EXPECT_EQ(Names(driver), QStringList({QStringLiteral("Adams"), QStringLiteral("박지성")}));
 }
 
@@ -154,9 +154,9 @@ TEST_F(CommandScript, TheSelectedRowsAreDeletedAndCopied) {
   driver.Do(R"({"op":"press","on":"list","x":20,"y":8})");
   driver.Do(R"({"op":"move","on":"list","x":20,"y":24})");
   driver.Do(R"({"op":"release","on":"list","x":20,"y":24})");
-  Run(driver, "32822");
+  RunCommand(driver, "32822");
   EXPECT_EQ(List(driver)[u"total"], 5);
-  Run(driver, "40017");
+  RunCommand(driver, "40017");
   const auto windows = driver.Result(R"({"op":"windows"})", u"windows").toArray();
   EXPECT_EQ(windows.last().toObject()[u"title"], QStringLiteral("Delete"));
   driver.Do(R"({"op":"ok"})");
@@ -168,7 +168,7 @@ TEST_F(CommandScript, ADeletionThatFailsLeavesTheListAsItIs) {
   ReadyDriver driver(Arguments());
   PutPeople(driver);
   driver.Do(R"({"op":"fault","name":"delete","on":true})");
-  Run(driver, "40002");
+  RunCommand(driver, "40002");
   driver.Do(R"({"op":"ok"})");
   EXPECT_EQ(List(driver)[u"total"], 3);
   EXPECT_EQ(driver.Result(R"({"op":"message"})", u"message"), QJsonValue());
@@ -177,7 +177,7 @@ TEST_F(CommandScript, ADeletionThatFailsLeavesTheListAsItIs) {
 TEST_F(CommandScript, AMemoIsRenamedCopiedAndDeletedFromItsPopup) {
   AddMemos({QStringLiteral("a.pwi"), QStringLiteral("b.pwi")});
   ReadyDriver driver(Arguments());
-  Run(driver, kByMemo);
+  RunCommand(driver, kByMemo);
   driver.Do(R"({"op":"hold","on":"list","x":20,"y":8})");
   EXPECT_EQ(Texts(driver.Result(R"({"op":"popup"})", u"popup")),
             QStringList({QStringLiteral("Rename Memo..."), QStringLiteral("Copy Memo..."),
@@ -188,10 +188,10 @@ TEST_F(CommandScript, AMemoIsRenamedCopiedAndDeletedFromItsPopup) {
   driver.Do(R"({"op":"type","text":"\\My Documents\\Fennick\\c.pwi"})");
   driver.Do(R"({"op":"ok"})");
   EXPECT_EQ(Memos(driver), QStringList({QStringLiteral("b.pwi"), QStringLiteral("c.pwi")}));
-  Run(driver, "32828");
+  RunCommand(driver, "32828");
   driver.Do(R"({"op":"ok"})");
   EXPECT_EQ(Memos(driver).size(), 3);
-  Run(driver, "32826");
+  RunCommand(driver, "32826");
   driver.Do(R"({"op":"answer","button":"Yes"})");
   EXPECT_EQ(Memos(driver).size(), 2);
 }
@@ -199,7 +199,7 @@ TEST_F(CommandScript, AMemoIsRenamedCopiedAndDeletedFromItsPopup) {
 TEST_F(CommandScript, AMemoCannotBeMovedOutOfTheHome) {
   AddMemos({QStringLiteral("a.pwi")});
   ReadyDriver driver(Arguments());
-  Run(driver, kByMemo);
+  RunCommand(driver, kByMemo);
   for (const char* path : {R"(\\..\\..\\a.pwi)", R"(/tmp/a.pwi)", R"(\\My Documents\\a:b.pwi)"}) {
     driver.Do(R"({"op":"hold","on":"list","x":20,"y":8})");
     driver.Do(R"({"op":"choose","id":32829})");
@@ -213,7 +213,7 @@ TEST_F(CommandScript, TheConfigurationHidesTheIndexStripAndIsKept) {
   {
     ReadyDriver driver(Arguments());
     PutPeople(driver);
-    Run(driver, "32830");
+    RunCommand(driver, "32830");
     driver.Do(R"({"op":"set","id":1046,"checked":false})");
     driver.Do(R"({"op":"ok"})");
     EXPECT_EQ(List(driver)[u"rowsPerPage"], 15);
@@ -229,7 +229,7 @@ TEST_F(CommandScript, TheConfigurationHidesTheIndexStripAndIsKept) {
 TEST_F(CommandScript, CancellingTheConfigurationWritesTheSettingsAllTheSame) {
   ReadyDriver driver(Arguments());
   driver.Result(R"({"op":"settings","values":{"ABC":0,"AreaCodeValueBytes":4}})", u"settings");
-  Run(driver, "32830");
+  RunCommand(driver, "32830");
   driver.Do(R"({"op":"cancel"})");
   const QJsonObject settings = driver.Result(R"({"op":"settings"})", u"settings").toObject();
   EXPECT_EQ(settings[u"ABC"], 1) << "the program's own";
@@ -240,7 +240,7 @@ TEST_F(CommandScript, DeleteAllInTheConfigurationKnowsNoFilter) {
   ReadyDriver driver(Arguments());
   PutPeople(driver);
   driver.Do(R"({"op":"tap","on":"view","x":60,"y":35})");
-  Run(driver, "32830");
+  RunCommand(driver, "32830");
   driver.Do(R"({"op":"click","id":1000})");
   driver.Do(R"({"op":"ok"})");
   driver.Do(R"({"op":"cancel"})");
@@ -277,7 +277,7 @@ TEST_F(CommandScript, ARequestForNobodyIsSaid) {
 TEST_F(CommandScript, ARequestWaitsUntilTheOpenDialogHasClosed) {
   ReadyDriver driver(Arguments());
   PutPeople(driver);
-  Run(driver, "32830");
+  RunCommand(driver, "32830");
   driver.Result(R"({"op":"copydata","kind":1,"text":"Gray"})", u"copydata");
   driver.Do(R"({"op":"wait","ms":300})");
   EXPECT_EQ(driver.Result(R"({"op":"message"})", u"message"), QJsonValue());

@@ -66,9 +66,9 @@ TEST(AboutBox, ClosesByTheTitleBarsButtonsAndByKeys) {
 
 TEST(Commands, DisabledOnesAreRefused) {
   ReadyDriver driver;
-  EXPECT_EQ(driver.AskForLine(R"({"op":"command","id":57600})"),
+  EXPECT_EQ(driver.AskForLine(R"({"op":"command","id":40015})"),
             R"({"ok":false,"error":"disabled"})");
-  EXPECT_EQ(driver.Error(R"({"op":"command","id":57600,"force":true})"),
+  EXPECT_EQ(driver.Error(R"({"op":"command","id":40015,"force":true})"),
             QStringLiteral("disabled"));
   EXPECT_EQ(Windows(driver).size(), 1);
 }

@@ -28,8 +28,11 @@ void Choose(CContactsView& view, int id) {
 }  // namespace
 
 std::unique_ptr<CommandTarget> MakeCategoryCommands(CContactsView& view) {
+  const auto choose = [&view](int id) { Choose(view, id); };
+  // The search button's id lies among theirs.
+  constexpr int other = ContactsViewIds::kSearchButton;
   return std::make_unique<CommandTarget>(std::vector<CommandRow>{
-      {ID_CATEGORY_FIRST, ID_CATEGORY_LAST, [&view](int id) { Choose(view, id); }}});
+      {ID_CATEGORY_FIRST, other - 1, choose}, {other + 1, ID_CATEGORY_LAST, choose}});
 }
 
 void ShowCategoryMenu(CContactsView& view) {
