@@ -13,7 +13,7 @@
 namespace quill::resources {
 
 // A wrapped label's text begins at its top and goes on below; a panel editor has the input panel up
-// while it has the focus.
+// while it has the focus; a check list's text is what it is called.
 enum class ControlKind {
   Label,
   CentredLabel,
@@ -22,6 +22,7 @@ enum class ControlKind {
   PanelEdit,
   Button,
   Check,
+  CheckList,
   DropDown,
 };
 enum class ControlState { Visible, Hidden };

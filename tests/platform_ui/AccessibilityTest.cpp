@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 
+#include "platform/ui/CheckList.h"
 #include "platform/ui/MenuBar.h"
 #include "platform/ui/MenuPopup.h"
 #include "platform/ui/MessageBox.h"
@@ -119,6 +120,29 @@ TEST_F(AccessibilityTest, TheMenuActionOfTheCaptionOpensTheShellsMenu) {
     m_screen->Popup()->Dismiss();
   }});
   AccessibleChild(m_titleBar, u"Frame").ShowMenu();
+}
+
+TEST_F(AccessibilityTest, ACheckBoxSaysHowItIsAndIsToggled) {
+  CCheckList list(QStringLiteral("Choice"), &m_frame);
+  list.setGeometry(0, 0, 100, 40);
+  list.show();
+  list.SetItems({{QStringLiteral("One"), true}, {QStringLiteral("Two")}, {QStringLiteral("Far")}});
+  const auto* accessible = QAccessible::queryAccessibleInterface(&list);
+  EXPECT_EQ(accessible->role(), QAccessible::List);
+  EXPECT_EQ(accessible->text(QAccessible::Name), QStringLiteral("Choice"));
+  AccessibleChild two(list, u"Two");
+  EXPECT_EQ(two.Role(), QAccessible::CheckBox);
+  EXPECT_TRUE(two.State().checkable);
+  EXPECT_FALSE(two.State().checked);
+  EXPECT_TRUE(AccessibleChild(list, u"One").State().checked);
+  two.Press();
+  EXPECT_FALSE(two.State().checked) << "it offers no press";
+  two.Toggle();
+  EXPECT_TRUE(two.State().checked);
+  two.Toggle();
+  EXPECT_FALSE(two.State().checked);
+  EXPECT_FALSE(two.State().offscreen);
+  EXPECT_TRUE(AccessibleChild(list, u"Far").State().offscreen);
 }
 
 TEST_F(AccessibilityTest, APopupsItemsSayHowTheyAre) {

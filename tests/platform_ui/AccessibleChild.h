@@ -25,6 +25,7 @@ class AccessibleChild {
   QAccessible::Role Role() const { return m_child ? m_child->role() : QAccessible::NoRole; }
   QAccessible::State State() const { return m_child ? m_child->state() : QAccessible::State(); }
   void Press() { Do(QAccessibleActionInterface::pressAction()); }
+  void Toggle() { Do(QAccessibleActionInterface::toggleAction()); }
   void ShowMenu() { Do(QAccessibleActionInterface::showMenuAction()); }
 
  private:

@@ -7,6 +7,7 @@
 
 #include <array>
 
+#include "platform/ui/CheckList.h"
 #include "platform/ui/DropDown.h"
 #include "platform/ui/PanelEdit.h"
 #include "platform_ui/SampleWindows.h"
@@ -81,6 +82,15 @@ TEST_F(DialogTest, APanelEditorIsMadeWithItsText) {
   const auto* editor = qobject_cast<CPanelEdit*>(dialog.Control(1001));
   ASSERT_NE(editor, nullptr);
   EXPECT_EQ(editor->text(), QStringLiteral("text"));
+}
+
+TEST_F(DialogTest, ACheckListIsMadeWithItsName) {
+  constexpr std::array kLists = {
+      resources::DialogControl{resources::ControlKind::CheckList, 1001, u"Choice", {0, 0, 60, 60}}};
+  const SampleDialog dialog(*m_screen, {1, u"List", {10, 40, 100, 80}, kLists});
+  const auto* list = qobject_cast<CCheckList*>(dialog.Control(1001));
+  ASSERT_NE(list, nullptr);
+  EXPECT_EQ(list->accessibleName(), QStringLiteral("Choice"));
 }
 
 TEST_F(DialogTest, AnOKButtonOfEitherNumberEndsItWithOK) {

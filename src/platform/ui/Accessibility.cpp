@@ -19,6 +19,8 @@ QAccessible::Role RoleOf(PaintedRole role) {
       return QAccessible::ListItem;
     case PaintedRole::Button:
       return QAccessible::PushButton;
+    case PaintedRole::CheckBox:
+      return QAccessible::CheckBox;
     case PaintedRole::MenuItem:
       return QAccessible::MenuItem;
     case PaintedRole::Separator:
@@ -108,7 +110,8 @@ QAccessible::State AccessibleRow::state() const {
   state.focused = row->State.testFlag(PaintedStateFlag::Current);
   state.focusable = !state.disabled;
   state.checked = row->State.testFlag(PaintedStateFlag::Checked);
-  state.checkable = state.checked;
+  state.checkable = state.checked || row->Role == PaintedRole::CheckBox;
+  state.offscreen = !m_window->rect().intersects(row->Rectangle);
   state.hasPopup = row->State.testFlag(PaintedStateFlag::HasPopup);
   return state;
 }
@@ -117,10 +120,11 @@ QStringList AccessibleRow::actionNames() const {
   const PaintedRow* const row = Row();
   if (!row || row->Role == PaintedRole::Separator) return {};
   const bool isText = row->Role == PaintedRole::Text;
+  const bool isCheckBox = row->Role == PaintedRole::CheckBox;
   const bool hasMenu =
       row->Role == PaintedRole::ListItem || row->State.testFlag(PaintedStateFlag::HasPopup);
   QStringList names;
-  if (!isText) names.append(pressAction());
+  if (!isText) names.append(isCheckBox ? toggleAction() : pressAction());
   if (hasMenu) names.append(showMenuAction());
   return names;
 }
@@ -128,7 +132,7 @@ QStringList AccessibleRow::actionNames() const {
 // Later, not now: what it begins may wait for the user, and the caller waits for an answer.
 void AccessibleRow::doAction(const QString& action) {
   if (!actionNames().contains(action)) return;
-  const bool presses = action == pressAction();
+  const bool presses = action != showMenuAction();
   QMetaObject::invokeMethod(
       m_window,
       [window = m_window.data(), row = m_row, presses] {

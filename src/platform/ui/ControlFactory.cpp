@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "platform/ui/CheckList.h"
 #include "platform/ui/Dialog.h"
 #include "platform/ui/DropDown.h"
 #include "platform/ui/Edit.h"
@@ -44,6 +45,8 @@ QWidget* MakeWidget(const resources::DialogControl& control, CDialog& dialog) {
       return new QPushButton(text, &dialog);
     case resources::ControlKind::Check:
       return new QCheckBox(text, &dialog);
+    case resources::ControlKind::CheckList:
+      return new CCheckList(text, &dialog);
     case resources::ControlKind::DropDown:
       return new CDropDown(dialog.Screen(), &dialog);
   }
