@@ -4,10 +4,10 @@
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPlainTextEdit>
 
 #include "driver/Arguments.h"
+#include "platform/ui/CheckList.h"
 
 namespace quill::driver {
 
@@ -53,12 +53,15 @@ Change ChangeChecked(QWidget& control, bool checked) {
   };
 }
 
+// A row whose check is as it shall be is made current all the same.
 Change ChangeListItem(QWidget& control, int index, bool checked) {
-  auto* list = qobject_cast<QListWidget*>(&control);
-  if (list == nullptr || index < 0 || index >= list->count()) return std::nullopt;
+  auto* list = qobject_cast<CCheckList*>(&control);
+  if (list == nullptr || index < 0 || index >= static_cast<int>(list->Items().size()))
+    return std::nullopt;
   return [list, index, checked] {
-    list->setCurrentRow(index);
-    list->item(index)->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
+    list->setFocus(Qt::MouseFocusReason);
+    const bool before = list->Items()[static_cast<std::size_t>(index)].Checked;
+    before == checked ? list->SetCurrent(index) : list->ActivateRow(index);
   };
 }
 

@@ -7,13 +7,13 @@
 #include <QJsonArray>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPlainTextEdit>
 
 #include <optional>
 
 #include "driver/ClassName.h"
 #include "driver/Geometry.h"
+#include "platform/ui/CheckList.h"
 
 namespace quill::driver {
 
@@ -36,15 +36,13 @@ void AddDropDown(QJsonObject& object, const QComboBox& list) {
   object.insert(u"index", list.currentIndex());
 }
 
-void AddCheckList(QJsonObject& object, const QListWidget& list) {
+void AddCheckList(QJsonObject& object, const CCheckList& list) {
   QJsonArray items;
-  for (int i = 0; i < list.count(); ++i) {
-    const QListWidgetItem& item = *list.item(i);
-    items.append(QJsonObject{{QStringLiteral("text"), item.text()},
-                             {QStringLiteral("checked"), item.checkState() == Qt::Checked}});
-  }
+  for (const CheckListItem& item : list.Items())
+    items.append(QJsonObject{{QStringLiteral("text"), item.Text},
+                             {QStringLiteral("checked"), item.Checked}});
   object.insert(u"items", items);
-  object.insert(u"index", list.currentRow());
+  object.insert(u"index", list.CurrentRow());
 }
 
 void AddDateAndTime(QJsonObject& object, const QDateTimeEdit& edit) {
@@ -73,7 +71,7 @@ QJsonObject ControlJson(int id, const QWidget& control, const QRect& place) {
   const auto* button = qobject_cast<const QAbstractButton*>(&control);
   if (button && button->isCheckable()) object.insert(u"checked", button->isChecked());
   if (const auto* list = qobject_cast<const QComboBox*>(&control)) AddDropDown(object, *list);
-  if (const auto* list = qobject_cast<const QListWidget*>(&control)) AddCheckList(object, *list);
+  if (const auto* list = qobject_cast<const CCheckList*>(&control)) AddCheckList(object, *list);
   if (const auto* edit = qobject_cast<const QDateTimeEdit*>(&control))
     AddDateAndTime(object, *edit);
   if (const auto* slider = qobject_cast<const QAbstractSlider*>(&control))

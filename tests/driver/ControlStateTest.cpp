@@ -1,0 +1,43 @@
+#include "driver/ControlState.h"
+
+#include <QJsonDocument>
+#include <QLineEdit>
+
+#include "platform/ui/CheckList.h"
+#include "platform_ui/SampleWindows.h"
+#include "platform_ui/ScreenFixture.h"
+
+namespace quill::driver {
+namespace {
+
+class ControlStateTest : public test::ScreenFixture {
+ protected:
+  QJsonValue Value(QWidget& control, QStringView key) {
+    return ControlJson(1000, control, control.geometry()).value(key);
+  }
+  static std::string Text(const QJsonValue& array) {
+    return QJsonDocument(array.toArray()).toJson(QJsonDocument::Compact).toStdString();
+  }
+
+  test::SampleFrame m_frame{*m_screen};
+};
+
+TEST_F(ControlStateTest, ACheckListGivesItsItemsAndTheCurrentOne) {
+  CCheckList list(QStringLiteral("Choice"), &m_frame);
+  list.SetItems({{QStringLiteral("Work"), true}, {QStringLiteral("Club")}});
+  EXPECT_EQ(Text(Value(list, u"items")),
+            R"([{"checked":true,"text":"Work"},{"checked":false,"text":"Club"}])");
+  EXPECT_EQ(Value(list, u"index").toInt(), -1);
+  list.SetCurrent(1);
+  EXPECT_EQ(Value(list, u"index").toInt(), 1);
+  EXPECT_EQ(Value(list, u"class").toString(), QStringLiteral("CheckList"));
+}
+
+TEST_F(ControlStateTest, AnEditorHasATextAndNoItems) {
+  QLineEdit edit(QStringLiteral("some"), &m_frame);
+  EXPECT_EQ(Value(edit, u"text").toString(), QStringLiteral("some"));
+  EXPECT_TRUE(Value(edit, u"items").isUndefined());
+}
+
+}  // namespace
+}  // namespace quill::driver
