@@ -169,6 +169,21 @@ TEST_F(ModalWindowTest, WhereNothingHadTheFocusBeforeNothingHasItAfterwards) {
   EXPECT_EQ(m_outer->focusWidget(), nullptr);
 }
 
+TEST_F(ModalWindowTest, ATapOnItsGroundLeavesTheFocusWhereItIs) {
+  Run({[this] {
+    QWidget* const editor = m_dialog.Control(test::kSecondEdit);
+    editor->setFocus();
+    m_input.Tap(m_dialog.geometry().bottomRight() - QPoint(5, 5));
+    EXPECT_TRUE(editor->hasFocus());
+    m_input.Key(Qt::Key_Escape);
+  }});
+}
+
+TEST_F(ModalWindowTest, OneWithoutControlsTakesKeysToo) {
+  SampleDialog bare(*m_screen, {1, u"Bare", {10, 40, 100, 80}, {}});
+  EXPECT_EQ(Run(bare, {Keys(Qt::Key_Return)}), kResultOK);
+}
+
 TEST_F(ModalWindowTest, FocusGoesBackThoughTheDesktopsFocusIsElsewhere) {
   test::SampleFrame frame(*m_screen);
   QLineEdit editor(&frame);

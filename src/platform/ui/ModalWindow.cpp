@@ -56,7 +56,6 @@ void CModalWindow::EndDialog(int result) {
 }
 
 void CModalWindow::FocusFirstControl() {
-  setFocusPolicy(Qt::ClickFocus);
   setFocus(Qt::ActiveWindowFocusReason);
   focusNextPrevChild(true);
 }
