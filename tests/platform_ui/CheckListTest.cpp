@@ -67,6 +67,22 @@ TEST_F(CheckListTest, APenThatLeavesTheRowChecksNothing) {
   EXPECT_EQ(m_list.CurrentRow(), -1);
 }
 
+TEST_F(CheckListTest, RowsThatMoveUnderThePenDoNotChangeWhatItTapped) {
+  m_list.resize(120, 60);
+  Bar().setValue(5);
+  m_input.Press(OnShown(1));
+  m_list.resize(120, 160);
+  m_input.Release(OnShown(1));
+  EXPECT_EQ(Checked(), std::vector<int>{6});
+}
+
+TEST_F(CheckListTest, ItemsThatAreGoneAreNotTapped) {
+  m_input.Press(OnShown(4));
+  Fill(2);
+  m_input.Release(OnShown(4));
+  EXPECT_EQ(Checked(), std::vector<int>{});
+}
+
 TEST_F(CheckListTest, BelowTheLastRowThereIsNothingToTap) {
   Fill(2);
   m_input.Tap(OnShown(3));

@@ -19,6 +19,7 @@ CCheckList::CCheckList(const QString& name, QWidget* parent)
 void CCheckList::SetItems(std::vector<CheckListItem> items) {
   m_model.Items = std::move(items);
   m_model.Current = -1;
+  m_pressed = -1;
   LayOut();
 }
 
@@ -59,14 +60,16 @@ void CCheckList::ScrollTo(int top) {
   SetRows(LayOutCheckList(m_model, width() - (m_bar->isHidden() ? 0 : kCheckListBarWidth)));
 }
 
+// The row is looked for first: with the focus the input panel may go, and the list grow and scroll.
 void CCheckList::PenPress(QPoint at) {
-  setFocus(Qt::MouseFocusReason);
   m_pressed = RowAt(at);
+  m_pressedArea = m_pressed < 0 ? QRect() : Rows()[static_cast<std::size_t>(m_pressed)].Rectangle;
+  setFocus(Qt::MouseFocusReason);
 }
 
 void CCheckList::PenRelease(QPoint at) {
   const int pressed = std::exchange(m_pressed, -1);
-  if (pressed >= 0 && pressed == RowAt(at)) ActivateRow(pressed);
+  if (pressed >= 0 && m_pressedArea.contains(at)) ActivateRow(pressed);
 }
 
 void CCheckList::keyPressEvent(QKeyEvent* event) {

@@ -42,7 +42,8 @@ class CCheckList : public CPaintedWindow {
 
   CheckListModel m_model;
   QScrollBar* m_bar;
-  int m_pressed = -1;  // the row under the pen when it came down
+  int m_pressed = -1;   // the row under the pen when it came down
+  QRect m_pressedArea;  // and where it was then
 };
 
 }  // namespace quill
