@@ -78,6 +78,15 @@ inline constexpr int kMaker = 1003;
 inline constexpr int kLicence = 1004;
 }  // namespace AboutDialogIds
 
+namespace CategoryChooserIds {
+inline constexpr int kDialog = 101;
+inline constexpr int kList = 1000;
+inline constexpr int kEdit = 1001;
+inline constexpr int kAdd = 1002;
+inline constexpr int kRename = 1003;
+inline constexpr int kRemove = 1004;
+}  // namespace CategoryChooserIds
+
 namespace ConfigIds {
 inline constexpr int kDialog = 137;
 inline constexpr int kShowIndex = 1046;

@@ -1,0 +1,52 @@
+// Chooses categories, several at once. The same dialog adds, renames and removes them, since there
+// is no other place for that; those changes are written at once and stay, also after Cancel.
+#pragma once
+
+#include <functional>
+
+#include "platform/ui/Dialog.h"
+#include "store/CategoryChoice.h"
+
+class QLineEdit;
+
+namespace quill {
+
+class CCheckList;
+
+class CCategoryChooser : public CDialog {
+  Q_OBJECT
+ public:
+  // names: those checked at opening, separated by commas. The library may lack some.
+  CCategoryChooser(CScreen& screen, const QString& names);
+
+  CategoryChoice Choice() const;
+  void OnVisibleAreaChanged(QRect area) override;
+
+ protected:
+  void OnInitDialog() override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  CCheckList& List() const;
+  QLineEdit& Editor() const;
+  QString Typed() const;
+  QString CurrentName() const;
+  bool IsListed(const QString& name) const;
+  void KeepFocusUnderThePen();
+  void FollowButton(int id, void (CCategoryChooser::*act)());
+  void Offer(const CategoryItems& items, const QString& current);
+  void ShowCurrent();
+  void EnableButtons();
+  bool CarryOut(const QString& name, const std::function<CategoryEdit()>& edit);
+  void Add();
+  void Rename();
+  void Remove();
+};
+
+// Runs the chooser over owner. names: in, the ones that are checked at opening; out, the chosen
+// ones joined by commas. positions: their places in the library's list, ended by 35. False, and
+// both as they were, on Cancel. The kind is always 1; there is no other.
+bool Cate_ShowCategoryList(CScreen& owner, int kind, QString& names, std::vector<int>& positions);
+
+}  // namespace quill
