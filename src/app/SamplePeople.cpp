@@ -2,13 +2,13 @@
 
 #include <QDate>
 
-#include <algorithm>
 #include <array>
 
 #include "app/SampleAppointments.h"
 #include "app/SampleMemos.h"
 #include "app/SamplePerson.h"
 #include "app/StoreOpening.h"
+#include "exchange/CardCategories.h"
 #include "store/FileAsName.h"
 
 namespace quill {
@@ -79,11 +79,15 @@ ContactItem ItemOf(const SamplePerson& person) {
   return item;
 }
 
-bool SavePeople(ContactsFolder& contacts) {
-  const auto people = SamplePersons();
-  return std::all_of(people.begin(), people.end(), [&](const SamplePerson& person) {
-    return contacts.SaveWhole(0, ItemOf(person)) != 0;
-  });
+// With their categories, so that they can be chosen.
+bool SavePeople(StoreProvider& store) {
+  CardCategories categories(*store.Categories());
+  for (const SamplePerson& person : SamplePersons()) {
+    const ContactItem item = ItemOf(person);
+    if (store.Contacts()->SaveWhole(0, item) == 0) return false;
+    categories.Note(item.Record);
+  }
+  return categories.AddToLibrary();
 }
 
 // The memos before the people are there for good: a home without people is filled again.
@@ -91,7 +95,7 @@ QString FillStore(StoreProvider& store, DeviceFiles& files) {
   ContactsFolder& contacts = *store.Contacts();
   if (contacts.Count(contacts.Items()) > 0) return {};
   const auto transaction = store.Begin();
-  if (!transaction || !SavePeople(contacts) || !SaveSampleAppointments(*store.Calendar()))
+  if (!transaction || !SavePeople(store) || !SaveSampleAppointments(*store.Calendar()))
     return store.LastError();
   if (!PutSampleMemos(files)) return QStringLiteral("the sample memos cannot be written");
   return transaction->Commit() ? QString() : store.LastError();

@@ -45,15 +45,15 @@ std::vector<MenuItem> CategoryMenuItems(const CategoryMenu& menu) {
   return items;
 }
 
-CategoryChoice ChooseCategory(ListState& list, CategoryMenu& menu, int id) {
+CategoryMenuChoice ChooseCategory(ListState& list, CategoryMenu& menu, int id) {
   const int position = id - ID_CATEGORY_FIRST;
   if (list.Mode == ViewMode::ByMemo || position < 0 || position >= menu.Texts.size())
-    return CategoryChoice::Ignored;
+    return CategoryMenuChoice::Ignored;
   const QString text = menu.Texts[position].left(kCategoryTextLimit);
-  if (text == kMoreCategories) return CategoryChoice::AskForMore;
+  if (text == kMoreCategories) return CategoryMenuChoice::AskForMore;
   CheckOnly(menu, static_cast<std::size_t>(position));
   FilterByCategory(list, text, 1);
-  return CategoryChoice::Chosen;
+  return CategoryMenuChoice::Chosen;
 }
 
 bool ChooseSeveralCategories(ListState& list, CategoryMenu& menu, const QStringList& offered,

@@ -26,12 +26,12 @@ void FillCategoryMenu(CategoryMenu& menu, const QStringList& offered, const QStr
 
 std::vector<MenuItem> CategoryMenuItems(const CategoryMenu& menu);
 
-enum class CategoryChoice {
+enum class CategoryMenuChoice {
   Ignored,     // by memo, or an id past the menu's last
   Chosen,      // the list is filtered by it now; its page is not built
   AskForMore,  // "More...": nothing has changed yet
 };
-CategoryChoice ChooseCategory(ListState& list, CategoryMenu& menu, int id);
+CategoryMenuChoice ChooseCategory(ListState& list, CategoryMenu& menu, int id);
 
 // What was chosen behind "More...": names as ChooseSeveral of the library gives them, and their
 // positions in it, ended by kCategoryPositionsEnd. No names: nothing changes, false.

@@ -67,8 +67,7 @@ TapIntention TapMachine::Release(const ListState& list, QPoint at) {
   intention.Action = m_current == m_anchor ? ActionOfTap(list, at.x()) : TapAction::EndRun;
   intention.Row = m_anchor;
   intention.At = at;
-  const bool opens = intention.Action != TapAction::EndRun;
-  if (opens) m_phase = Phase::Opened;
+  if (intention.Action == TapAction::Open) m_phase = Phase::Opened;
   return intention;
 }
 

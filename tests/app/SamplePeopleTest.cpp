@@ -12,6 +12,7 @@
 #include "app/Places.h"
 #include "app/SamplePerson.h"
 #include "app/StoreOpening.h"
+#include "store/CategoryText.h"
 #include "store/pim/PimStore.h"
 
 namespace quill {
@@ -50,6 +51,18 @@ TEST_F(SamplePeople, AreAllThereWithANameToFileUnder) {
   EXPECT_EQ(items.size(), SamplePersons().size());
   EXPECT_GE(items.size(), 60U);
   for (const ContactItem& item : items) EXPECT_FALSE(item.Record[ContactField::FileAs].isEmpty());
+}
+
+TEST_F(SamplePeople, HaveCategoriesThatCanBeChosen) {
+  ASSERT_EQ(FillWithSamplePeople(m_store, m_files), QString());
+  const auto items = ItemsIn(m_store);
+  const StoreOpening opening(m_store);
+  ASSERT_TRUE(opening.Succeeded());
+  const QStringList library = m_store.Categories()->Names();
+  EXPECT_TRUE(library.contains(u"Tennis"_qs));
+  for (const ContactItem& item : items)
+    for (const QString& name : SplitCategories(item.Record[ContactField::Categories]))
+      EXPECT_TRUE(library.contains(name)) << name.toStdString();
 }
 
 TEST_F(SamplePeople, HaveTheirFields) {

@@ -118,7 +118,8 @@ TEST_F(MainFrameTest, TheApplicationsCommandsAreAskedAfterTheViews) {
 
 TEST_F(MainFrameTest, ACommandWhoseWindowIsStillToComeIsRefused) {
   EXPECT_EQ(m_frame->RunCommand(ID_FILE_NEW), CommandResult::Disabled);
-  EXPECT_EQ(m_frame->RunCommand(ID_RECEIVE_INFRARED, CommandCheck::Anyway), CommandResult::Disabled);
+  EXPECT_EQ(m_frame->RunCommand(ID_RECEIVE_INFRARED, CommandCheck::Anyway),
+            CommandResult::Disabled);
 }
 
 TEST_F(MainFrameTest, ClosingTheFrameClosesTheScreen) {

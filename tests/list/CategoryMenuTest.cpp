@@ -19,7 +19,7 @@ class CategoryMenuTest : public testing::Test {
   CategoryMenuTest() { Fill(); }
 
   void Fill(const QString& chosen = u"Show All"_qs) { FillCategoryMenu(m_menu, kOffered, chosen); }
-  CategoryChoice Choose(int position) {
+  CategoryMenuChoice Choose(int position) {
     return ChooseCategory(m_list, m_menu, ID_CATEGORY_FIRST + position);
   }
   bool ChooseSeveral(const QString& names, const std::vector<int>& positions) {
@@ -66,7 +66,7 @@ TEST_F(CategoryMenuTest, AChoiceFiltersByTheCategoryAlone) {
   m_list.CategoryCount = 2;
   m_list.SelectedKeys = {5};
   m_list.CurrentRow = 2;
-  EXPECT_EQ(Choose(3), CategoryChoice::Chosen);
+  EXPECT_EQ(Choose(3), CategoryMenuChoice::Chosen);
   EXPECT_EQ(m_list.CategoryName, u"Work"_qs);
   EXPECT_EQ(m_list.CategoryCount, 1);
   EXPECT_EQ(m_list.Filter, FilterKind::Category);
@@ -80,7 +80,7 @@ TEST_F(CategoryMenuTest, AChoiceFiltersByTheCategoryAlone) {
 
 TEST_F(CategoryMenuTest, AllIsChosenLikeAnyOtherItem) {
   Choose(3);
-  EXPECT_EQ(Choose(0), CategoryChoice::Chosen);
+  EXPECT_EQ(Choose(0), CategoryMenuChoice::Chosen);
   EXPECT_EQ(m_list.Filter, FilterKind::Category);
   EXPECT_FALSE(IsCategoryChosen(m_list));
   EXPECT_EQ(Checked(), QStringList(u"Show All"_qs));
@@ -88,31 +88,31 @@ TEST_F(CategoryMenuTest, AllIsChosenLikeAnyOtherItem) {
 
 TEST_F(CategoryMenuTest, MoreAsksAndChangesNothingYet) {
   Choose(3);
-  EXPECT_EQ(Choose(5), CategoryChoice::AskForMore);
+  EXPECT_EQ(Choose(5), CategoryMenuChoice::AskForMore);
   EXPECT_EQ(m_list.CategoryName, u"Work"_qs);
   EXPECT_EQ(Checked(), QStringList(u"Work"_qs));
 }
 
 TEST_F(CategoryMenuTest, ACategoryThatIsCalledMoreActsAsMore) {
   FillCategoryMenu(m_menu, {u"More..."_qs, u"Work"_qs}, u"Show All"_qs);
-  EXPECT_EQ(Choose(1), CategoryChoice::AskForMore);
+  EXPECT_EQ(Choose(1), CategoryMenuChoice::AskForMore);
 }
 
 TEST_F(CategoryMenuTest, IdsPastTheLastAreIgnored) {
-  EXPECT_EQ(Choose(6), CategoryChoice::Ignored);
-  EXPECT_EQ(Choose(1000), CategoryChoice::Ignored);
-  EXPECT_EQ(Choose(-1), CategoryChoice::Ignored);
+  EXPECT_EQ(Choose(6), CategoryMenuChoice::Ignored);
+  EXPECT_EQ(Choose(1000), CategoryMenuChoice::Ignored);
+  EXPECT_EQ(Choose(-1), CategoryMenuChoice::Ignored);
   EXPECT_EQ(m_list.Filter, FilterKind::None);
 }
 
 TEST_F(CategoryMenuTest, BeforeTheMenuWasFilledEveryIdIsIgnored) {
   CategoryMenu empty;
-  EXPECT_EQ(ChooseCategory(m_list, empty, ID_CATEGORY_FIRST), CategoryChoice::Ignored);
+  EXPECT_EQ(ChooseCategory(m_list, empty, ID_CATEGORY_FIRST), CategoryMenuChoice::Ignored);
 }
 
 TEST_F(CategoryMenuTest, ByMemoEveryIdIsIgnored) {
   m_list.Mode = ViewMode::ByMemo;
-  EXPECT_EQ(Choose(3), CategoryChoice::Ignored);
+  EXPECT_EQ(Choose(3), CategoryMenuChoice::Ignored);
   EXPECT_EQ(m_list.CategoryName, u"Show All"_qs);
 }
 

@@ -5,6 +5,7 @@
 #include "platform/ui/Screen.h"
 #include "resources/Ids.h"
 #include "store/Categories.h"
+#include "store/ui/CategoryChooser.h"
 
 namespace quill {
 
@@ -12,15 +13,21 @@ namespace {
 
 constexpr QPoint kMenuAt{158, 34};  // in the view
 
-void ChooseSeveral(CContactsView&) {}
+void ChooseSeveral(CContactsView& view) {
+  QString names;
+  std::vector<int> positions;
+  if (!Cate_ShowCategoryList(*ScreenAround(&view), 1, names, positions)) return;
+  if (ChooseSeveralCategories(g_list, g_categoryMenu, OfferedCategories(), names, positions))
+    view.ShowFiltered();
+}
 
 void Choose(CContactsView& view, int id) {
   switch (ChooseCategory(g_list, g_categoryMenu, id)) {
-    case CategoryChoice::Ignored:
+    case CategoryMenuChoice::Ignored:
       return;
-    case CategoryChoice::Chosen:
+    case CategoryMenuChoice::Chosen:
       return view.ShowFiltered();
-    case CategoryChoice::AskForMore:
+    case CategoryMenuChoice::AskForMore:
       return ChooseSeveral(view);
   }
 }

@@ -193,6 +193,7 @@ void CContactsView::Search() {
 void CContactsView::ShowMode(ViewMode mode) {
   SwitchViewMode(g_list, mode);
   ShowFiltered();
+  if (CScreen* const screen = ScreenAround(this)) screen->UpdateChrome();  // New depends on it
 }
 
 void CContactsView::ChooseIndex(int button) {

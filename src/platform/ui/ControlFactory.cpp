@@ -9,6 +9,7 @@
 #include "platform/ui/DropDown.h"
 #include "platform/ui/Edit.h"
 #include "platform/ui/PanelEdit.h"
+#include "platform/ui/TextLabel.h"
 
 namespace quill {
 
@@ -21,13 +22,6 @@ QLabel* MakeLabel(const QString& text, Qt::Alignment alignment, QWidget* parent)
   return label;
 }
 
-QLabel* MakeWrappedLabel(const QString& text, QWidget* parent) {
-  QLabel* const label = MakeLabel(text, Qt::AlignLeft, parent);
-  label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  label->setWordWrap(true);
-  return label;
-}
-
 QWidget* MakeWidget(const resources::DialogControl& control, CDialog& dialog) {
   const QString text = control.Text.toString();
   switch (control.Kind) {
@@ -36,7 +30,7 @@ QWidget* MakeWidget(const resources::DialogControl& control, CDialog& dialog) {
     case resources::ControlKind::CentredLabel:
       return MakeLabel(text, Qt::AlignHCenter, &dialog);
     case resources::ControlKind::WrappedLabel:
-      return MakeWrappedLabel(text, &dialog);
+      return new CTextLabel(text, &dialog);
     case resources::ControlKind::Edit:
       return new CEdit(text, &dialog);
     case resources::ControlKind::PanelEdit:

@@ -1,15 +1,14 @@
 #include "platform/ui/MessageBox.h"
 
-#include <QFontMetrics>
 #include <QPushButton>
 
 #include <algorithm>
 #include <array>
 
 #include "platform/ChromeLayout.h"
-#include "platform/ui/Look.h"
 #include "platform/ui/PictureLabel.h"
 #include "platform/ui/Screen.h"
+#include "platform/ui/TextLabel.h"
 
 namespace quill {
 
@@ -64,15 +63,14 @@ int TextLeft(PromptIcon icon) {
   return icon == PromptIcon::None ? kMargin : kMargin + kIconSize + kMargin;
 }
 
-int TextHeight(const PromptMessage& message) {
-  const QRect room(0, 0, kWidth - TextLeft(message.Icon) - kMargin, kLargestText);
-  const QRect used = QFontMetrics(NormalFont()).boundingRect(room, Qt::TextWordWrap, message.Text);
-  return std::clamp(used.height() + 4, kSmallestText, kLargestText);
+int TextHeightOf(const PromptMessage& message) {
+  const int height = TextHeight(message.Text, kWidth - TextLeft(message.Icon) - kMargin);
+  return std::clamp(height, kSmallestText, kLargestText);
 }
 
 DialogResource Frame(const PromptMessage& message) {
   const int height =
-      kSmallCaptionHeight + kMargin + TextHeight(message) + kMargin + kButtonHeight + kMargin;
+      kSmallCaptionHeight + kMargin + TextHeightOf(message) + kMargin + kButtonHeight + kMargin;
   return {0,
           message.Caption,
           {(kScreenWidth - kWidth) / 2, (kScreenHeight - height) / 2, kWidth, height},
@@ -83,7 +81,7 @@ DialogResource Frame(const PromptMessage& message) {
 
 CMessageBox::CMessageBox(CScreen& screen, const PromptMessage& message)
     : CDialog(screen, Frame(message)), m_buttons(message.Buttons) {
-  const int textHeight = TextHeight(message);
+  const int textHeight = TextHeightOf(message);
   AddText(message, textHeight);
   AddButtons(kMargin + textHeight + kMargin);
 }
