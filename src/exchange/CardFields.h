@@ -97,6 +97,8 @@ inline constexpr std::array kEmailFields{ContactField::Email1Address, ContactFie
                                          ContactField::Email3Address};
 
 inline constexpr QStringView kFieldParameter = u"X-QUILL-FIELD";  // names a TEL's or EMAIL's field
+// On a carried FN alone, and in no file: the NameMark of the name that it was the spoken form of.
+inline constexpr QStringView kSpokenForParameter = u"X-QUILL-SPOKEN-FOR";
 inline constexpr QStringView kInkProperty = u"X-QUILL-INK";
 inline constexpr QStringView kRelativeProperty = u"X-ABRELATEDNAMES";
 inline constexpr QStringView kRelativeProperty40 = u"RELATED";

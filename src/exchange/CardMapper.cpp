@@ -1,5 +1,6 @@
 #include "exchange/CardMapper.h"
 
+#include <QCryptographicHash>
 #include <QStringList>
 
 #include <algorithm>
@@ -116,14 +117,24 @@ QString FileAsFor(const ContactRecord& record, const QString& formatted) {
   return {};
 }
 
-// After all other fields: what FN means depends on them.
-void PlaceFiling(CardPool& pool, ContactRecord& record) {
+// A spoken name of its own has no field. It goes out again as long as the name is the same.
+QString CarriedSpokenName(const CardProperty& property, const ContactRecord& record) {
+  QString line = CarriedLine(property);
+  const auto isNameEnd = [](QChar c) { return c == u';' || c == u':'; };
+  const auto nameEnd = std::find_if(line.cbegin(), line.cend(), isNameEnd);
+  const QString mark = u";%1=%2"_qs.arg(kSpokenForParameter).arg(NameMark(record));
+  return line.insert(nameEnd - line.cbegin(), mark) + u'\n';
+}
+
+// After all other fields: what FN means depends on them. Returns what of it has to be carried.
+QString PlaceFiling(CardPool& pool, ContactRecord& record) {
   const CardProperty* property = pool.First(u"FN");
   const QString formatted = property ? TextOf(*property) : QString();
   if (!formatted.trimmed().isEmpty()) PlaceFormattedName(formatted, record);
   record[Field::FileAs] = FileAsFor(record, formatted);
-  // A spoken name of its own has no field.
-  if (property && formatted == FormattedName(record)) pool.Take(*property);
+  if (!property) return {};
+  pool.Take(*property);
+  return formatted == FormattedName(record) ? QString() : CarriedSpokenName(*property, record);
 }
 
 void PlaceBeyondRecord(CardPool& pool, ContactItem& item) {
@@ -150,7 +161,7 @@ void PlaceProperties(CardPool& pool, ContactItem& item) {
   PlaceCategories(pool, item.Record);
   PlaceRelatives(pool, item.Record);
   PlaceDays(pool, item.Record);
-  PlaceFiling(pool, item.Record);
+  const QString spokenName = PlaceFiling(pool, item.Record);
   PlaceBeyondRecord(pool, item);
 }
 
@@ -159,7 +170,8 @@ std::optional<ContactItem> ContactFromCard(const Card& card) {
   ContactItem item;
   PlaceProperties(pool, item);
   if (item.Record == ContactRecord{} && item.BodyInk.isEmpty()) return std::nullopt;
-  item.CarriedLines = pool.Rest();
+  for (const CardProperty* version : pool.All(u"VERSION")) pool.Take(*version);
+  item.CarriedLines = spokenName + pool.Rest();
   return item;
 }
 
@@ -181,6 +193,12 @@ QString FormattedName(const ContactRecord& record) {
   if (!name.isEmpty()) return name;
   const QString& company = record[Field::CompanyName];
   return company.isEmpty() ? record[Field::FileAs] : company;
+}
+
+QString NameMark(const ContactRecord& record) {
+  const QByteArray name = FormattedName(record).toUtf8();
+  return QString::fromLatin1(
+      QCryptographicHash::hash(name, QCryptographicHash::Md5).toHex().first(8));
 }
 
 }  // namespace quill

@@ -27,4 +27,7 @@ bool SaysFormattedName(const Card& card);
 // FileAs. This is what a card made from the record calls its person.
 QString FormattedName(const ContactRecord& record);
 
+// Tells one formatted name from another, in a few letters.
+QString NameMark(const ContactRecord& record);
+
 }  // namespace quill

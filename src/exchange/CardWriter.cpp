@@ -34,7 +34,13 @@ class CardComposer {
       : m_item(item),
         m_record(item.Record),
         m_version(version),
-        m_carried(CarriedProperties(item.CarriedLines)) {}
+        m_carried(CarriedProperties(item.CarriedLines)) {
+    const QString name = NameMark(m_record);
+    std::erase_if(m_carried, [&name](const CardProperty& property) {
+      const QString mark = ParameterOf(property, kSpokenForParameter);
+      return !mark.isEmpty() && mark != name;
+    });
+  }
 
   QByteArray Compose() {
     AddBeginning();

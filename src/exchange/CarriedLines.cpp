@@ -6,6 +6,8 @@
 #include <array>
 #include <optional>
 
+#include "exchange/CardFields.h"
+
 namespace quill {
 
 namespace {
@@ -81,6 +83,9 @@ bool IsEncoding(const Piece& piece) {
                                   word == u"B" || word == u"8BIT" || word == u"7BIT");
 }
 
+// What is written anew, or was for us alone.
+bool IsOurs(const Piece& piece) { return IsEncoding(piece) || piece.Name == kSpokenForParameter; }
+
 // The parameter in the syntax of the version, as one piece or, in 2.1, one for each type.
 QStringList ConvertedPiece(const QString& text, CardVersion version) {
   const Piece piece = PieceOf(text);
@@ -110,7 +115,7 @@ CardHeader HeaderOf(const CardProperty& property, CardVersion version) {
   QStringList pieces = PiecesOf(QString::fromUtf8(property.Line.first(property.ValueStart - 1)));
   CardHeader header{pieces.takeFirst()};
   for (const QString& piece : std::as_const(pieces)) {
-    if (piece.trimmed().isEmpty() || IsEncoding(PieceOf(piece))) continue;
+    if (piece.trimmed().isEmpty() || IsOurs(PieceOf(piece))) continue;
     header.Parameters += ConvertedPiece(piece, version);
   }
   return header;

@@ -203,9 +203,18 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& written) { return written.param.Name; });
 
 TEST(CardWriter, KeepsASpokenNameOfItsOwn) {
-  const ContactItem item = ContactOf("N:Doe;James\nFN:Jimmy\n");
+  ContactItem item = ContactOf("N:Doe;James\nFN:Jimmy\n");
   EXPECT_EQ(LinesOf(item, CardVersion::V30, "3.0").toStdString(),
             "N:Doe;James;;;\nX-EVOLUTION-FILE-AS:Doe\\, James\nFN:Jimmy\n");
+  item.Record[HomeTelephoneNumber] = u"1"_qs;
+  EXPECT_TRUE(WriteCard(item, CardVersion::V30).contains("\nFN:Jimmy\r"));
+}
+
+TEST(CardWriter, ForgetsTheSpokenNameOfAnotherName) {
+  ContactItem item = ContactOf("N:Doe;James\nFN;X-A=1:Jimmy\nX-B:kept\n");
+  item.Record[FirstName] = u"Jane"_qs;
+  EXPECT_EQ(LinesOf(item, CardVersion::V30, "3.0").toStdString(),
+            "N:Doe;Jane;;;\nFN:Jane Doe\nX-EVOLUTION-FILE-AS:Doe\\, James\nX-B:kept\n");
 }
 
 TEST(CardWriter, WritesWhatCameInWhenOneFieldIsEdited) {
