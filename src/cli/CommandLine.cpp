@@ -171,6 +171,7 @@ QString VerbHelp(const Verb& verb) {
   QString text = QStringLiteral("%1\n%2\n").arg(usage).arg(verb.Help);
   if (verb.Options.empty()) return text;
   std::vector<HelpRow> rows;
+  rows.reserve(verb.Options.size());
   for (const Option& option : verb.Options) rows.push_back(RowOf(option));
   return text + HelpLines(QStringLiteral("Options:"), rows);
 }
@@ -201,9 +202,11 @@ CommandLine ParseCommandLine(const QStringList& words) {
 QString HelpText(const Verb* verb) {
   if (verb) return VerbHelp(*verb);
   std::vector<HelpRow> verbs;
+  verbs.reserve(Verbs().size());
   for (const Verb& each : Verbs())
     verbs.push_back({each.Name.toString() + u' ' + each.Arguments.toString(), each.Help});
   std::vector<HelpRow> options;
+  options.reserve(kOptions.size());
   for (const ProgramOption& option : kOptions) options.push_back(RowOf(option.Shown));
   return QStringLiteral(
              "quill [FILE...]      open the window, with the contacts of these files brought in\n"
