@@ -117,18 +117,10 @@ QString FileAsFor(const ContactRecord& record, const QString& formatted) {
   return {};
 }
 
-// A spoken name of its own has no field. It goes out again as long as the name is the same.
-QString CarriedSpokenName(const CardProperty& property, const ContactRecord& record) {
-  QString line = CarriedLine(property);
-  const auto isNameEnd = [](QChar c) { return c == u';' || c == u':'; };
-  const auto nameEnd = std::find_if(line.cbegin(), line.cend(), isNameEnd);
-  const QString mark = u";%1=%2"_qs.arg(kSpokenForParameter).arg(NameMark(record));
-  return line.insert(nameEnd - line.cbegin(), mark) + u'\n';
-}
-
-// After all other fields: what FN means depends on them. Returns what of it has to be carried.
-QString PlaceFiling(CardPool& pool, ContactRecord& record) {
-  const CardProperty* property = pool.First(u"FN");
+// After all other fields: what FN means depends on them. Returns it when the record does not say
+// it.
+const CardProperty* PlaceFiling(CardPool& pool, ContactRecord& record) {
+  const CardProperty* property = pool.Leading(u"FN");
   const QString formatted = property ? TextOf(*property) : QString();
   if (!formatted.trimmed().isEmpty()) PlaceFormattedName(formatted, record);
   record[Field::FileAs] = FileAsFor(record, formatted);

@@ -30,14 +30,24 @@ bool HasAddress(const QStringList& texts, const ContactRecord& record) {
   });
 }
 
-void JoinAddresses(CardPool& pool, ContactRecord& record) {
+// Whatever its group is called now.
+bool IsCarried(const CardProperty& property, const QString& lines) {
+  const QString line = CarriedLine(property);
+  const qsizetype name = property.Group.isEmpty() ? 0 : property.Group.size() + 1;
+  return lines.contains(line.sliced(name) + u'\n');
+}
+
+void JoinAddresses(CardPool& pool, ContactItem& contact) {
+  ContactRecord& record = contact.Record;
   for (const CardProperty* address : pool.All(u"ADR")) {
     const QStringList texts = AddressTexts(*address);
     const AddressFields fields = AddressFieldsOf(AddressRowOf(*address));
-    const bool isMore = HasOne(fields, texts, record) && Agree(fields, texts, record);
-    if (!HasAddress(texts, record) && !isMore) continue;
-    if (isMore) FillEmpty(fields, texts, record);
-    pool.Take(*address);
+    const bool isKnown = HasAddress(texts, record);
+    // One that found no place before goes to none now.
+    const bool isMore = HasOne(fields, texts, record) && Agree(fields, texts, record) &&
+                        !IsCarried(*address, contact.CarriedLines);
+    if (!isKnown && isMore) FillEmpty(fields, texts, record);
+    if (isKnown || isMore) pool.Take(*address);
   }
 }
 
@@ -49,9 +59,14 @@ ContactItem MergedContact(const ContactItem& stored, const Card& card) {
   if (SaysFormattedName(card)) pool.Take(*pool.First(u"FN"));
   ContactItem merged = stored;
   TakeKnownTexts(pool, merged.Record);
-  JoinAddresses(pool, merged.Record);
-  PlaceProperties(pool, merged);
-  merged.CarriedLines = JoinCarriedLines(stored.CarriedLines, pool.Rest());
+  JoinAddresses(pool, merged);
+  QString rest;
+  if (const CardProperty* spokenName = PlaceProperties(pool, merged)) {
+    // Of the name that the card gives, which may be another one.
+    const ContactItem own = ContactFromCard(card).value_or(ContactItem());
+    rest = CarriedSpokenName(*spokenName, own.Record);
+  }
+  merged.CarriedLines = JoinCarriedLines(stored.CarriedLines, rest + pool.Rest());
   return merged;
 }
 

@@ -44,6 +44,15 @@ const CardProperty* CardPool::First(QStringView name) const {
   return found.empty() ? nullptr : found.front();
 }
 
+const CardProperty* CardPool::Leading(QStringView name) const {
+  for (std::size_t i = 0; i < m_properties.size(); ++i) {
+    const CardProperty& property = m_properties[i];
+    if (property.IsNested || property.Name != name) continue;
+    return m_taken[i] ? nullptr : &property;
+  }
+  return nullptr;
+}
+
 void CardPool::Take(const CardProperty& property) {
   m_taken[static_cast<std::size_t>(&property - m_properties.data())] = true;
 }

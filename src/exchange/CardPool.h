@@ -22,6 +22,8 @@ class CardPool {
   std::vector<const CardProperty*> Preferred(QStringView name) const;
   // The first of All; null when there is none.
   const CardProperty* First(QStringView name) const;
+  // The card's own first; null also when somebody has taken it.
+  const CardProperty* Leading(QStringView name) const;
 
   void Take(const CardProperty& property);
 

@@ -9,19 +9,26 @@ namespace quill {
 
 namespace {
 
+bool EndsWithLineEnd(const QByteArray& bytes) {
+  return bytes.endsWith('\n') || bytes.endsWith('\r');
+}
+
 bool IsMark(const QByteArray& line, QByteArrayView mark) {
   return line.size() >= mark.size() && line.size() < 64 &&
          line.trimmed().compare(mark, Qt::CaseInsensitive) == 0;
 }
 
-bool IsBegin(const QByteArray& line) { return IsMark(line, "BEGIN:VCARD"); }
-bool IsEnd(const QByteArray& line) { return IsMark(line, "END:VCARD"); }
-
-bool EndsWithLineEnd(const QByteArray& bytes) {
-  return bytes.endsWith('\n') || bytes.endsWith('\r');
+// Says that a card begins or ends only once it is decoded: carried along, it would do so.
+bool IsFalseMark(const CardProperty& property, const QByteArray& line) {
+  return (property.Name == u"BEGIN" || property.Name == u"END") &&
+         property.Value.trimmed().compare(u"VCARD", Qt::CaseInsensitive) == 0 && !IsBegin(line) &&
+         !IsEnd(line);
 }
 
 }  // namespace
+
+bool IsBegin(const QByteArray& line) { return IsMark(line, "BEGIN:VCARD"); }
+bool IsEnd(const QByteArray& line) { return IsMark(line, "END:VCARD"); }
 
 CardReader::CardReader(QIODevice& device, CardCharset charset, RawBytes raw)
     : m_lines(device, raw), m_charset(std::move(charset)) {}
@@ -33,6 +40,7 @@ bool CardReader::Next(Card& card) {
     if (Take(card) == Place::After) break;
   }
   if (card.Fault != CardFault::None) card.Properties.clear();
+  if (card.Fault == CardFault::None) CloseCardsWithin(card);
   return true;
 }
 
@@ -97,7 +105,7 @@ void CardReader::TakeProperty(Card& card) {
   auto property = ParseProperty(m_line.Bytes, m_charset);
   m_afterAgent = m_lines.IsVersion21() && property && property->Name == u"AGENT" &&
                  property->Value.trimmed().isEmpty();
-  if (!property) {
+  if (!property || IsFalseMark(*property, m_line.Bytes)) {
     ++card.LinesNotUnderstood;
   } else if (card.Fault == CardFault::None) {
     Keep(card, std::move(*property));
@@ -117,6 +125,12 @@ void CardReader::KeepRaw(Card& card) const {
   // Where something was cut off, the next line still begins on a line of its own.
   if (!card.Raw.isEmpty() && !EndsWithLineEnd(card.Raw)) card.Raw += '\n';
   card.Raw += raw.first(std::min(room, raw.size()));
+}
+
+void CardReader::CloseCardsWithin(Card& card) {
+  const auto end = ParseProperty("END:VCARD", m_charset);
+  if (!end) return;
+  for (; m_depth > 0; --m_depth) Keep(card, *end);
 }
 
 void CardReader::SetFault(Card& card, CardFault fault) const {

@@ -32,6 +32,10 @@ struct Card {
   QByteArray Raw;        // its lines as they came; empty unless kept, cut at kMaxCard
 };
 
+// Whether the line begins or ends a card.
+bool IsBegin(const QByteArray& line);
+bool IsEnd(const QByteArray& line);
+
 // Streams: holds one card at a time, and never more than the limits below. What is wrong inside a
 // card stays inside it.
 class CardReader {
@@ -58,6 +62,8 @@ class CardReader {
   Place Take(Card& card);
   void TakeProperty(Card& card);
   void Keep(Card& card, CardProperty property);
+  // So that what is carried of them ends before what is carried beside them.
+  void CloseCardsWithin(Card& card);
   void KeepRaw(Card& card) const;
   void SetFault(Card& card, CardFault fault) const;
 

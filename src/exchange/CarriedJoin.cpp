@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "exchange/CardProperty.h"
+#include "exchange/CardReader.h"
 
 namespace quill {
 
@@ -32,11 +33,6 @@ CarriedLine ParseLine(const QString& text) {
           head.left(std::max<qsizetype>(dot, 0))};
 }
 
-bool IsMark(const CarriedLine& line, QStringView name) {
-  return line.Name == name &&
-         QStringView(line.Text).trimmed().endsWith(u":VCARD", Qt::CaseInsensitive);
-}
-
 // Where a line goes that opens no card within a card.
 CarriedUnit& UnitFor(const QString& group, std::vector<CarriedUnit>& units) {
   if (group.isEmpty()) return units.emplace_back();
@@ -53,9 +49,9 @@ std::vector<CarriedUnit> UnitsOf(const QString& lines) {
   int depth = 0;
   for (const QString& text : lines.split(u'\n', Qt::SkipEmptyParts)) {
     CarriedLine line = ParseLine(text);
-    const bool isBegin = IsMark(line, u"BEGIN");
+    const bool isBegin = IsBegin(text.toUtf8());
     if (isBegin && !units.empty()) ++depth;
-    const bool isEnd = depth > 0 && IsMark(line, u"END");
+    const bool isEnd = depth > 0 && IsEnd(text.toUtf8());
     if (depth > 0) {
       // Nothing is taken apart in there.
       units[outer].Lines.push_back({text, line.Name, {}});

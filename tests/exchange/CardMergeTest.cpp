@@ -43,6 +43,8 @@ INSTANTIATE_TEST_SUITE_P(
                   "FileAs=Doe, Jane\nFirstName=Jane\nLastName=Doe\nCarried=FN:Janey\n"},
         MergeCase{"NameWhereThereWasNone", "ORG:Mill\n", "FN:Ann\n",
                   "FileAs=Mill\nFirstName=Ann\nCompanyName=Mill\n"},
+        MergeCase{"SecondSpokenName", "ORG:Mill\n", "ORG:Mill\nFN:Mill\nFN:Desk\n",
+                  "FileAs=Mill\nCompanyName=Mill\nCarried=FN:Desk\n"},
         MergeCase{"Department", "ORG:Mill\n", "ORG:Mill;North\n",
                   "FileAs=Mill\nDepartment=North\nCompanyName=Mill\n"},
         MergeCase{"OtherCompany", "ORG:Mill\n", "ORG:Farm;North\n",
@@ -77,6 +79,11 @@ INSTANTIATE_TEST_SUITE_P(
         MergeCase{"AddressWithoutAField", "FN:A\nADR:;;S;Ulm\n", "FN:A\nADR:;;T;Ulm\n",
                   "FileAs=A\nFirstName=A\nOtherAddressStreet=S\nOtherAddressCity=Ulm\n"
                   "Carried=ADR:;;T;Ulm\n"},
+        MergeCase{"AddressCarriedBefore",
+                  "FN:A\nADR;TYPE=HOME:;;S\nADR:;;T\na.ADR;TYPE=HOME:;;S;Ulm\n",
+                  "FN:A\nb.ADR;TYPE=HOME:;;S;Ulm\n",
+                  "FileAs=A\nFirstName=A\nHomeAddressStreet=S\nOtherAddressStreet=T\n"
+                  "Carried=a.ADR;TYPE=HOME:;;S;Ulm\n"},
         MergeCase{"Categories", "FN:A\nCATEGORIES:Golf,Work\n", "FN:A\nCATEGORIES:Work,Club\n",
                   "FileAs=A\nFirstName=A\nCategories=Golf, Work, Club\n"},
         MergeCase{"Spouse", "FN:A\nX-SPOUSE:Max\n", "FN:A\nX-SPOUSE:Mo\nX-MS-SPOUSE:Max\n",

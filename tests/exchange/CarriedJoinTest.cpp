@@ -48,6 +48,8 @@ INSTANTIATE_TEST_SUITE_P(
         JoinCase{"CardInCard", u"N:Aide\nEND:VCARD\n", kAgent,
                  u"N:Aide\nEND:VCARD\nAGENT:\nBEGIN:VCARD\na.N:Aide\nAGENT:\nBEGIN:VCARD\n"
                  u"N:Deep\nEND:VCARD\nEND:VCARD\n"},
+        JoinCase{"WhatOnlyLooksLikeACard", u"A:1\nBEGIN:x:VCARD\n",
+                 u"B:2\nBEGIN:VCARD\u00A0\nA:1\n", u"A:1\nBEGIN:x:VCARD\nB:2\nBEGIN:VCARD\u00A0\n"},
         JoinCase{"SameCardInCard", kAgent, kAgent, kAgent},
         JoinCase{"AfterACardInCard", kAgent, u"N:Aide\n",
                  u"AGENT:\nBEGIN:VCARD\na.N:Aide\nAGENT:\nBEGIN:VCARD\nN:Deep\nEND:VCARD\n"
