@@ -13,6 +13,10 @@ if(QUILL_SANITIZE)
   target_link_options(quill_flags INTERFACE ${quill_sanitizers})
 endif()
 
+if(QUILL_FUZZ)
+  target_compile_options(quill_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 # quill_precompile(TARGET core|ui): the Qt headers that nearly every file of such a target includes.
 function(quill_precompile target kind)
   if(NOT QUILL_PRECOMPILED_HEADERS)

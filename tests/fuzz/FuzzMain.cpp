@@ -1,0 +1,106 @@
+// quill-card-fuzz ROUNDS FOLDER...: gives the fuzz target every file of the folders and as many
+// seeded changes of each as there are rounds. The same rounds are the same bytes on every machine.
+// What fails is in the file failing-input then.
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+
+#include <cstdint>
+#include <cstdio>
+#include <random>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+namespace {
+
+using Random = std::mt19937;
+
+// What means something in a card.
+constexpr const char* kWords[] = {"\r\n",
+                                  "\n ",
+                                  ";",
+                                  ":",
+                                  "\\",
+                                  "=",
+                                  "\"",
+                                  ",",
+                                  "=\r\n",
+                                  "BEGIN:VCARD\n",
+                                  "END:VCARD\n",
+                                  "AGENT:\n",
+                                  "VERSION:2.1\n",
+                                  ";ENCODING=QUOTED-PRINTABLE",
+                                  ";BASE64",
+                                  ";CHARSET=EUC-KR",
+                                  "item1.",
+                                  "TEL;CELL:1\n",
+                                  "N:a;b\n",
+                                  "\xFF\xFE",
+                                  "\xB0",
+                                  "\r"};
+
+qsizetype Below(Random& random, qsizetype limit) {
+  return static_cast<qsizetype>(random() % static_cast<Random::result_type>(limit));
+}
+
+QByteArray Word(Random& random) { return kWords[Below(random, std::size(kWords))]; }
+
+void Change(QByteArray& bytes, Random& random) {
+  const qsizetype at = Below(random, bytes.size() + 1);
+  const qsizetype length = Below(random, 20);
+  switch (Below(random, 5)) {
+    case 0:
+      bytes.insert(at, Word(random));
+      break;
+    case 1:
+      bytes.remove(at, length);
+      break;
+    case 2:
+      bytes.replace(at, length, Word(random));
+      break;
+    case 3:
+      bytes.insert(at, bytes.mid(Below(random, bytes.size() + 1), 10 * length));
+      break;
+    default:
+      bytes.insert(at, static_cast<char>(Below(random, 256)));
+  }
+}
+
+void Try(const QByteArray& bytes) {
+  QFile file(QStringLiteral("failing-input"));
+  // Written before, since a failure ends the program.
+  if (file.open(QIODevice::WriteOnly)) file.write(bytes);
+  file.close();
+  LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.constData()),
+                         static_cast<std::size_t>(bytes.size()));
+}
+
+void TryChangesOf(const QByteArray& bytes, int rounds, Random& random) {
+  Try(bytes);
+  for (int i = 0; i < rounds; ++i) {
+    QByteArray changed = bytes;
+    for (qsizetype count = 1 + Below(random, 6); count > 0; --count) Change(changed, random);
+    Try(changed);
+  }
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  const QCoreApplication application(argc, argv);
+  const QStringList words = QCoreApplication::arguments();
+  const int rounds = words.value(1).toInt();
+  Random random(1);
+  int files = 0;
+  for (const QString& folder : words.mid(2)) {
+    for (const QString& name : QDir(folder).entryList({QStringLiteral("*.vcf")}, QDir::Files)) {
+      QFile file(QDir(folder).filePath(name));
+      if (!file.open(QIODevice::ReadOnly)) return 1;
+      TryChangesOf(file.readAll(), rounds, random);
+      ++files;
+    }
+  }
+  std::printf("%d files, %d changes of each\n", files, rounds);
+  QFile::remove(QStringLiteral("failing-input"));
+  return files > 0 ? 0 : 1;
+}
