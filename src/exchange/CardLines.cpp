@@ -1,6 +1,7 @@
 #include "exchange/CardLines.h"
 
 #include <algorithm>
+#include <array>
 
 #include "exchange/QuotedPrintable.h"
 
@@ -29,17 +30,36 @@ void AppendWithin(qsizetype limit, QByteArrayView more, QByteArray& bytes) {
   bytes += more.first(std::clamp<qsizetype>(limit - bytes.size(), 0, more.size()));
 }
 
+bool HasQuotedByte(QByteArrayView text) {
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    if (IsQuotedByte(text, i)) return true;
+  }
+  return false;
+}
+
+// A parameter that properties have, and not quoted-printable text: "TYPE=CELL" looks like both.
+bool IsParameter(QByteArrayView piece) {
+  constexpr std::array<QByteArrayView, 5> kNames{
+      "TYPE=", "CHARSET=", "ENCODING=", "VALUE=", "LANGUAGE="};
+  return std::any_of(kNames.begin(), kNames.end(), [piece](QByteArrayView name) {
+    return piece.size() > name.size() &&
+           piece.first(name.size()).compare(name, Qt::CaseInsensitive) == 0;
+  });
+}
+
 // Whether a line can be the start of a property rather than quoted-printable text going on: writers
 // exist that end such a text with a bare "=".
 bool LooksLikeProperty(QByteArrayView line) {
   const qsizetype colon = line.indexOf(':');
   if (colon <= 0 || line.sliced(colon).startsWith("://")) return false;
-  const QByteArrayView header = line.first(colon);
-  for (qsizetype i = 0; i < header.size(); ++i) {
-    if (IsBlank(header[i]) || IsQuotedByte(header, i)) return false;
-  }
-  const qsizetype semicolon = header.indexOf(';');
-  const QByteArrayView name = semicolon < 0 ? header : header.first(semicolon);
+  const QByteArray header = line.first(colon).toByteArray();
+  if (std::any_of(header.begin(), header.end(), IsBlank)) return false;
+  const QByteArrayList pieces = header.split(';');
+  const bool hasText = std::any_of(pieces.begin(), pieces.end(), [](const QByteArray& piece) {
+    return HasQuotedByte(piece) && !IsParameter(piece);
+  });
+  if (hasText) return false;
+  const QByteArray& name = pieces.first();
   return std::all_of(name.begin(), name.end(), [](char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' ||
            c == '_' || c == '.';

@@ -58,11 +58,15 @@ TEST_P(CardSoftBreaks, StopBeforeWhatLooksLikeAProperty) {
 INSTANTIATE_TEST_SUITE_P(
     NextLines, CardSoftBreaks,
     testing::Values(SoftBreakCase{"END:VCARD", true}, SoftBreakCase{"TEL:1", true},
-                    SoftBreakCase{"TEL;WORK:1", true}, SoftBreakCase{"item1.X-A_B:1", true},
-                    SoftBreakCase{"N;CHARSET=UTF-8:1", true}, SoftBreakCase{"at ten: lunch", false},
-                    SoftBreakCase{"=41:1", false}, SoftBreakCase{"x=3Ay:1", false},
-                    SoftBreakCase{"http://a", false}, SoftBreakCase{"no colon", false},
-                    SoftBreakCase{":1", false}, SoftBreakCase{"a/b:1", false}));
+                    SoftBreakCase{"TEL;WORK:1", true}, SoftBreakCase{"TEL;TYPE=CELL:1", true},
+                    SoftBreakCase{"TEL;type=fax;PREF:1", true},
+                    SoftBreakCase{"KEY;ENCODING=BASE64:1", true},
+                    SoftBreakCase{"Hans;K=C3=B6ln:1", false}, SoftBreakCase{"a;=41:1", false},
+                    SoftBreakCase{"item1.X-A_B:1", true}, SoftBreakCase{"N;CHARSET=UTF-8:1", true},
+                    SoftBreakCase{"at ten: lunch", false}, SoftBreakCase{"=41:1", false},
+                    SoftBreakCase{"x=3Ay:1", false}, SoftBreakCase{"http://a", false},
+                    SoftBreakCase{"no colon", false}, SoftBreakCase{":1", false},
+                    SoftBreakCase{"a/b:1", false}));
 
 TEST(CardLines, GoOnUnindentedInBase64UntilABlankLineOrAProperty) {
   EXPECT_EQ(LinesOf("A;BASE64:\nQUJD\n REVG\n\nR0hJ\n"),
