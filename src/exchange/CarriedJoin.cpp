@@ -1,6 +1,8 @@
 #include "exchange/CarriedJoin.h"
 
+#include <QHash>
 #include <QSet>
+#include <QStringList>
 
 #include <algorithm>
 #include <vector>
@@ -85,36 +87,46 @@ QString MeaningOf(const CarriedLine& line) {
   return property->Name + u';' + parameters.join(u';') + u':' + TextOf(*property);
 }
 
-QString MeaningOf(const CarriedUnit& unit) {
-  QStringList lines;
-  for (const CarriedLine& line : unit.Lines) lines.append(MeaningOf(line));
-  lines.sort();
-  return lines.join(u'\n');
+// What each line of the unit says; a card within the card is one with its lines.
+QStringList MeaningsOf(const CarriedUnit& unit) {
+  QStringList meanings;
+  for (const CarriedLine& line : unit.Lines) meanings.append(MeaningOf(line));
+  const bool hasCard = std::any_of(unit.Lines.begin(), unit.Lines.end(),
+                                   [](const CarriedLine& line) { return line.Name == u"BEGIN"; });
+  return hasCard ? QStringList(meanings.join(u'\n')) : meanings;
 }
 
 class CarriedJoin {
  public:
   explicit CarriedJoin(const QString& stored) : m_lines(stored) {
-    for (const CarriedUnit& unit : UnitsOf(stored)) Note(unit, MeaningOf(unit));
+    for (const CarriedUnit& unit : UnitsOf(stored)) Note(unit, MeaningsOf(unit));
   }
 
   void Add(const CarriedUnit& unit) {
-    const QString meaning = MeaningOf(unit);
-    if (m_meanings.contains(meaning) || IsKnownOfCard(unit)) return;
+    const QStringList meanings = MeaningsOf(unit);
+    if (IsKnown(meanings) || IsKnownOfCard(unit)) return;
     const QString group = FreeGroup(unit.Group);
     for (const CarriedLine& line : unit.Lines) {
       Append(line.Group.isEmpty() ? QString() : group, line.Text);
     }
-    Note({group, unit.Lines}, meaning);
+    Note({group, unit.Lines}, meanings);
   }
 
   const QString& Lines() const { return m_lines; }
 
  private:
-  void Note(const CarriedUnit& unit, const QString& meaning) {
-    m_meanings.insert(meaning);
+  void Note(const CarriedUnit& unit, const QStringList& meanings) {
+    for (const QString& meaning : meanings) m_unitsWith[meaning].insert(m_units);
+    ++m_units;
     m_names.insert(unit.Lines.front().Name);
     m_groups.insert(unit.Group.toUpper());
+  }
+
+  // Whether one unit says all of it. Part of a group may have found a place in the contact.
+  bool IsKnown(const QStringList& meanings) const {
+    QSet<int> units = m_unitsWith.value(meanings.first());
+    for (const QString& meaning : meanings) units.intersect(m_unitsWith.value(meaning));
+    return !units.isEmpty();
   }
 
   bool IsKnownOfCard(const CarriedUnit& unit) const {
@@ -136,7 +148,8 @@ class CarriedJoin {
   }
 
   QString m_lines;
-  QSet<QString> m_meanings;
+  QHash<QString, QSet<int>> m_unitsWith;  // by what a line says
+  int m_units = 0;
   QSet<QString> m_names;
   QSet<QString> m_groups;
 };

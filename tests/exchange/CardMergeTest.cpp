@@ -63,6 +63,11 @@ INSTANTIATE_TEST_SUITE_P(
         MergeCase{"EmailWithoutAField", "EMAIL:1\nEMAIL:2\nEMAIL:3\n", "EMAIL:4\n",
                   "FileAs=1\nEmail1Address=1\nEmail2Address=2\nEmail3Address=3\n"
                   "Carried=EMAIL:4\n"},
+        MergeCase{"NumberTwiceWithALabel",
+                  "FN:A\nTEL;TYPE=CAR:1\na.TEL;TYPE=CAR:1\na.X-ABLABEL:Van\n",
+                  "FN:A\nTEL;TYPE=CAR:1\na.TEL;TYPE=CAR:1\na.X-ABLABEL:Van\n",
+                  "FileAs=A\nFirstName=A\nCarTelephoneNumber=1\nCarried=a.TEL;TYPE=CAR:1\n"
+                  "Carried=a.X-ABLABEL:Van\n"},
         MergeCase{"NewAddress", "FN:A\nADR;TYPE=HOME:;;S;Ulm\n", "FN:A\nADR;TYPE=WORK:;;T;Bonn\n",
                   "FileAs=A\nFirstName=A\nBusinessAddressStreet=T\nBusinessAddressCity=Bonn\n"
                   "HomeAddressStreet=S\nHomeAddressCity=Ulm\n"},

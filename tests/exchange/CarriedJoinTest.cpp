@@ -44,6 +44,10 @@ INSTANTIATE_TEST_SUITE_P(
                  u"B:2\nITEM1.A:1\nitem1.X-ABLABEL:Barn\n",
                  u"item1.A:1\nitem1.X-ABLABEL:Office\nB:2\nitem2.A:1\nitem2.X-ABLABEL:Barn\n"},
         JoinCase{"GroupWithAFreeName", u"item1.A:1\n", u"x.A:2\n", u"item1.A:1\nx.A:2\n"},
+        JoinCase{"PartOfAGroup", u"a.TEL:1\na.X-ABLABEL:Barn\n", u"b.X-ABLABEL:Barn\n",
+                 u"a.TEL:1\na.X-ABLABEL:Barn\n"},
+        JoinCase{"PartsOfTwoGroups", u"a.A:1\na.B:1\nb.A:2\nb.B:2\n", u"c.A:1\nc.B:2\n",
+                 u"a.A:1\na.B:1\nb.A:2\nb.B:2\nc.A:1\nc.B:2\n"},
         JoinCase{"GroupsApart", u"", u"x.A:1\nB:2\nx.C:3\n", u"x.A:1\nx.C:3\nB:2\n"},
         JoinCase{"CardInCard", u"N:Aide\nEND:VCARD\n", kAgent,
                  u"N:Aide\nEND:VCARD\nAGENT:\nBEGIN:VCARD\na.N:Aide\nAGENT:\nBEGIN:VCARD\n"
