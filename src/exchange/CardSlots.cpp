@@ -106,9 +106,10 @@ bool PutInFirstFree(const Fields& fields, const QString& text, ContactRecord& re
                      [&](Field field) { return Put(record, field, text); });
 }
 
-void TakeEmpty(CardPool& pool, QStringView name) {
+template <typename Text>
+void TakeEmpty(CardPool& pool, QStringView name, Text text) {
   for (const CardProperty* property : pool.All(name)) {
-    if (TextOf(*property).trimmed().isEmpty()) pool.Take(*property);
+    if (text(*property).trimmed().isEmpty()) pool.Take(*property);
   }
 }
 
@@ -153,7 +154,7 @@ QStringList AddressTexts(const CardProperty& address) {
 }
 
 void PlaceNumbers(CardPool& pool, ContactRecord& record) {
-  TakeEmpty(pool, u"TEL");
+  TakeEmpty(pool, u"TEL", NumberOf);
   for (const CardProperty* tel : pool.All(u"TEL")) {
     if (PutWhereNamed(*tel, kNumberFields, NumberOf(*tel), record)) pool.Take(*tel);
   }
@@ -168,7 +169,7 @@ void PlaceNumbers(CardPool& pool, ContactRecord& record) {
 }
 
 void PlaceEmails(CardPool& pool, ContactRecord& record) {
-  TakeEmpty(pool, u"EMAIL");
+  TakeEmpty(pool, u"EMAIL", TextOf);
   for (const CardProperty* email : pool.All(u"EMAIL")) {
     if (PutWhereNamed(*email, kEmailFields, TextOf(*email), record)) pool.Take(*email);
   }

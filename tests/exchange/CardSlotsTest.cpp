@@ -65,6 +65,13 @@ TEST(CardSlots, APreferredFaxOfHomeLeavesNoFieldForASecondPlainOne) {
   EXPECT_EQ(item.CarriedLines, u"TEL;TYPE=FAX:2\n");
 }
 
+TEST(CardSlots, ANumberThatIsNoneIsNotCarried) {
+  const ContactItem item =
+      ContactOf("FN:x\nTEL;TYPE=CAR:1\nTEL;TYPE=CAR:\nTEL;TYPE=CAR;VALUE=uri:tel:\nEMAIL: \n");
+  EXPECT_EQ(item.Record[CarTelephoneNumber], u"1");
+  EXPECT_EQ(item.CarriedLines, QString());
+}
+
 TEST(CardSlots, AnAddressWithoutAPlaceGoesToOther) {
   const ContactItem item = ContactOf("ADR;TYPE=PARCEL:;;A\nADR;TYPE=WORK:;;B\nADR;TYPE=WORK:;;C\n");
   EXPECT_EQ(item.Record[BusinessAddressStreet], u"B");
