@@ -17,15 +17,15 @@ constexpr int kAny = std::numeric_limits<int>::max();
 constexpr auto kPrinting = std::to_array<Option>({
     {kJsonOption, u"", u"print JSON"},
 });
-constexpr auto kImporting = std::to_array<Option>({
-    {kDuplicateOption, u"merge|add|skip", u"a card whose person is there: merge unless told"},
-    {kCharsetOption, u"NAME", u"of text that does not say its character set"},
-    {kRejectsOption, u"FILE", u"keep the cards that cannot be read in this file"},
-});
 constexpr auto kExporting = std::to_array<Option>({
     {kVersionOption, u"2.1|3.0|4.0", u"the version of the cards, 3.0 when not given"},
     {kCategoryOption, u"NAME", u"only the contacts of this category"},
     {kContactOption, u"NAME", u"only the contacts of this name, or whose name begins so"},
+});
+constexpr auto kImporting = std::to_array<Option>({
+    {kDuplicateOption, u"merge|add|skip", u"a card whose person is there: merge unless told"},
+    {kCharsetOption, u"NAME", u"of text that does not say its character set"},
+    {kRejectsOption, u"FILE", u"keep the cards that cannot be read in this file"},
 });
 constexpr auto kVerbs = std::to_array<Verb>({
     {u"check", u"", u"look the store over and mend its index", 0, 0, kPrinting, RunCheck},

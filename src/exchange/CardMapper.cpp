@@ -124,9 +124,9 @@ const CardProperty* PlaceFiling(CardPool& pool, ContactRecord& record) {
   const QString formatted = property ? TextOf(*property) : QString();
   if (!formatted.trimmed().isEmpty()) PlaceFormattedName(formatted, record);
   record[Field::FileAs] = FileAsFor(record, formatted);
-  if (!property) return {};
+  if (!property) return nullptr;
   pool.Take(*property);
-  return formatted == FormattedName(record) ? QString() : CarriedSpokenName(*property, record);
+  return formatted == FormattedName(record) ? nullptr : property;
 }
 
 void PlaceBeyondRecord(CardPool& pool, ContactItem& item) {
@@ -143,7 +143,7 @@ void PlaceBeyondRecord(CardPool& pool, ContactItem& item) {
 
 }  // namespace
 
-void PlaceProperties(CardPool& pool, ContactItem& item) {
+const CardProperty* PlaceProperties(CardPool& pool, ContactItem& item) {
   PlaceTexts(pool, item.Record);
   PlaceNames(pool, item.Record);
   PlaceCompany(pool, item.Record);
@@ -153,17 +153,18 @@ void PlaceProperties(CardPool& pool, ContactItem& item) {
   PlaceCategories(pool, item.Record);
   PlaceRelatives(pool, item.Record);
   PlaceDays(pool, item.Record);
-  const QString spokenName = PlaceFiling(pool, item.Record);
+  const CardProperty* spokenName = PlaceFiling(pool, item.Record);
   PlaceBeyondRecord(pool, item);
+  return spokenName;
 }
 
 std::optional<ContactItem> ContactFromCard(const Card& card) {
   CardPool pool(card);
   ContactItem item;
-  PlaceProperties(pool, item);
+  const CardProperty* spokenName = PlaceProperties(pool, item);
   if (item.Record == ContactRecord{} && item.BodyInk.isEmpty()) return std::nullopt;
-  for (const CardProperty* version : pool.All(u"VERSION")) pool.Take(*version);
-  item.CarriedLines = spokenName + pool.Rest();
+  if (spokenName) item.CarriedLines = CarriedSpokenName(*spokenName, item.Record);
+  item.CarriedLines += pool.Rest();
   return item;
 }
 
@@ -185,6 +186,14 @@ QString FormattedName(const ContactRecord& record) {
   if (!name.isEmpty()) return name;
   const QString& company = record[Field::CompanyName];
   return company.isEmpty() ? record[Field::FileAs] : company;
+}
+
+QString CarriedSpokenName(const CardProperty& property, const ContactRecord& record) {
+  QString line = CarriedLine(property);
+  const auto isNameEnd = [](QChar c) { return c == u';' || c == u':'; };
+  const auto nameEnd = std::find_if(line.cbegin(), line.cend(), isNameEnd);
+  const QString mark = u";%1=%2"_qs.arg(kSpokenForParameter).arg(NameMark(record));
+  return line.insert(nameEnd - line.cbegin(), mark) + u'\n';
 }
 
 QString NameMark(const ContactRecord& record) {

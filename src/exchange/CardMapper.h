@@ -17,8 +17,8 @@ std::optional<ContactItem> ContactFromCard(const Card& card);
 
 // The same into a contact that may hold something: fields that have a text keep it, empty ones are
 // filled, categories and children are joined. What the contact holds then is taken from the pool,
-// the rest stays there.
-void PlaceProperties(CardPool& pool, ContactItem& item);
+// the rest stays there. Returns the card's FN, which is taken, when the contact does not say it.
+const CardProperty* PlaceProperties(CardPool& pool, ContactItem& item);
 
 // Whether the card's FN only repeats its name parts, company or filing name.
 bool SaysFormattedName(const Card& card);
@@ -26,6 +26,10 @@ bool SaysFormattedName(const Card& card);
 // The name as it is spoken: "Title First Middle Last Suffix" of what exists, else the company, else
 // FileAs. This is what a card made from the record calls its person.
 QString FormattedName(const ContactRecord& record);
+
+// The line that carries an FN, which has no field: it goes out again as long as the contact's name
+// is that of the record.
+QString CarriedSpokenName(const CardProperty& property, const ContactRecord& record);
 
 // Tells one formatted name from another, in a few letters.
 QString NameMark(const ContactRecord& record);

@@ -149,7 +149,7 @@ TEST_F(CardImports, MergeACardWhosePersonIsThere) {
   EXPECT_EQ(summary.Same, 0);
   const ContactItem item = Only(u"Old Name"_qs);
   EXPECT_EQ(item.Record[ContactField::HomeTelephoneNumber], u"1");
-  EXPECT_EQ(item.CarriedLines, u"FN:New Name\n");
+  EXPECT_EQ(item.CarriedLines, u"FN;X-QUILL-SPOKEN-FOR=789f0164:New Name\n");
   EXPECT_EQ(Import(CardText("UID:u1\nFN:New Name\nTEL:1\n")).Same, 1);
 }
 

@@ -39,8 +39,10 @@ INSTANTIATE_TEST_SUITE_P(
                   "FileAs=Doe, Jane\nFirstName=Jane\nLastName=Doe\nCarried=N:Roe;Jane;Q.;;\n"},
         MergeCase{"LessOfTheName", "N:Doe;Jane;Q.;;\n", "N:Doe;Jane;;;\nFN:Jane Doe\n",
                   "FileAs=Doe, Jane Q.\nFirstName=Jane\nMiddleName=Q.\nLastName=Doe\n"},
-        MergeCase{"SpokenNameOfItsOwn", "N:Doe;Jane;;;\n", "N:Doe;Jane;;;\nFN:Janey\n",
-                  "FileAs=Doe, Jane\nFirstName=Jane\nLastName=Doe\nCarried=FN:Janey\n"},
+        MergeCase{
+            "SpokenNameOfItsOwn", "N:Doe;Jane;;;\n", "N:Doe;Jane;;;\nFN:Janey\n",
+            "FileAs=Doe, "
+            "Jane\nFirstName=Jane\nLastName=Doe\nCarried=FN;X-QUILL-SPOKEN-FOR=1c272047:Janey\n"},
         MergeCase{"NameWhereThereWasNone", "ORG:Mill\n", "FN:Ann\n",
                   "FileAs=Mill\nFirstName=Ann\nCompanyName=Mill\n"},
         MergeCase{"SecondSpokenName", "ORG:Mill\n", "ORG:Mill\nFN:Mill\nFN:Desk\n",
