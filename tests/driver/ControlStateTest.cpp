@@ -1,5 +1,6 @@
 #include "driver/ControlState.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QLineEdit>
 

@@ -19,8 +19,8 @@ class CheckListTest : public test::ScreenFixture {
   }
 
   void Fill(int count) {
-    std::vector<CheckListItem> items;
-    for (int i = 0; i < count; ++i) items.push_back({.Text = QString::number(i)});
+    std::vector<CheckListItem> items(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) items[i].Text = QString::number(i);
     m_list.SetItems(std::move(items));
   }
   std::vector<int> Checked() const {

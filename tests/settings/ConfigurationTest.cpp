@@ -1,5 +1,7 @@
 #include "settings/Configuration.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 namespace quill {
