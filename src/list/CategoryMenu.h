@@ -33,7 +33,7 @@ enum class CategoryMenuChoice {
 };
 CategoryMenuChoice ChooseCategory(ListState& list, CategoryMenu& menu, int id);
 
-// What was chosen behind "More...": names as ChooseSeveral of the library gives them, and their
+// What was chosen behind "More...": names as Cate_ShowCategoryList gives them, and their
 // positions in it, ended by kCategoryPositionsEnd. No names: nothing changes, false.
 bool ChooseSeveralCategories(ListState& list, CategoryMenu& menu, const QStringList& offered,
                              const QString& names, const std::vector<int>& positions);

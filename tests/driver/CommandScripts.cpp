@@ -134,6 +134,47 @@ TEST_F(CommandScript, TheCategoryMenuFiltersAndChecksItsChoice) {
   EXPECT_EQ(List(driver)[u"restriction"], QStringLiteral(R"([Categories] = "")"));
 }
 
+TEST_F(CommandScript, SeveralCategoriesAreChosenBehindMore) {
+  ReadyDriver driver(Arguments());
+  driver.Result(R"({"op":"categories","names":["Family","Work"],"quiet":true})", u"categories");
+  PutPeople(driver);
+  driver.Do(R"({"op":"tap","on":"view","x":190,"y":12})");
+  driver.Do(R"({"op":"choose","id":111})");
+  const auto windows = driver.Result(R"({"op":"windows"})", u"windows").toArray();
+  EXPECT_EQ(windows.last().toObject()[u"class"], QStringLiteral("CategoryChooser"));
+  const QJsonValue library =
+      driver.Result(R"({"op":"get","id":1000})", u"control").toObject()[u"items"];
+  EXPECT_EQ(Texts(library), QStringList({QStringLiteral("Family"), QStringLiteral("Work"),
+                                         QStringLiteral("No Categories")}));
+  EXPECT_TRUE(Texts(library, u"checked").isEmpty());
+  driver.Do(R"({"op":"set","id":1000,"index":0,"checked":true})");
+  driver.Do(R"({"op":"set","id":1000,"index":1,"checked":true})");
+  driver.Do(R"({"op":"ok"})");
+  EXPECT_EQ(List(driver)[u"category"], QStringLiteral("Family,Work"));
+  EXPECT_EQ(List(driver)[u"categoryCount"], 2);
+  EXPECT_EQ(Names(driver), QStringList({QStringLiteral("Adams"), QStringLiteral("Gray")}));
+  EXPECT_TRUE(TextsOnView(driver).contains(QStringLiteral("Multi")));
+  driver.Do(R"({"op":"tap","on":"view","x":190,"y":12})");
+  EXPECT_EQ(Texts(driver.Result(R"({"op":"popup"})", u"popup"), u"checked"),
+            QStringList({QStringLiteral("Family"), QStringLiteral("Work")}));
+}
+
+TEST_F(CommandScript, CancellingTheChoiceOfSeveralLeavesTheListAsItWas) {
+  ReadyDriver driver(Arguments());
+  driver.Result(R"({"op":"categories","names":["Family","Work"],"quiet":true})", u"categories");
+  PutPeople(driver);
+  RunCommand(driver, "107");
+  driver.Do(R"({"op":"tap","on":"view","x":190,"y":12})");
+  driver.Do(R"({"op":"choose","id":109})");
+  for (const char* end : {"cancel", "ok"}) {  // nothing is checked
+    RunCommand(driver, "111");
+    driver.Do(QByteArray(R"({"op":")") + end + R"("})");
+    EXPECT_EQ(List(driver)[u"category"], QStringLiteral("Work"));
+    EXPECT_EQ(List(driver)[u"categoryCount"], 1);
+    EXPECT_EQ(Names(driver), QStringList(QStringLiteral("Adams")));
+  }
+}
+
 TEST_F(CommandScript, DeletingAllUnderAFilterKeepsTheOthers) {
   ReadyDriver driver(Arguments());
   PutPeople(driver);

@@ -16,9 +16,13 @@ constexpr QPoint kMenuAt{158, 34};  // in the view
 void ChooseSeveral(CContactsView& view) {
   QString names;
   std::vector<int> positions;
-  if (!Cate_ShowCategoryList(*ScreenAround(&view), 1, names, positions)) return;
-  if (ChooseSeveralCategories(g_list, g_categoryMenu, OfferedCategories(), names, positions))
-    view.ShowFiltered();
+  const bool isDone = Cate_ShowCategoryList(*ScreenAround(&view), 1, names, positions);
+  const QStringList offered = OfferedCategories();
+  if (isDone && ChooseSeveralCategories(g_list, g_categoryMenu, offered, names, positions))
+    return view.ShowFiltered();
+  // The choice stays, but a category may have been renamed or removed meanwhile.
+  FillCategoryMenu(g_categoryMenu, offered, g_list.CategoryName);
+  view.Rebuild();
 }
 
 void Choose(CContactsView& view, int id) {
