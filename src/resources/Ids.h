@@ -40,6 +40,8 @@ inline constexpr int ID_SHELL_INPUT_PANEL = 60000;
 inline constexpr int ID_SHELL_LARGER = 60001;
 inline constexpr int ID_SHELL_SMALLER = 60002;
 inline constexpr int ID_SHELL_FULL_SCREEN = 60003;
+inline constexpr int ID_SHELL_IMPORT = 60004;
+inline constexpr int ID_SHELL_EXPORT = 60005;
 
 // The contact list view.
 namespace ContactsViewIds {
@@ -107,6 +109,29 @@ inline constexpr int kDialog = 270;
 inline constexpr int kLabel = 1012;
 inline constexpr int kEdit = 1017;
 }  // namespace NameEntryIds
+
+namespace FileListIds {
+inline constexpr int kDialog = 280;
+inline constexpr int kFolder = 1001;
+inline constexpr int kList = 1002;
+inline constexpr int kScrollBar = 1003;
+inline constexpr int kNameLabel = 1004;
+inline constexpr int kName = 1005;
+inline constexpr int kOption = 1006;
+}  // namespace FileListIds
+
+namespace CharsetIds {
+inline constexpr int kDialog = 281;
+inline constexpr int kMessage = 1001;
+inline constexpr int kCharset = 1002;
+inline constexpr int kPreview = 1003;
+}  // namespace CharsetIds
+
+namespace ProgressIds {
+inline constexpr int kDialog = 282;
+inline constexpr int kSubject = 1001;
+inline constexpr int kProgress = 1002;
+}  // namespace ProgressIds
 
 // The messages that tell the main frame of changes in the store, and the one it hands to the view.
 inline constexpr int kMessageItemWritten = 1025;
