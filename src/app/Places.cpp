@@ -20,10 +20,13 @@ QString AbsoluteOr(const QProcessEnvironment& environment, const QString& variab
   return QDir::isAbsolutePath(value) ? QDir::cleanPath(value) : fallback;
 }
 
+QString UserHome(const QProcessEnvironment& environment) {
+  return AbsoluteOr(environment, QStringLiteral("HOME"), QDir::homePath());
+}
+
 QString BaseFolder(const QProcessEnvironment& environment, const QString& variable,
                    const QString& belowHome) {
-  const QString home = AbsoluteOr(environment, QStringLiteral("HOME"), QDir::homePath());
-  return AbsoluteOr(environment, variable, home + belowHome);
+  return AbsoluteOr(environment, variable, UserHome(environment) + belowHome);
 }
 
 QString DataFolder(const QProcessEnvironment& environment) {
@@ -61,6 +64,7 @@ Places HomePlaces(const QString& folder, const QProcessEnvironment& environment)
   places.StateFolder = home;
   places.DocumentsFolder = below.filePath(QStringLiteral("My Documents"));
   places.DeviceFolder = home;
+  places.HomeFolder = home;
   places.RuntimeFolder = RuntimeFolderOf(environment);
   return places;
 }
@@ -76,6 +80,7 @@ Places UserPlaces(const QProcessEnvironment& environment) {
   places.StateFolder = state + QStringLiteral("/quill");
   places.DocumentsFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   places.DeviceFolder = DataFolder(environment) + QStringLiteral("/device");
+  places.HomeFolder = UserHome(environment);
   places.RuntimeFolder = RuntimeFolderOf(environment);
   return places;
 }

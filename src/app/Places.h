@@ -17,6 +17,7 @@ struct Places {
   QString StateFolder;      // instance lock, recovery files, logs
   QString DocumentsFolder;  // the device's "\My Documents"; memos lie below it, in Fennick/
   QString DeviceFolder;     // the device's "\" with all its other folders
+  QString HomeFolder;       // where the user begins to look for files of their own
   QString RuntimeFolder;    // of this login, for sockets; empty when the desktop names none
 
   bool operator==(const Places&) const = default;

@@ -86,13 +86,13 @@ bool Finish(QIODevice& target) {
   return !file || file->flush();
 }
 
-ExportSummary Export(PimStore& store, QIODevice& target, const VerbCall& call,
+ExportSummary Export(PimStore& store, QIODevice& target, const ExportTask& task,
                      const Console& console) {
   ProgressLine line(console);
-  ExportOptions options = OptionsOf(call);
-  options.Continue = [&line](int done, int count) {
+  ExportOptions options = task.Options;
+  options.Continue = [&](int done, int count) {
     line.Show(QStringLiteral("%1 of %2 contacts").arg(done).arg(count));
-    return true;
+    return !task.Options.Continue || task.Options.Continue(done, count);
   };
   ExportSummary summary = ExportCards(store, target, options);
   const bool isWhole = summary.End == ExportEnd::All && summary.Written > 0;
@@ -102,6 +102,10 @@ ExportSummary Export(PimStore& store, QIODevice& target, const VerbCall& call,
 
 int Report(const QString& name, const ExportSummary& summary, const QIODevice& target,
            const Console& console) {
+  if (summary.End == ExportEnd::Stopped) {
+    Complain(console, QStringLiteral("%1: stopped; nothing was written").arg(name));
+    return kExitPartly;
+  }
   if (summary.End != ExportEnd::All) {
     const QString reason =
         summary.End == ExportEnd::StoreFailed ? summary.StoreError : target.errorString();
@@ -117,20 +121,26 @@ int Report(const QString& name, const ExportSummary& summary, const QIODevice& t
   return kExitDone;
 }
 
+int FailWith(const QString& problem, const Console& console) {
+  Complain(console, problem);
+  return kExitFailed;
+}
+
 }  // namespace
 
-int RunExport(const VerbCall& call, const Console& console) {
-  const QString& name = call.Arguments.first();
-  PimStore store(call.Where.StoreFile);
+int ExportFile(const ExportTask& task, const Console& console) {
+  PimStore store(task.Where.StoreFile);
   const StoreOpening opening(store);
-  const QString problem = opening.Succeeded() ? ProblemOf(call) : opening.Problem();
-  if (!problem.isEmpty()) {
-    Complain(console, problem);
-    return kExitFailed;
-  }
-  const auto target = OpenTarget(name, console);
+  if (!opening.Succeeded()) return FailWith(opening.Problem(), console);
+  const auto target = OpenTarget(task.File, console);
   if (!target) return kExitFailed;
-  return Report(name, Export(store, *target, call, console), *target, console);
+  return Report(task.File, Export(store, *target, task, console), *target, console);
+}
+
+int RunExport(const VerbCall& call, const Console& console) {
+  const QString problem = ProblemOf(call);
+  if (!problem.isEmpty()) return FailWith(problem, console);
+  return ExportFile({call.Where, call.Arguments.first(), OptionsOf(call)}, console);
 }
 
 }  // namespace quill

@@ -25,6 +25,7 @@ qint64 Contacts(const ImportSummary& summary) {
 }
 
 int ExitCodeOf(const ImportSummary& summary) {
+  if (summary.End == ImportEnd::Stopped) return kExitPartly;
   if (summary.End != ImportEnd::WholeFile) return kExitFailed;
   return summary.Unreadable > 0 || Contacts(summary) == 0 ? kExitPartly : kExitDone;
 }
@@ -43,7 +44,10 @@ int ReportImport(const QString& name, const ImportSummary& summary, const Consol
   PrintUnreadable(name, summary, console.Err);
   if (summary.End == ImportEnd::DeviceFailed || summary.End == ImportEnd::StoreFailed)
     Complain(console, QStringLiteral("%1: %2").arg(name, summary.Reason));
-  if (Contacts(summary) + summary.Unreadable == 0) {
+  if (summary.End == ImportEnd::Stopped)
+    Complain(console, QStringLiteral("%1: stopped; what came in until then stays").arg(name));
+  const bool isEmpty = Contacts(summary) + summary.Unreadable == 0;
+  if (isEmpty && summary.End != ImportEnd::Stopped) {
     Complain(console, QStringLiteral("%1: no contacts in it").arg(name));
   } else {
     console.Out << CountsLine(name, summary) << Qt::endl;

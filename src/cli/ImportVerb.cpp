@@ -39,13 +39,18 @@ QString ProgressText(const QString& name, const ImportProgress& progress, qint64
 // The files of one command, one after the other into the same store.
 class FileImport {
  public:
-  FileImport(StoreProvider& store, const ImportOptions& options, const Console& console)
-      : m_store(store), m_options(options), m_console(console) {}
+  FileImport(StoreProvider& store, const ImportTask& task, const Console& console)
+      : m_store(store), m_task(task), m_console(console) {}
 
-  void Take(const QString& argument) {
-    const QStringList names = CardFilesOf(argument);
-    if (names.isEmpty()) Fail(kExitPartly, argument, QStringLiteral("no card files in it"));
-    for (const QString& name : names) TakeFile(name);
+  void TakeAll() {
+    for (const QString& argument : m_task.Arguments) {
+      const QStringList names = CardFilesOf(argument);
+      if (names.isEmpty()) Fail(kExitPartly, argument, QStringLiteral("no card files in it"));
+      for (const QString& name : names) {
+        TakeFile(name);
+        if (m_isStopped) return;
+      }
+    }
   }
 
   int Finish() {
@@ -63,16 +68,17 @@ class FileImport {
     const QString title = isInput ? QStringLiteral("standard input") : name;
     ImportSummary summary = Import(title, file);
     if (summary.End == ImportEnd::DeviceFailed) summary.Reason = file.errorString();
+    m_isStopped = summary.End == ImportEnd::Stopped;
     m_exitCode = std::max(m_exitCode, ReportImport(title, summary, m_console));
     Sum(summary);
   }
 
   ImportSummary Import(const QString& title, QFile& file) {
     ProgressLine line(m_console);
-    ImportOptions options = m_options;
+    ImportOptions options = m_task.Options;
     options.Continue = [&](const ImportProgress& progress) {
       line.Show(ProgressText(title, progress, file.size()));
-      return true;
+      return !m_task.Continue || m_task.Continue(title, progress);
     };
     return ImportCards(file, m_store, options);
   }
@@ -91,10 +97,11 @@ class FileImport {
   }
 
   StoreProvider& m_store;
-  const ImportOptions& m_options;
+  const ImportTask& m_task;
   const Console& m_console;
   ImportSummary m_sum;  // its counts
   int m_files = 0;      // that could be opened
+  bool m_isStopped = false;
   int m_exitCode = kExitDone;
 };
 
@@ -113,24 +120,27 @@ QString ProblemOfRejects(const QStringList& arguments, RejectsFile& rejects) {
 
 }  // namespace
 
+int ImportFiles(const ImportTask& task, const Console& console) {
+  PimStore store(task.Where.StoreFile);
+  const StoreOpening opening(store);
+  if (!opening.Succeeded()) return FailWith(opening.Problem(), console);
+  FileImport import(store, task, console);
+  import.TakeAll();
+  return import.Finish();
+}
+
 int RunImport(const VerbCall& call, const Console& console) {
-  ImportOptions options;
-  options.Duplicates = DuplicatesOf(call);
-  options.FallbackCharset = CharsetOf(call);
-  if (!IsKnownCharset(options.FallbackCharset))
+  ImportTask task{.Where = call.Where, .Arguments = call.Arguments, .Options = {}};
+  task.Options.Duplicates = DuplicatesOf(call);
+  task.Options.FallbackCharset = CharsetOf(call);
+  if (!IsKnownCharset(task.Options.FallbackCharset))
     return FailWith(
         QStringLiteral("there is no character set %1").arg(ValueOf(call, kCharsetOption)), console);
   RejectsFile rejects(ValueOf(call, kRejectsOption));
   const QString problem = ProblemOfRejects(call.Arguments, rejects);
   if (!problem.isEmpty()) return FailWith(problem, console);
-  options.Rejects = rejects.Device();
-
-  PimStore store(call.Where.StoreFile);
-  const StoreOpening opening(store);
-  if (!opening.Succeeded()) return FailWith(opening.Problem(), console);
-  FileImport import(store, options, console);
-  for (const QString& argument : call.Arguments) import.Take(argument);
-  const int exitCode = import.Finish();
+  task.Options.Rejects = rejects.Device();
+  const int exitCode = ImportFiles(task, console);
   return rejects.Finish() ? exitCode : FailWith(rejects.Problem(), console);
 }
 

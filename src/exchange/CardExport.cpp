@@ -16,7 +16,8 @@ constexpr int kContactsPerQuestion = 50;  // between two calls of Continue
 // Nothing when the store fails.
 std::optional<ContactCollection> Chosen(ContactsFolder& contacts, const ExportOptions& options) {
   std::optional<ContactCollection> chosen = contacts.Items();
-  if (!options.Category.isEmpty()) {
+  if (!options.Restriction.isEmpty()) chosen = contacts.Restrict(*chosen, options.Restriction);
+  if (chosen && !options.Category.isEmpty()) {
     const QString name = options.Category == kNoCategories ? QString() : options.Category;
     chosen = contacts.Restrict(*chosen, u"[Categories] = "_qs + QuoteRestrictionValue(name));
   }

@@ -16,8 +16,9 @@ namespace quill {
 
 struct ExportOptions {
   CardVersion Version = CardVersion::V30;
-  QString Category = {};  // a name, or "No Categories"; empty: whatever they are in
-  QString Contact = {};   // as for FindByName; empty: all
+  QString Category = {};     // a name, or "No Categories"; empty: whatever they are in
+  QString Contact = {};      // as for FindByName; empty: all
+  QString Restriction = {};  // as for ContactsFolder::Restrict; empty: all
   // Asked now and then with what is done and what there is in all; false stops the export.
   std::function<bool(int done, int count)> Continue = {};
 };

@@ -27,6 +27,7 @@ TEST(Places, AHomeHoldsEverything) {
   EXPECT_EQ(places.StateFolder, u"/tmp/home"_qs);
   EXPECT_EQ(places.DocumentsFolder, u"/tmp/home/My Documents"_qs);
   EXPECT_EQ(places.DeviceFolder, u"/tmp/home"_qs);
+  EXPECT_EQ(places.HomeFolder, u"/tmp/home"_qs);
   EXPECT_EQ(places.RuntimeFolder, u"/run/user/7"_qs);
 }
 
@@ -41,6 +42,10 @@ TEST(Places, AHomesOwnFilesAreNotTheDevices) {
 TEST(Places, AUsersDeviceFilesLieBesideTheStore) {
   const Places places = UserPlaces(Environment({{u"XDG_DATA_HOME"_qs, u"/d"_qs}}));
   EXPECT_EQ(places.DeviceFolder, u"/d/quill/device"_qs);
+}
+
+TEST(Places, AUserLooksForFilesInTheirHomeFolder) {
+  EXPECT_EQ(UserPlaces(Environment({{u"HOME"_qs, u"/home/ann"_qs}})).HomeFolder, u"/home/ann"_qs);
 }
 
 TEST(Places, ARelativeHomeCountsFromTheCurrentFolder) {

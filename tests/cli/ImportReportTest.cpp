@@ -59,5 +59,13 @@ TEST_F(ImportReport, TellsWhyTheImportEnded) {
   }
 }
 
+TEST_F(ImportReport, SaysThatItWasStoppedAndWhatCameIn) {
+  ImportSummary summary;
+  summary.End = ImportEnd::Stopped;
+  EXPECT_EQ(Report(summary), kExitPartly);
+  EXPECT_EQ(m_err.toStdString(), "quill: f: stopped; what came in until then stays\n");
+  EXPECT_EQ(m_out.toStdString(), "f: 0 new, 0 changed, 0 the same, 0 unreadable\n");
+}
+
 }  // namespace
 }  // namespace quill

@@ -132,6 +132,25 @@ TEST_F(CardExports, KeepToANameWithinTheCategory) {
   EXPECT_EQ(Export(options), QStringList{u"anna"_qs});
 }
 
+TEST_F(CardExports, KeepToARestriction) {
+  Add(u"ann"_qs, u"One"_qs);
+  Add(u"bob"_qs, u"Two"_qs);
+  Add(u"bill"_qs, u"One"_qs);
+  ExportOptions options;
+  options.Restriction = u"[FileAs] >= \"b\""_qs;
+  EXPECT_EQ(Export(options), (QStringList{u"bill"_qs, u"bob"_qs}));
+  options.Category = u"One"_qs;
+  EXPECT_EQ(Export(options), QStringList{u"bill"_qs});
+}
+
+TEST_F(CardExports, FailWithARestrictionThatNobodyUnderstands) {
+  ExportOptions options;
+  options.Restriction = u"["_qs;
+  options.Category = u"One"_qs;
+  SmallDevice device(1'000'000);
+  EXPECT_EQ(ExportCards(m_store, device, options).End, ExportEnd::StoreFailed);
+}
+
 TEST_F(CardExports, AskNowAndThenWhetherToGoOn) {
   for (int i = 0; i < 120; ++i) Add(u"a"_qs);
   ExportOptions options;
