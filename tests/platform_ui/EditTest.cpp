@@ -3,6 +3,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QUrl>
 
 #include "platform/ui/MenuPopup.h"
 #include "platform_ui/SampleWindows.h"
@@ -95,6 +98,20 @@ TEST_F(EditTest, TheMenuKeyOpensTheMenuOnce) {
   AskForMenu(QContextMenuEvent::Keyboard);  // some platforms send it beside the key
   m_input.Key(Qt::Key_Menu);
   EXPECT_EQ(opened, 1);
+}
+
+TEST_F(EditTest, TakesDroppedTextsButNoFiles) {
+  QMimeData data;
+  const auto isWelcome = [&] {
+    QDragEnterEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    event.ignore();
+    QCoreApplication::sendEvent(&m_edit, &event);
+    return event.isAccepted();
+  };
+  data.setText(QStringLiteral("a"));
+  EXPECT_TRUE(isWelcome());
+  data.setUrls({QUrl::fromLocalFile(QStringLiteral("/a.vcf"))});
+  EXPECT_FALSE(isWelcome());
 }
 
 }  // namespace

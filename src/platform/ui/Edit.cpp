@@ -2,8 +2,10 @@
 
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDragEnterEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMimeData>
 
 #include "platform/ui/InputCommit.h"
 #include "platform/ui/Screen.h"
@@ -43,6 +45,10 @@ void CEdit::ShowMenu(QPoint at) {
   if (!screen) return;
   CommitInput();
   RunEditCommand(*this, screen->TrackMenu(mapTo(screen, at), EditMenu(*this)));
+}
+
+void CEdit::dragEnterEvent(QDragEnterEvent* event) {
+  event->mimeData()->hasUrls() ? event->ignore() : QLineEdit::dragEnterEvent(event);
 }
 
 // The menu key comes as a key too: it is taken there.

@@ -12,6 +12,8 @@ class CEdit : public QLineEdit {
   CEdit(const QString& text, QWidget* parent);
 
  protected:
+  // Texts may be dropped here; files are the window's.
+  void dragEnterEvent(QDragEnterEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 

@@ -2,8 +2,10 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QMimeData>
 #include <QPainter>
 #include <QScreen>
+#include <QUrl>
 
 #include "platform/ScreenLayout.h"
 
@@ -13,9 +15,25 @@ namespace {
 
 constexpr QRgb kSurround = 0xFF202428;
 
+QStringList LocalFiles(const QMimeData& data) {
+  QStringList files;
+  for (const QUrl& url : data.urls())
+    if (url.isLocalFile()) files.append(url.toLocalFile());
+  return files;
+}
+
+// A copy, whatever is proposed: a file that was moved here its owner would delete.
+void AcceptCopy(QDropEvent& event) {
+  event.setDropAction(Qt::CopyAction);
+  event.accept();
+}
+
 }  // namespace
 
-COuterWindow::COuterWindow() { setAttribute(Qt::WA_OpaquePaintEvent); }
+COuterWindow::COuterWindow() {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setAcceptDrops(true);
+}
 
 void COuterWindow::SetScreen(QWidget* screen) {
   m_screen = screen;
@@ -48,6 +66,16 @@ void COuterWindow::CentreScreen() {
 
 void COuterWindow::paintEvent(QPaintEvent* event) {
   QPainter(this).fillRect(event->rect(), QColor::fromRgb(kSurround));
+}
+
+void COuterWindow::dragEnterEvent(QDragEnterEvent* event) {
+  const bool isWanted = FilesDropped && MayDrop && MayDrop();
+  if (isWanted && !LocalFiles(*event->mimeData()).isEmpty()) AcceptCopy(*event);
+}
+
+void COuterWindow::dropEvent(QDropEvent* event) {
+  AcceptCopy(*event);
+  if (FilesDropped) FilesDropped(LocalFiles(*event->mimeData()));
 }
 
 // Keys reach this window itself only while nothing in the screen has the focus.

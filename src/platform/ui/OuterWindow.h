@@ -19,11 +19,16 @@ class COuterWindow : public QWidget {
   void ShowOnFullScreen();
   // Called when the desktop asks the window to close; the window itself does not.
   std::function<void()> CloseAsked;
+  // Files that somebody drops on the window: whether they may just now, and which they were.
+  std::function<bool()> MayDrop;
+  std::function<void(const QStringList& files)> FilesDropped;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
 
