@@ -71,9 +71,9 @@ inline constexpr std::array kMemoPopup = {
 
 // The menu that a tap-and-hold on the title bar opens.
 inline constexpr std::array kShellMenu = {
-    MenuEntry{u"Larger", ID_SHELL_LARGER},
-    MenuEntry{u"Smaller", ID_SHELL_SMALLER},
-    MenuEntry{u"Full screen", ID_SHELL_FULL_SCREEN},
+    MenuEntry{u"Larger", ID_SHELL_LARGER},           MenuEntry{u"Smaller", ID_SHELL_SMALLER},
+    MenuEntry{u"Full screen", ID_SHELL_FULL_SCREEN}, MenuEntry{},
+    MenuEntry{u"Import...", ID_SHELL_IMPORT},        MenuEntry{u"Export...", ID_SHELL_EXPORT},
 };
 
 }  // namespace quill::resources

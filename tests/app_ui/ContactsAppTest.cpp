@@ -122,10 +122,10 @@ TEST_F(ContactsAppTest, TheSmallestScaleGetsNoSmaller) {
 
 TEST_F(ContactsAppTest, TheScaleStaysWhileADialogIsOpen) {
   const ShellEnd end = Run([this] {
-    return std::vector<Step>{
-        Command(ID_APP_ABOUT), [this] { EXPECT_FALSE(m_app->MayChangeScale()); },
-        Key(Qt::Key_Plus, Qt::ControlModifier),
-        [this] { EXPECT_FALSE(m_screen->IsIdle()) << "the box is open"; }, Closing()};
+    return std::vector<Step>{Command(ID_APP_ABOUT), [this] { EXPECT_FALSE(m_app->IsIdle()); },
+                             Key(Qt::Key_Plus, Qt::ControlModifier),
+                             [this] { EXPECT_FALSE(m_screen->IsIdle()) << "the box is open"; },
+                             Closing()};
   });
   EXPECT_FALSE(end.Next.has_value());
 }

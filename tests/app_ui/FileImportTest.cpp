@@ -1,74 +1,69 @@
 #include "app/ui/FileImport.h"
 
-#include <QFile>
+#include <QComboBox>
 #include <QGuiApplication>
-#include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
-#include "platform/Services.h"
-#include "store/pim/PimStore.h"
-#include "support/ScriptedPrompt.h"
+#include "ExchangeFixture.h"
 
 namespace quill {
 namespace {
 
-class FileImportTest : public testing::Test {
- protected:
-  FileImportTest() : m_places(HomePlaces(m_home.path(), {})) { g_services.Prompt = &m_prompt; }
-  ~FileImportTest() override { g_services = {}; }
+using test::CardOf;
+using test::Step;
+using test::Steps;
 
-  QString Write(const QString& name, const QByteArray& content) {
-    QFile file(m_home.filePath(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-    return file.fileName();
-  }
+const QByteArray kKim = "\xB1\xE8;\xC3\xB6\xBC\xF6";  // in Korean Windows
+
+class FileImportTest : public test::ExchangeFixture {
+ protected:
   // Imports the files and returns the one message that came of it.
-  PromptMessage Import(const QStringList& files) {
+  PromptMessage Import(const QStringList& files, std::vector<Step> steps = {}) {
     m_prompt.Expect(PromptAnswer::OK);
-    ImportFilesAndReport(m_places, files);
+    const Steps running(*m_screen, std::move(steps));
+    ImportFilesAndReport(*m_screen, m_places, files);
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
     return m_prompt.Shown().back();
   }
-  int CountContacts() const {
-    PimStore store(m_places.StoreFile);
-    EXPECT_EQ(store.Create(), 0);
-    EXPECT_EQ(store.Logon(), 0);
-    EXPECT_EQ(store.OpenFolder(FolderKind::Contacts), 0);
-    return store.Contacts()->Count(store.Contacts()->Items());
-  }
-
-  QTemporaryDir m_home;
-  Places m_places;
-  test::ScriptedPrompt m_prompt;
 };
-
-QByteArray Card(const QByteArray& name) {
-  return "BEGIN:VCARD\r\nVERSION:2.1\r\nN:" + name + "\r\nEND:VCARD\r\n";
-}
 
 TEST_F(FileImportTest, BringsTheCardsIntoTheStoreAndTellsHowMany) {
   const PromptMessage message =
-      Import({Write(QStringLiteral("two.vcf"), Card("Kim;Chul") + Card("Lee;Min"))});
+      Import({Write(QStringLiteral("두사람.vcf"), CardOf("Kim;Chul") + CardOf("Lee;Min"))});
   EXPECT_EQ(message.Icon, PromptIcon::Information);
-  EXPECT_TRUE(message.Text.contains(QStringLiteral("2 new"))) << message.Text.toStdString();
-  EXPECT_EQ(CountContacts(), 2);
+  EXPECT_EQ(message.Text,
+            QStringLiteral("두사람.vcf: 2 new, 0 changed, 0 the same, 0 unreadable\n"));
+  EXPECT_EQ(Names().size(), 2);
 }
 
 TEST_F(FileImportTest, AFileThatIsNotThereIsAWarning) {
-  const PromptMessage message = Import({m_home.filePath(QStringLiteral("none.vcf"))});
+  const PromptMessage message = Import({Path(QStringLiteral("none.vcf"))});
   EXPECT_EQ(message.Icon, PromptIcon::Warning);
-  EXPECT_TRUE(message.Text.contains(QStringLiteral("none.vcf"))) << message.Text.toStdString();
+  EXPECT_TRUE(message.Text.startsWith(QStringLiteral("none.vcf: "))) << message.Text.toStdString();
 }
 
-TEST_F(FileImportTest, ALongReportIsCutToWhatABoxShows) {
-  QStringList files;
-  for (int i = 0; i < 40; ++i) files.append(m_home.filePath(QStringLiteral("none%1.vcf").arg(i)));
-  const QStringList lines = Import(files).Text.split(u'\n');
-  EXPECT_EQ(lines.size(), 5);
-  EXPECT_FALSE(lines.first().contains(m_home.path())) << "there is no room for folders";
-  EXPECT_TRUE(lines.last().startsWith(QStringLiteral("... and "))) << lines.last().toStdString();
+TEST_F(FileImportTest, UndeclaredTextAsksForItsCharacterSet) {
+  Import({Write(QStringLiteral("good.vcf"), CardOf("Lee;Min")),
+          Write(QStringLiteral("old.vcf"), CardOf(kKim))},
+         {[this] {
+            auto& list = dynamic_cast<QComboBox&>(*m_screen->Topmost()->Control(1002));
+            list.setCurrentIndex(list.findData(QByteArray("windows-949")));
+          },
+          [this] { m_input.Key(Qt::Key_Return); }});
+  EXPECT_EQ(Names(), QStringList({QStringLiteral("Lee, Min"), QStringLiteral("김, 철수")}));
+}
+
+TEST_F(FileImportTest, WithoutAnAnswerNothingComesIn) {
+  const QString file = Write(QStringLiteral("old.vcf"), CardOf(kKim));
+  const Steps steps(*m_screen, {[this] { m_input.Key(Qt::Key_Escape); }});
+  ImportFilesAndReport(*m_screen, m_places, {file});
+  EXPECT_TRUE(m_prompt.Shown().empty());
+  EXPECT_FALSE(QFile::exists(m_places.StoreFile));
+}
+
+TEST_F(FileImportTest, WhileTheProgramClosesNothingComesIn) {
+  m_screen->CloseAll();
+  Import({Write(QStringLiteral("a.vcf"), CardOf("Kim"))});
+  EXPECT_FALSE(QFile::exists(m_places.StoreFile));
 }
 
 }  // namespace

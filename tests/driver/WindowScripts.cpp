@@ -134,7 +134,7 @@ TEST(Popups, TitleBarsOneOpensByHoldAndIsDismissed) {
   ReadyDriver driver;
   driver.Do(R"({"op":"hold","x":80,"y":12})");
   const QJsonArray items = Popup(driver);
-  ASSERT_EQ(items.size(), 3);
+  ASSERT_EQ(items.size(), 6);
   EXPECT_EQ(items[0].toObject().value(u"text"), QStringLiteral("Larger"));
   EXPECT_EQ(items[1].toObject().value(u"enabled"), false);
   driver.Do(R"({"op":"dismiss"})");

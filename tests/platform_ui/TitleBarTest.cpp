@@ -35,7 +35,7 @@ class TitleBarTest : public test::ScreenFixture {
 TEST_F(TitleBarTest, APenHeldHalfASecondOpensTheShellsMenu) {
   const Steps steps(*m_screen, {[this] {
     ASSERT_NE(m_screen->Popup(), nullptr);
-    EXPECT_EQ(m_screen->Popup()->Items().size(), 3U);
+    EXPECT_EQ(m_screen->Popup()->Items().size(), 6U);
     EXPECT_TRUE(m_screen->Popup()->Choose(ID_SHELL_SMALLER));
   }});
   m_input.Press(kOnCaption);

@@ -9,7 +9,7 @@
 #include "app/RequestChannel.h"
 #include "app/ui/AboutDialog.h"
 #include "app/ui/ContactsDoc.h"
-#include "app/ui/FileImport.h"
+#include "app/ui/FileExchange.h"
 #include "app/ui/MainFrame.h"
 #include "app/ui/ShellCommands.h"
 #include "list/ui/ContactsView.h"
@@ -20,6 +20,7 @@
 #include "platform/ui/OuterWindow.h"
 #include "platform/ui/Screen.h"
 #include "platform/ui/ScreenPrompt.h"
+#include "resources/Ids.h"
 #include "resources/Strings.h"
 #include "store/ContactStore.h"
 
@@ -49,6 +50,7 @@ CContactsApp::CContactsApp(Program& program, const ShellStart& start)
   m_screen = new CScreen(m_outer.get());
   m_prompt = std::make_unique<ScreenPrompt>(*m_screen);
   g_services.Prompt = m_prompt.get();
+  m_files = std::make_unique<FileExchange>(*m_screen, m_program.Where());
   m_commands = std::make_unique<ShellCommands>(*this);
   m_screen->SetShellCommands(m_commands.get());
   m_screen->Closed = [this] { Leave({}); };
@@ -84,6 +86,7 @@ void CContactsApp::InitInstance() {
   m_document = std::make_unique<CContactsDoc>();
   m_frame = std::make_unique<CMainFrame>(*m_screen, *m_commands);
   m_frame->show();
+  AcceptDrops();
   ShowMainWindow();  // before the session: opening it may have to show a message
   Listen();
   if (m_program.TakeFirstStart())
@@ -97,6 +100,12 @@ void CContactsApp::InitInstance() {
     // A refusal is logged there, and in the exit code.
     m_program.HandleFirstRequest([this](const Request& asked) { return HandleRequest(asked); });
   });
+}
+
+void CContactsApp::AcceptDrops() {
+  m_files->Imported = [this] { m_frame->PostStoreMessage(kMessageItemWritten, 0, 0); };
+  m_outer->MayDrop = [this] { return IsIdle(); };
+  m_outer->FilesDropped = [this](const QStringList& files) { TakeLater(files); };
 }
 
 void CContactsApp::ShowMainWindow() {
@@ -128,12 +137,15 @@ bool CContactsApp::HandleRequest(const Request& request) {
     case RequestKind::New:
       return m_frame->CopyData(kNewContact, request.Text);
     case RequestKind::Open:
-      QTimer::singleShot(0, m_frame.get(), [this, files = request.Files] {
-        ImportFilesAndReport(m_program.Where(), files);
-      });
+      TakeLater(request.Files);
       return true;
   }
   Q_UNREACHABLE();
+}
+
+// Not at once: who hands them over waits for an answer.
+void CContactsApp::TakeLater(const QStringList& files) {
+  QTimer::singleShot(0, m_frame.get(), [this, files] { m_files->Take(files); });
 }
 
 void CContactsApp::ShowAbout() { CAboutDialog(*m_screen).DoModal(); }
@@ -143,7 +155,7 @@ bool CContactsApp::IsFullScreen() const {
   return m_settings.FullScreen.value_or(IsHandheldScreen(DesktopPixels(logical, m_start.At)));
 }
 
-bool CContactsApp::MayChangeScale() const { return m_screen->IsIdle(); }
+bool CContactsApp::IsIdle() const { return m_screen->IsIdle(); }
 
 std::optional<Scale> CContactsApp::LargerScale() const {
   const QSize available = QGuiApplication::primaryScreen()->availableSize();
@@ -157,13 +169,13 @@ std::optional<Scale> CContactsApp::SmallerScale() const {
 }
 
 void CContactsApp::ChangeScale(Scale scale) {
-  if (!MayChangeScale()) return;
+  if (!IsIdle()) return;
   m_settings.WindowScale = scale;
   LeaveFor(scale);
 }
 
 void CContactsApp::ToggleFullScreen() {
-  if (!MayChangeScale()) return;
+  if (!IsIdle()) return;
   const bool fullScreen = !IsFullScreen();
   const QScreen* const screen = QGuiApplication::primaryScreen();
   const QSize whole = DesktopPixels(screen->size(), m_start.At);

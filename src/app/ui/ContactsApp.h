@@ -15,6 +15,7 @@ namespace quill {
 class CContactsDoc;
 class CMainFrame;
 class COuterWindow;
+class FileExchange;
 class CScreen;
 class RequestBus;
 class RequestChannel;
@@ -46,15 +47,19 @@ class CContactsApp {
   // The start-up, the event loop, the end.
   ShellEnd Run();
 
+  // Whether no other window and no popup is open.
+  bool IsIdle() const;
+
   // What the shell's commands do. There may be no larger or smaller scale. A change ends the shell;
-  // while another window or a popup is open nothing happens.
+  // unless all is idle nothing happens.
   std::optional<Scale> LargerScale() const;
   std::optional<Scale> SmallerScale() const;
   bool IsFullScreen() const;
-  bool MayChangeScale() const;
   void ChangeScale(Scale scale);
   void ToggleFullScreen();
   void ShowAbout();
+  // Contacts in and out.
+  FileExchange& Files() { return *m_files; }
 
  private:
   Scale FittedScale() const;
@@ -62,6 +67,8 @@ class CContactsApp {
   void ShowMainWindow();
   void LeaveFor(Scale next);
   void Leave(const ShellEnd& end);
+  void AcceptDrops();
+  void TakeLater(const QStringList& files);
   void Listen();
   bool HandleRequest(const Request& request);
 
@@ -74,6 +81,7 @@ class CContactsApp {
   std::unique_ptr<COuterWindow> m_outer;
   CScreen* m_screen;  // the outer window's child
   std::unique_ptr<ScreenPrompt> m_prompt;
+  std::unique_ptr<FileExchange> m_files;
   std::unique_ptr<ShellCommands> m_commands;
   std::unique_ptr<CContactsDoc> m_document;
   std::unique_ptr<CMainFrame> m_frame;

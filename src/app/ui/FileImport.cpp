@@ -1,48 +1,65 @@
 #include "app/ui/FileImport.h"
 
-#include <QCursor>
+#include <QFile>
 #include <QFileInfo>
-#include <QGuiApplication>
+#include <QLocale>
 
+#include <optional>
+
+#include "app/ui/CharsetDlg.h"
+#include "app/ui/ExchangeReport.h"
+#include "cli/CardFiles.h"
 #include "cli/ImportVerb.h"
-#include "platform/Prompt.h"
-#include "platform/Services.h"
+#include "exchange/CharsetProbe.h"
+#include "platform/ui/ProgressDlg.h"
+#include "platform/ui/WaitCursor.h"
 
 namespace quill {
 
 namespace {
 
-constexpr int kReportLines = 4;  // of details, after the summary: a message box is small
-
-QString FirstLines(const QString& report) {
-  QStringList lines = report.split(u'\n', Qt::SkipEmptyParts);
-  if (lines.size() <= kReportLines) return lines.join(u'\n');
-  const qsizetype more = lines.size() - kReportLines;
-  lines.resize(kReportLines);
-  return lines.join(u'\n') + QStringLiteral("\n... and %1 more lines").arg(more);
+std::optional<QByteArray> UndeclaredTextOf(const QString& name) {
+  QFile file(name);
+  // What a pipe gives can be read only once.
+  if (!file.open(QIODevice::ReadOnly) || file.isSequential()) return std::nullopt;
+  return FindUndeclaredText(file);
 }
 
-// A message box has no room for whole paths.
-QString WithoutFolders(QString report, const QStringList& files) {
-  for (const QString& file : files) report.replace(file, QFileInfo(file).fileName());
-  return report;
+std::optional<QByteArray> UndeclaredText(const QStringList& arguments) {
+  const WaitCursor wait;
+  for (const QString& argument : arguments)
+    for (const QString& name : CardFilesOf(argument))
+      if (const auto line = UndeclaredTextOf(name)) return line;
+  return std::nullopt;
+}
+
+// Nothing when the user does not want to go on.
+std::optional<QByteArray> CharsetFor(CScreen& screen, const QStringList& files) {
+  const QByteArray usual = FallbackCharset(QLocale::system());
+  const auto line = UndeclaredText(files);
+  if (!line) return usual;
+  CCharsetDlg dialog(screen, *line, usual);
+  if (dialog.DoModal() != kResultOK) return std::nullopt;
+  return dialog.Charset();
 }
 
 }  // namespace
 
-void ImportFilesAndReport(const Places& places, const QStringList& files) {
-  QString summary;
-  QString details;
-  QTextStream out(&summary);
-  QTextStream err(&details);
-  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-  const int exitCode = RunImport({.Where = places, .Arguments = files}, {out, err});
-  QGuiApplication::restoreOverrideCursor();
-  out.flush();
-  err.flush();
-  g_services.Prompt->Show(
-      {.Text = WithoutFolders(summary + FirstLines(details), files),
-       .Icon = exitCode == kExitDone ? PromptIcon::Information : PromptIcon::Warning});
+void ImportFilesAndReport(CScreen& screen, const Places& places, const QStringList& files) {
+  const auto charset = CharsetFor(screen, files);
+  if (!charset) return;
+  ImportTask task{.Where = places, .Arguments = files, .Options = {.FallbackCharset = *charset}};
+  ExchangeReport report;
+  int exitCode = kExitFailed;
+  CProgressDlg progress(screen, QStringLiteral("Import"), [&](CProgressDlg& dialog) {
+    task.Continue = [&dialog](const QString& file, const ImportProgress& now) {
+      return dialog.Continue(QFileInfo(file).fileName(),
+                             QStringLiteral("%L1 cards").arg(now.Cards));
+    };
+    exitCode = ImportFiles(task, report.Target());
+  });
+  progress.DoModal();
+  report.Show(exitCode, files);
 }
 
 }  // namespace quill

@@ -7,8 +7,11 @@
 
 namespace quill {
 
-// Does what the import command does, shows its report in a message box and waits. The window is
-// told of the new contacts by its watch on the store.
-void ImportFilesAndReport(const Places& places, const QStringList& files);
+class CScreen;
+
+// Does what the import command does, after asking for the character set when a file needs one, and
+// shows its report in a message box. Waits until the user has seen it; while it runs it shows its
+// progress and can be cancelled, which keeps what came in until then.
+void ImportFilesAndReport(CScreen& screen, const Places& places, const QStringList& files);
 
 }  // namespace quill

@@ -1,6 +1,7 @@
 #include "app/ui/ShellCommands.h"
 
 #include "app/ui/ContactsApp.h"
+#include "app/ui/FileExchange.h"
 #include "resources/Ids.h"
 
 namespace quill {
@@ -15,8 +16,15 @@ CommandRow ScaleRow(int id, CContactsApp& application, ScaleChoice choose) {
             if (const auto scale = (application.*choose)()) application.ChangeScale(*scale);
           },
           [&application, choose](int, CommandState& state) {
-            state.Enabled = application.MayChangeScale() && (application.*choose)().has_value();
+            state.Enabled = application.IsIdle() && (application.*choose)().has_value();
           }};
+}
+
+using FileCommand = void (FileExchange::*)();
+
+CommandRow FileRow(int id, CContactsApp& application, FileCommand run) {
+  return {id, id, [&application, run](int) { (application.Files().*run)(); },
+          [&application](int, CommandState& state) { state.Enabled = application.IsIdle(); }};
 }
 
 }  // namespace
@@ -24,12 +32,14 @@ CommandRow ScaleRow(int id, CContactsApp& application, ScaleChoice choose) {
 ShellCommands::ShellCommands(CContactsApp& application)
     : CommandTarget({
           {ID_APP_ABOUT, ID_APP_ABOUT, [&application](int) { application.ShowAbout(); }, nullptr},
+          FileRow(ID_SHELL_IMPORT, application, &FileExchange::Import),
+          FileRow(ID_SHELL_EXPORT, application, &FileExchange::Export),
           ScaleRow(ID_SHELL_LARGER, application, &CContactsApp::LargerScale),
           ScaleRow(ID_SHELL_SMALLER, application, &CContactsApp::SmallerScale),
           {ID_SHELL_FULL_SCREEN, ID_SHELL_FULL_SCREEN,
            [&application](int) { application.ToggleFullScreen(); },
            [&application](int, CommandState& state) {
-             state.Enabled = application.MayChangeScale();
+             state.Enabled = application.IsIdle();
              state.Checked = application.IsFullScreen();
            }},
       }) {}
