@@ -233,9 +233,13 @@ TEST_F(FileListDlgTest, WorksWithoutAnInputPanel) {
   EXPECT_EQ(Run(dialog, {OK(dialog)}), kResultOK);
 }
 
-TEST_F(FileListDlgTest, TheKeysGoFromTheListToTheName) {
+TEST_F(FileListDlgTest, TheKeysGoFromTheNameToTheList) {
   CFileListDlg dialog(*m_screen, Writing());
-  Run(dialog, {Key(Qt::Key_Tab), [&] { EXPECT_TRUE(Name(dialog).hasFocus()); }, Cancel(dialog)});
+  Run(dialog, {[&] {
+                 EXPECT_TRUE(Name(dialog).hasFocus());
+                 EXPECT_EQ(Name(dialog).selectedText(), QStringLiteral("contacts.vcf"));
+               },
+               Key(Qt::Key_Tab), [&] { EXPECT_TRUE(List(dialog).hasFocus()); }, Cancel(dialog)});
 }
 
 }  // namespace

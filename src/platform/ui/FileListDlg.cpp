@@ -47,8 +47,6 @@ CFileListDlg::CFileListDlg(CScreen& screen, const FileRequest& request)
   m_list->SelectionChanged = [this] { TakeName(); };
   auto& name = Get<QLineEdit>(*this, FileListIds::kName);
   connect(&name, &QLineEdit::textEdited, this, [this] { m_list->ClearSelection(); });
-  setTabOrder(m_list, &name);
-  setTabOrder(&name, Control(FileListIds::kOption));
   SetCaption(request.Caption);
   ShowFor(request);
   GoTo(request.Folder);
