@@ -20,7 +20,6 @@
 #include "platform/ui/OuterWindow.h"
 #include "platform/ui/Screen.h"
 #include "platform/ui/ScreenPrompt.h"
-#include "resources/Ids.h"
 #include "resources/Strings.h"
 #include "store/ContactStore.h"
 
@@ -103,7 +102,7 @@ void CContactsApp::InitInstance() {
 }
 
 void CContactsApp::AcceptDrops() {
-  m_files->Imported = [this] { m_frame->PostStoreMessage(kMessageItemWritten, 0, 0); };
+  m_files->Imported = [this] { m_frame->View().Rebuild(); };
   m_outer->MayDrop = [this] { return IsIdle(); };
   m_outer->FilesDropped = [this](const QStringList& files) { TakeLater(files); };
 }
