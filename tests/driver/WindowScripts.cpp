@@ -145,7 +145,7 @@ TEST(Popups, LiftOfTheHeldPenLeavesThePopupOpen) {
   ReadyDriver driver;
   driver.Do(R"({"op":"hold","x":80,"y":12})");
   driver.Do(R"({"op":"release","x":80,"y":12})");
-  EXPECT_EQ(Popup(driver).size(), 3);
+  EXPECT_FALSE(Popup(driver).isEmpty());
 }
 
 TEST(Popups, TitleBarsOneOpensByHoldAndIsChosenFrom) {
