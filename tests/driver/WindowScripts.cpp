@@ -100,7 +100,7 @@ TEST(Menus, ListEveryItemWithItsStateAndTheBarsButtonsLast) {
   const QJsonArray menus = driver.Result(R"({"op":"menus"})", u"menus").toArray();
   ASSERT_EQ(menus.size(), 4);
   QStringList titles;
-  for (const QJsonValue& menu : menus) titles << menu.toObject().value(u"text").toString();
+  for (const auto& menu : menus) titles << menu.toObject().value(u"text").toString();
   EXPECT_EQ(titles.join(u'|'), QStringLiteral("Tool|View|Help|"));
   const QJsonArray tools = menus[0].toObject().value(u"items").toArray();
   ASSERT_EQ(tools.size(), 7);
@@ -225,7 +225,7 @@ TEST(Where, LeavesTheCaptionOfASmallWindowOut) {
 TEST(Controls, OfTheViewAreListedWhileOnlyTheFrameIsOpen) {
   ReadyDriver driver;
   QList<int> ids;
-  for (const QJsonValue& control : driver.Result(R"({"op":"controls"})", u"controls").toArray())
+  for (const auto& control : driver.Result(R"({"op":"controls"})", u"controls").toArray())
     ids << control.toObject().value(u"id").toInt();
   EXPECT_EQ(ids, (QList<int>{1024, 1028, 1035, 1036}));
   const QJsonObject edit = driver.Result(R"({"op":"get","id":1028})", u"control").toObject();
