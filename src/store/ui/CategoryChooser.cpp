@@ -1,6 +1,5 @@
 #include "store/ui/CategoryChooser.h"
 
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
@@ -13,6 +12,7 @@
 #include "platform/ui/CheckList.h"
 #include "platform/ui/InputCommit.h"
 #include "platform/ui/Screen.h"
+#include "platform/ui/WaitCursor.h"
 #include "resources/CategoryDialogs.h"
 #include "store/Categories.h"
 #include "store/CategoryText.h"
@@ -90,9 +90,10 @@ void CCategoryChooser::EnableButtons() {
 
 // True when it was done; otherwise the user has been told why not.
 bool CCategoryChooser::CarryOut(const QString& name, const std::function<CategoryEdit()>& edit) {
-  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-  const CategoryEdit result = edit();
-  QGuiApplication::restoreOverrideCursor();
+  const CategoryEdit result = [&edit] {
+    const WaitCursor waiting;
+    return edit();
+  }();
   if (result == CategoryEdit::Done) return true;
   g_services.Prompt->Show({.Text = CategoryEditRefusal(result, name), .Icon = PromptIcon::Warning});
   return false;
