@@ -17,15 +17,35 @@ if(QUILL_FUZZ)
   target_compile_options(quill_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# quill_precompile(TARGET core|ui): the Qt headers that nearly every file of such a target includes.
+# quill_add_headers(NAME LINKS LIBRARIES ... HEADERS ...): headers that are compiled once, for every
+# target that reuses them. Each compiled set takes some 250 MB on disk, so there is one per kind of
+# target, not one per target.
+function(quill_add_headers name)
+  cmake_parse_arguments(HEADERS "" "" "LINKS;HEADERS" ${ARGN})
+  file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/${name}.cpp CONTENT "")
+  add_library(${name} OBJECT ${CMAKE_BINARY_DIR}/${name}.cpp)
+  target_link_libraries(${name} PRIVATE ${HEADERS_LINKS} quill_flags)
+  target_precompile_headers(${name} PRIVATE
+    ${HEADERS_HEADERS} <functional> <memory> <optional> <vector>)
+endfunction()
+
+if(QUILL_PRECOMPILED_HEADERS)
+  quill_add_headers(quill_headers_core LINKS Qt6::Core HEADERS <QtCore>)
+  quill_add_headers(quill_headers_ui LINKS Qt6::Widgets HEADERS <QtWidgets>)
+endif()
+if(QUILL_PRECOMPILED_HEADERS AND QUILL_TESTS)
+  find_package(GTest REQUIRED)
+  quill_add_headers(quill_headers_core_tests
+    LINKS Qt6::Core GTest::gmock HEADERS <QtCore> <gmock/gmock.h>)
+  quill_add_headers(quill_headers_ui_tests
+    LINKS Qt6::Widgets GTest::gmock HEADERS <QtWidgets> <gmock/gmock.h>)
+endif()
+
+# quill_precompile(TARGET core|ui|core_tests|ui_tests): the headers that nearly every file of such a
+# target includes.
 function(quill_precompile target kind)
-  if(NOT QUILL_PRECOMPILED_HEADERS)
-    return()
-  endif()
-  if(kind STREQUAL "ui")
-    target_precompile_headers(${target} PRIVATE <QtWidgets> <functional> <memory> <optional> <vector>)
-  else()
-    target_precompile_headers(${target} PRIVATE <QtCore> <functional> <memory> <optional> <vector>)
+  if(QUILL_PRECOMPILED_HEADERS)
+    target_precompile_headers(${target} REUSE_FROM quill_headers_${kind})
   endif()
 endfunction()
 
@@ -46,7 +66,7 @@ function(quill_add_tests name kind)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE
     ${TESTS_LINKS} quill_test_support quill_test_main_${kind} GTest::gmock GTest::gtest quill_flags)
-  quill_precompile(${name} ${kind})
+  quill_precompile(${name} ${kind}_tests)
   gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60
     PROPERTIES LABELS unit TIMEOUT 120)
   if(kind STREQUAL "core")
