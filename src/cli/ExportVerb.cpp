@@ -117,7 +117,8 @@ int Report(const QString& name, const ExportSummary& summary, const QIODevice& t
     return kExitPartly;
   }
   QTextStream& told = name == kStandardOutput ? console.Err : console.Out;
-  told << name << ": " << summary.Written << " contacts" << Qt::endl;
+  told << name << ": " << summary.Written << (summary.Written == 1 ? " contact" : " contacts")
+       << Qt::endl;
   return kExitDone;
 }
 

@@ -31,7 +31,7 @@ TEST_F(ExchangeReportTest, IsInformationWhenAllWentWell) {
 TEST_F(ExchangeReportTest, CountsWhatABoxHasNoRoomFor) {
   for (int i = 1; i <= 6; ++i) m_report.Target().Err << "line " << i << '\n';
   EXPECT_EQ(Show(kExitFailed).Text,
-            QStringLiteral("line 1\nline 2\nline 3\nline 4\n... and 2 more lines"));
+            QStringLiteral("line 1\nline 2\nline 3\nline 4\n... and 2 more"));
 }
 
 TEST_F(ExchangeReportTest, NamesFilesWithoutTheirFolders) {

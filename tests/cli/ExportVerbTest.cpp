@@ -78,7 +78,7 @@ TEST_F(ExportVerb, WritesToStandardOutput) {
   const std::string out = TakeOut();
   EXPECT_THAT(out, StartsWith("BEGIN:VCARD\r\nVERSION:3.0\r\nN:Bell;Bob;;;\r\n"));
   EXPECT_THAT(out, EndsWith("END:VCARD\r\n"));
-  EXPECT_EQ(TakeErr(), "-: 1 contacts\n");
+  EXPECT_EQ(TakeErr(), "-: 1 contact\n");
 }
 
 TEST_F(ExportVerb, LeavesTheOldFileWhenThereIsNothing) {

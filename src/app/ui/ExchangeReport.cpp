@@ -19,7 +19,7 @@ QString FirstLines(const QString& messages) {
   if (lines.size() <= kMessageLines) return lines.join(u'\n');
   const qsizetype more = lines.size() - kMessageLines;
   lines.resize(kMessageLines);
-  return lines.join(u'\n') + QStringLiteral("\n... and %1 more lines").arg(more);
+  return lines.join(u'\n') + QStringLiteral("\n... and %1 more").arg(more);
 }
 
 // A message box has no room for whole paths.
