@@ -1,7 +1,9 @@
 #include "PageMeasures.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QEvent>
+#include <QFile>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTimer>
@@ -12,16 +14,20 @@
 #include "Ruler.h"
 #include "app/Program.h"
 #include "app/ui/RunShell.h"
+#include "list/CategoryMenu.h"
 #include "list/ListState.h"
 #include "list/ui/ContactListCtrl.h"
 #include "list/ui/ContactsView.h"
+#include "memo/MemoListing.h"
 #include "resources/Ids.h"
+#include "store/Categories.h"
 
 namespace quill::bench {
 
 namespace {
 
 constexpr QStringView kFrame = u"16 ms";
+constexpr int kMemos = 2000;
 constexpr int kPauseForWindow = 10;  // milliseconds
 
 class PaintCounter : public QObject {
@@ -44,10 +50,12 @@ class PageMeasures {
     Ruler ruler;
     const auto paintList = [this] { return UntilPainted([this] { m_list.update(); }); };
     ruler.SetUnit(Unit::View, QStringLiteral("V: painting the list alone"), paintList, paintList);
-    MeasureIndex(ruler);
-    MeasureSearch(ruler);
+    MeasureIndex(ruler, QString());
+    MeasureSearch(ruler, QString());
+    MeasureCategories(ruler);
     m_view.ShowMode(ViewMode::ByName);
     MeasureScrolling(ruler);
+    MeasureMemos(ruler);
     return ruler;
   }
 
@@ -66,15 +74,15 @@ class PageMeasures {
     return *qobject_cast<Widget*>(m_view.Controls().at(id));
   }
 
-  void MeasureIndex(Ruler& ruler) {
-    const int row = ruler.AddRow(QStringLiteral("index button"), kFrame, Unit::View);
+  void MeasureIndex(Ruler& ruler, const QString& mode) {
+    const int row = ruler.AddRow(mode + QStringLiteral("index button"), kFrame, Unit::View);
     int button = 0;
     for (Rounds rounds = ruler.NewRounds(); rounds.Another(); button = (button + 1) % 5)
       ruler.Run(row, [&] { return UntilPainted([&] { m_view.ChooseIndex(button + 1); }); });
   }
 
-  void MeasureSearch(Ruler& ruler) {
-    const int row = ruler.AddRow(QStringLiteral("search"), kFrame, Unit::View);
+  void MeasureSearch(Ruler& ruler, const QString& mode) {
+    const int row = ruler.AddRow(mode + QStringLiteral("search"), kFrame, Unit::View);
     auto& edit = Control<QLineEdit>(ContactsViewIds::kSearchEdit);
     const QStringList texts = {QStringLiteral("B"), QStringLiteral("Bro"), QStringLiteral("\uAE40"),
                                QStringLiteral("Le")};
@@ -84,6 +92,31 @@ class PageMeasures {
       QCoreApplication::sendPostedEvents();
       ruler.Run(row, [this] { return UntilPainted([this] { m_view.Search(); }); });
     }
+  }
+
+  // As the menu behind the label does: one category after the other.
+  void MeasureCategories(Ruler& ruler) {
+    const QStringList offered = OfferedCategories();
+    const int row = ruler.AddRow(QStringLiteral("a category"), kFrame, Unit::View);
+    qsizetype next = 0;
+    for (Rounds rounds = ruler.NewRounds(); rounds.Another(); ++next) {
+      FillCategoryMenu(g_categoryMenu, offered, g_list.CategoryName);
+      const int id = ID_CATEGORY_FIRST + 1 + static_cast<int>(next % offered.size());
+      ruler.Run(row, [this, id] {
+        return UntilPainted([this, id] { m_view.Route().Run(id, CommandCheck::AsMenu); });
+      });
+    }
+  }
+
+  void MeasureMemos(Ruler& ruler) {
+    const auto count = QString::number(AllMemos(g_memo).size());
+    const QString mode = QStringLiteral("by memo, %1 of them: ").arg(count);
+    const int row = ruler.AddRow(mode + QStringLiteral("all"), kFrame, Unit::View);
+    for (Rounds rounds = ruler.NewRounds(); rounds.Another();)
+      ruler.Run(row,
+                [this] { return UntilPainted([this] { m_view.ShowMode(ViewMode::ByMemo); }); });
+    MeasureIndex(ruler, mode);
+    MeasureSearch(ruler, mode);
   }
 
   void MeasureScrolling(Ruler& ruler) {
@@ -125,6 +158,20 @@ CContactsView* FindShownView() {
   return nullptr;
 }
 
+// Empty files with names like those that the program gives.
+void MakeMemos(const Places& places, int count) {
+  const QString folder = places.DocumentsFolder + QStringLiteral("/Fennick/");
+  QDir().mkpath(folder);
+  for (int i = 0; i < count; ++i) {
+    const QChar letter(u'A' + i % 26);
+    QFile memo(
+        folder +
+        QStringLiteral("%1rown, Ann_20040915_%2.pwi").arg(letter).arg(i, 6, 10, QChar(u'0')));
+    // One that cannot be made is missed in the count that is printed.
+    (void)memo.open(QIODevice::WriteOnly);
+  }
+}
+
 // Once the application object is there: its loop runs this until the window is shown.
 void MeasureWhenShown() {
   CContactsView* const view = FindShownView();
@@ -137,6 +184,7 @@ void MeasureWhenShown() {
 }  // namespace
 
 std::optional<std::vector<Measure>> MeasurePages(const Places& places, QString& problem) {
+  MakeMemos(places, kMemos);
   ProgramOptions options;
   options.Where = places;
   Program program(std::move(options));

@@ -1,5 +1,7 @@
 #include "list/PendingRequest.h"
 
+#include <algorithm>
+
 #include "store/ContactStore.h"
 #include "store/Restriction.h"
 
@@ -20,7 +22,16 @@ Oid FindByName(const QString& fileAs) {
 
 RequestAnswer TakeRequest(PendingRequest& request, int kind, const QString& text) {
   const auto asked = static_cast<PendingKind>(kind);
-  if (asked != PendingKind::Show && asked != PendingKind::ShowAgain) return RequestAnswer::Ignored;
+  switch (asked) {
+    case PendingKind::New:
+      request = {.Kind = asked, .Text = text.first(std::min(text.size(), kRequestTextLimit))};
+      return RequestAnswer::Kept;
+    case PendingKind::Show:
+    case PendingKind::ShowAgain:
+      break;
+    default:
+      return RequestAnswer::Ignored;
+  }
   const Oid contact = FindByName(text);
   if (contact == 0) return RequestAnswer::NotFound;
   request = {.Kind = asked, .Contact = contact};

@@ -14,19 +14,23 @@ inline constexpr int kRequestMilliseconds = 100;
 enum class PendingKind {
   None = 0,
   Show = 1,       // the contact that the text names
+  New = 2,        // a new contact that holds the text
   ShowAgain = 4,  // the same by another entry
 };
+
+inline constexpr qsizetype kRequestTextLimit = 128;  // UTF-16 units; what is longer is cut
 
 // The latest request takes the place of an earlier one.
 struct PendingRequest {
   PendingKind Kind = PendingKind::None;
-  Oid Contact = 0;
+  Oid Contact = 0;    // to be shown
+  QString Text = {};  // of the new contact
 };
 extern PendingRequest g_pendingRequest;
 
 enum class RequestAnswer {
   Ignored,   // an unknown kind
-  NotFound,  // no contact is filed under exactly this text
+  NotFound,  // to be shown, but no contact is filed under exactly this text
   Kept,      // in request now
 };
 // Of several contacts of one name the first in the store's order is meant.

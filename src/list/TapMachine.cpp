@@ -67,7 +67,7 @@ TapIntention TapMachine::Release(const ListState& list, QPoint at) {
   intention.Action = m_current == m_anchor ? ActionOfTap(list, at.x()) : TapAction::EndRun;
   intention.Row = m_anchor;
   intention.At = at;
-  if (intention.Action == TapAction::Open) m_phase = Phase::Opened;
+  if (intention.Action != TapAction::EndRun) m_phase = Phase::Opened;
   return intention;
 }
 

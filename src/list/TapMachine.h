@@ -57,7 +57,7 @@ class TapMachine {
     Pressed,   // the hold timer runs
     Dragging,  // it was stopped, for good
     Held,      // the timer fired or a double tap opened: the release does nothing
-    Opened,    // idle; the last tap opened
+    Opened,    // idle; the last tap opened the contact or its card
   };
 
   bool IsDown() const { return m_phase == Phase::Pressed || m_phase == Phase::Dragging; }

@@ -55,6 +55,26 @@ TEST_F(PendingRequestTest, TheLatestTakesTheEarliersPlaceAndOneNotFoundDoesNot) 
   EXPECT_NE(kim, lee);
 }
 
+TEST_F(PendingRequestTest, ANewContactKeepsItsTextAndNeedsNobodyOfThatName) {
+  EXPECT_EQ(TakeRequest(m_request, 2, u"010-1234-5678"_qs), RequestAnswer::Kept);
+  EXPECT_EQ(m_request.Kind, PendingKind::New);
+  EXPECT_EQ(m_request.Contact, 0);
+  EXPECT_EQ(m_request.Text, u"010-1234-5678"_qs);
+}
+
+TEST_F(PendingRequestTest, ALongTextOfANewContactIsCutAtItsLimit) {
+  TakeRequest(m_request, 2, QString(kRequestTextLimit, u'1') + u'2');
+  EXPECT_EQ(m_request.Text, QString(kRequestTextLimit, u'1'));
+}
+
+TEST_F(PendingRequestTest, ALaterNewContactTakesThePlaceOfOneToBeShown) {
+  Add(u"Kim"_qs);
+  TakeRequest(m_request, 1, u"Kim"_qs);
+  TakeRequest(m_request, 2, QString());
+  EXPECT_EQ(m_request.Kind, PendingKind::New);
+  EXPECT_EQ(m_request.Contact, 0);
+}
+
 class UnknownRequest : public PendingRequestTest, public testing::WithParamInterface<int> {};
 
 TEST_P(UnknownRequest, IsIgnored) {
