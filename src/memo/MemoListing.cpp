@@ -1,6 +1,9 @@
 #include "memo/MemoListing.h"
 
 #include <algorithm>
+#include <tuple>
+#include <utility>
+#include <vector>
 
 #include "memo/MemoFolder.h"
 #include "platform/DeviceFiles.h"
@@ -10,23 +13,28 @@ namespace quill {
 
 namespace {
 
-char16_t LowerUnit(QChar unit) { return unit.toLower().unicode(); }
-
-// Unit by unit, each in lower case.
-bool SortsBeforeWithoutCase(QStringView a, QStringView b) {
-  return std::ranges::lexicographical_compare(a, b, {}, &LowerUnit, &LowerUnit);
+// Names are compared by this. It is made once for each, since a folder may hold thousands.
+QString InLowerCase(QStringView name) {
+  QString lower(name.size(), Qt::Uninitialized);
+  std::ranges::transform(name, lower.begin(), [](QChar unit) { return unit.toLower(); });
+  return lower;
 }
 
-// Names that differ in case only, which a device's folder cannot hold, keep to one order too.
-bool SortsBefore(const QString& a, const QString& b) {
-  if (SortsBeforeWithoutCase(a, b)) return true;
-  return !SortsBeforeWithoutCase(b, a) && a < b;
-}
+struct SortedName {
+  QString LowerCase;
+  QString Name;  // those that differ in case only keep to one order, too
 
-bool IsInRange(QStringView name, QStringView lower, QStringView upper) {
-  const bool fromLower = !SortsBeforeWithoutCase(name, lower);
-  const bool beforeUpper = SortsBeforeWithoutCase(name, upper);
-  return lower < upper ? fromLower && beforeUpper : fromLower || beforeUpper;
+  auto Key() const { return std::tie(LowerCase, Name); }
+};
+
+QStringList Sorted(const QStringList& names) {
+  std::vector<SortedName> sorted;
+  sorted.reserve(static_cast<std::size_t>(names.size()));
+  for (const QString& name : names) sorted.push_back({InLowerCase(name), name});
+  std::ranges::sort(sorted, {}, &SortedName::Key);
+  QStringList result;
+  for (SortedName& each : sorted) result.append(std::move(each.Name));
+  return result;
 }
 
 }  // namespace
@@ -34,15 +42,21 @@ bool IsInRange(QStringView name, QStringView lower, QStringView upper) {
 QStringList AllMemos(const MemoState& memo) { return MemosWithPrefix(memo, {}); }
 
 QStringList MemosInRange(const MemoState& memo, QStringView lower, QStringView upper) {
+  const QString from = InLowerCase(lower);
+  const QString to = InLowerCase(upper);
+  const bool wraps = lower >= upper;
   QStringList names = AllMemos(memo);
-  names.removeIf([&](const QString& name) { return !IsInRange(name, lower, upper); });
+  names.removeIf([&](const QString& name) {
+    const QString key = InLowerCase(name);
+    const bool isBefore = key < from;
+    const bool isBehind = key >= to;
+    return wraps ? isBefore && isBehind : isBefore || isBehind;
+  });
   return names;
 }
 
 QStringList MemosWithPrefix(const MemoState& memo, const QString& prefix) {
-  QStringList names = g_services.Files->Find(MemoPath(memo, prefix + QStringLiteral("*.pwi")));
-  std::sort(names.begin(), names.end(), SortsBefore);
-  return names;
+  return Sorted(g_services.Files->Find(MemoPath(memo, prefix + QStringLiteral("*.pwi"))));
 }
 
 std::optional<QString> MemoAt(const MemoState& memo, qsizetype position) {
