@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QScrollBar>
 
-#include "platform/InputPanel.h"
 #include "platform/Prompt.h"
 #include "platform/Services.h"
 #include "platform/ui/FileList.h"
@@ -60,11 +59,6 @@ void CFileListDlg::ShowFor(const FileRequest& request) {
   name.setVisible(writes);
   Control(FileListIds::kNameLabel)->setVisible(writes);
   ShowText(*this, FileListIds::kOption, request.Option);
-}
-
-// The panel may be up already.
-void CFileListDlg::OnInitDialog() {
-  if (g_services.InputPanel) OnVisibleAreaChanged(g_services.InputPanel->VisibleArea());
 }
 
 void CFileListDlg::OnVisibleAreaChanged(QRect area) { setGeometry(area); }

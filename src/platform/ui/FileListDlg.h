@@ -37,7 +37,6 @@ class CFileListDlg : public CDialog {
   void OnVisibleAreaChanged(QRect area) override;
 
  protected:
-  void OnInitDialog() override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QPushButton>
 
+#include "platform/InputPanel.h"
+#include "platform/Services.h"
 #include "platform/ui/InputCommit.h"
 #include "platform/ui/Screen.h"
 #include "platform/ui/Shade.h"
@@ -20,6 +22,7 @@ int CModalWindow::DoModal() {
   CShade shade(Screen());
   m_result.reset();
   Screen().Push(*this);
+  FitVisibleArea();
   OnInitDialog();
   show();
   raise();
@@ -32,6 +35,11 @@ int CModalWindow::DoModal() {
   return m_result.value_or(kResultCancel);
 }
 
+// The panel may be up already.
+void CModalWindow::FitVisibleArea() {
+  if (g_services.InputPanel) OnVisibleAreaChanged(g_services.InputPanel->VisibleArea());
+}
+
 // Where nothing had it before, the hidden window's control must not keep it.
 void CModalWindow::GiveFocusBack(QWidget* before) {
   QWidget* const now = window()->focusWidget();
@@ -42,8 +50,8 @@ void CModalWindow::GiveFocusBack(QWidget* before) {
 }
 
 void CModalWindow::WaitForEnd() {
+  if (!m_result) FocusFirstControl();
   if (m_result) return;
-  FocusFirstControl();
   QEventLoop loop;
   m_loop = &loop;
   loop.exec(QEventLoop::DialogExec);

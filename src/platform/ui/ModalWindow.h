@@ -26,15 +26,18 @@ class CModalWindow : public CWindow {
   void OnCancel() override { EndDialog(kResultCancel); }
 
  protected:
-  // Called in DoModal, when the window is on the stack and not yet shown.
+  // Called in DoModal, when the window is on the stack, in the area that the input panel leaves,
+  // and not yet shown.
   virtual void OnInitDialog() {}
+  // Called when it is shown and has not been ended yet.
+  virtual void FocusFirstControl();
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void FitVisibleArea();
   void WaitForEnd();
   void GiveFocusBack(QWidget* before);
-  void FocusFirstControl();
 
   QEventLoop* m_loop = nullptr;  // while DoModal waits
   std::optional<int> m_result;   // once EndDialog was called

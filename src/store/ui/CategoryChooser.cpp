@@ -6,7 +6,6 @@
 
 #include <algorithm>
 
-#include "platform/InputPanel.h"
 #include "platform/Prompt.h"
 #include "platform/Services.h"
 #include "platform/ui/CheckList.h"
@@ -120,10 +119,6 @@ void CCategoryChooser::Remove() {
   if (g_services.Prompt->Show(question) != PromptAnswer::Yes) return;
   if (!CarryOut(name, [&name] { return RemoveCategory(name); })) return;
   Offer(WithoutCategory(List().Items(), name), {});
-}
-
-void CCategoryChooser::OnInitDialog() {
-  if (g_services.InputPanel) OnVisibleAreaChanged(g_services.InputPanel->VisibleArea());
 }
 
 void CCategoryChooser::OnVisibleAreaChanged(QRect area) { resize(area.size()); }

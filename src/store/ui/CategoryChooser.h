@@ -23,7 +23,6 @@ class CCategoryChooser : public CDialog {
   void OnVisibleAreaChanged(QRect area) override;
 
  protected:
-  void OnInitDialog() override;
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
