@@ -36,7 +36,7 @@ class ViewFrame : public CWindow {
   }
   ~ViewFrame() override { Screen().Remove(*this); }
   WindowKind Kind() const override { return WindowKind::Frame; }
-  const ControlMap& Controls() const override { return View.Controls(); }
+  ControlMap Controls() const override { return View.Controls(); }
   CommandRoute Route() const override { return View.Route(); }
 
   CContactsView View;

@@ -32,7 +32,7 @@ CMainFrame::CMainFrame(CScreen& screen, const CommandTarget& applicationCommands
 
 CMainFrame::~CMainFrame() { Screen().Remove(*this); }
 
-const ControlMap& CMainFrame::Controls() const { return m_view->Controls(); }
+ControlMap CMainFrame::Controls() const { return m_view->Controls(); }
 
 MenuBarModel CMainFrame::MenuBar() const {
   const CommandRoute route = Route();

@@ -17,7 +17,7 @@ class CMainFrame : public CWindow {
   ~CMainFrame() override;
 
   WindowKind Kind() const override { return WindowKind::Frame; }
-  const ControlMap& Controls() const override;
+  ControlMap Controls() const override;
   MenuBarModel MenuBar() const override;
   CommandRoute Route() const override;
   void OnCancel() override;

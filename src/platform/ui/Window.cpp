@@ -24,7 +24,7 @@ void CWindow::SetCaption(const QString& caption) {
 }
 
 QWidget* CWindow::Control(int id) const {
-  const ControlMap& controls = Controls();
+  const ControlMap controls = Controls();
   const auto found = controls.find(id);
   return found == controls.end() ? nullptr : found->second;
 }

@@ -32,7 +32,7 @@ class CWindow : public QWidget, public TimerTarget {
   QString Caption() const { return m_caption; }
   void SetCaption(const QString& caption);
 
-  virtual const ControlMap& Controls() const { return m_controls; }
+  virtual ControlMap Controls() const { return m_controls; }
   // Null when the window has no such control.
   QWidget* Control(int id) const;
   void AddControl(int id, QWidget* control) { m_controls[id] = control; }
