@@ -31,7 +31,7 @@ struct PaintedItem {
   std::optional<Rgb> Fill = std::nullopt;
 };
 
-enum class PaintedRole { ListItem, Button, CheckBox, MenuItem, Separator, Text };
+enum class PaintedRole { ListItem, Button, CheckBox, MenuItem, PageTab, Separator, Text };
 
 enum class PaintedStateFlag {
   Selected = 1,

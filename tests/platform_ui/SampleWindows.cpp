@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "platform/ui/Edit.h"
+
 namespace quill::test {
 
 namespace {
@@ -54,6 +56,48 @@ bool SampleFrame::ShowContextMenu() {
 }
 
 SampleDialog::SampleDialog(CScreen& screen) : CDialog(screen, kSmall) {}
+
+SamplePage::SamplePage(CSheet& sheet, const QString& title, int command, QStringList& log)
+    : CSheetPage(sheet, title),
+      m_command(command),
+      m_log(log),
+      m_commands({{command, command, [this](int) { Note("command"); }, nullptr}}) {
+  for (const int id : {kFirstEdit, kSecondEdit}) {
+    auto* const edit = new CEdit(title + QString::number(id), this);
+    edit->setGeometry(10, 10 + 20 * (id - kFirstEdit), 100, 17);
+    AddControl(id, edit);
+  }
+}
+
+void SamplePage::Note(const char* what) {
+  m_log.push_back(QStringLiteral("%1 %2").arg(QString::fromLatin1(what), Title()));
+}
+
+void SamplePage::BecomeActive() {
+  Note("active");
+  if (FocusWanted) FocusWanted->setFocus();
+}
+
+MenuBarModel SamplePage::MenuBar() const { return {{}, {{Title(), {Item(Title(), m_command)}}}}; }
+
+CommandRoute SamplePage::Route() const {
+  CommandRoute route;
+  route.Add(m_commands);
+  return route;
+}
+
+bool SamplePage::ShowContextMenu() {
+  Note("context menu");
+  return true;
+}
+
+SampleSheet::SampleSheet(CScreen& screen, SheetTabs tabs)
+    : CSheet(screen, QStringLiteral("Sample sheet"), tabs),
+      One(*this, QStringLiteral("One"), 31, Log),
+      Two(*this, QStringLiteral("Two"), 32, Log),
+      Three(*this, QStringLiteral("Three"), 33, Log) {
+  for (SamplePage* page : {&One, &Two, &Three}) AddPage(*page);
+}
 
 const resources::DialogResource& FullScreenSample() { return kFullScreen; }
 

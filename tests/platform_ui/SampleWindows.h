@@ -5,6 +5,7 @@
 
 #include "platform/ui/Dialog.h"
 #include "platform/ui/Screen.h"
+#include "platform/ui/Sheet.h"
 
 namespace quill::test {
 
@@ -53,6 +54,41 @@ class SampleDialog : public CDialog {
   void OnInitDialog() override {
     if (Initialised) Initialised();
   }
+};
+
+// A page that notes in the sheet's log what it is told. Its title is its menu's too, with the
+// command that was given; the editors 201 and 202 stand on it, and whatever else is put there.
+class SamplePage : public CSheetPage {
+ public:
+  SamplePage(CSheet& sheet, const QString& title, int command, QStringList& log);
+
+  void LoadRows() override { Note("load"); }
+  void StoreRows() override { Note("store"); }
+  void BecomeActive() override;
+  void BecomeInactive() override { Note("inactive"); }
+  MenuBarModel MenuBar() const override;
+  CommandRoute Route() const override;
+  bool ShowContextMenu() override;
+
+  QWidget* FocusWanted = nullptr;  // by BecomeActive
+
+ private:
+  void Note(const char* what);
+
+  const int m_command;
+  QStringList& m_log;
+  CommandTarget m_commands;
+};
+
+// Three pages, "One" (command 31), "Two" (32) and "Three" (33).
+class SampleSheet : public CSheet {
+ public:
+  explicit SampleSheet(CScreen& screen, SheetTabs tabs = SheetTabs::AtBottom);
+
+  QStringList Log;  // "load One", "active One", ...
+  SamplePage One;
+  SamplePage Two;
+  SamplePage Three;
 };
 
 // Its resource, and the same controls on a dialog that fills the client area.

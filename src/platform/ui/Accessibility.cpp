@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "platform/ui/PaintedWindow.h"
-#include "platform/ui/Window.h"
+#include "platform/ui/SheetPage.h"
 
 namespace quill {
 
@@ -23,6 +23,8 @@ QAccessible::Role RoleOf(PaintedRole role) {
       return QAccessible::CheckBox;
     case PaintedRole::MenuItem:
       return QAccessible::MenuItem;
+    case PaintedRole::PageTab:
+      return QAccessible::PageTab;
     case PaintedRole::Separator:
       return QAccessible::Separator;
     case PaintedRole::Text:
@@ -191,6 +193,8 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
   if (auto* const painted = qobject_cast<CPaintedWindow*>(object))
     return new AccessiblePaintedWindow(*painted);
   if (auto* const window = qobject_cast<CWindow*>(object)) return new AccessibleWindow(*window);
+  if (auto* const page = qobject_cast<CSheetPage*>(object))
+    return new QAccessibleWidget(page, QAccessible::PropertyPage);
   return nullptr;
 }
 
