@@ -1,5 +1,5 @@
-// A fixture with a list state over a real store in memory. Its test programs link quill_list and
-// quill_store_pim.
+// A fixture with a list state over a real store in memory. Its test programs link quill_list,
+// quill_editor and quill_store_pim.
 #pragma once
 
 #include <QStringList>

@@ -1,9 +1,10 @@
 // A fixture whose every test begins and ends with the process-wide state as at the program's start.
-// Its programs link quill_list.
+// Its programs link quill_list and quill_editor.
 #pragma once
 
 #include <gtest/gtest.h>
 
+#include "editor/SheetState.h"
 #include "list/CategoryMenu.h"
 #include "list/ListState.h"
 #include "list/PendingRequest.h"
@@ -24,6 +25,7 @@ inline void ResetProcessState() {
   g_pendingRequest = {};
   g_memo = {};
   g_settings = {};
+  g_sheet = {};
   g_deleteScope = {};
   g_services = {};
 }

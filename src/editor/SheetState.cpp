@@ -1,0 +1,7 @@
+#include "editor/SheetState.h"
+
+namespace quill {
+
+SheetState g_sheet;
+
+}  // namespace quill
