@@ -9,6 +9,7 @@
 #include "list/ListState.h"
 #include "list/PendingRequest.h"
 #include "memo/MemoState.h"
+#include "platform/KeyPanelState.h"
 #include "platform/Services.h"
 #include "settings/DeleteScope.h"
 #include "settings/Settings.h"
@@ -27,6 +28,7 @@ inline void ResetProcessState() {
   g_settings = {};
   g_sheet = {};
   g_deleteScope = {};
+  g_keyPanel = {};
   g_services = {};
 }
 
