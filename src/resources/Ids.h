@@ -35,6 +35,28 @@ inline constexpr int ID_OPEN_MEMO_LAST = 33400;
 inline constexpr int ID_CATEGORY_FIRST = 107;
 inline constexpr int ID_CATEGORY_LAST = 1107;
 
+// The Edit menu of the record sheet's text pages.
+inline constexpr int ID_EDIT_UNDO = 32773;
+inline constexpr int ID_EDIT_CLEAR = 32774;
+inline constexpr int ID_EDIT_CUT = 40019;
+inline constexpr int ID_EDIT_COPY = 40020;
+inline constexpr int ID_EDIT_PASTE = 40021;
+
+// The menus of ink notes.
+inline constexpr int ID_INK_SELECT_ALL = 32780;
+inline constexpr int ID_INK_UNDO = 32781;
+inline constexpr int ID_INK_REDO = 32782;
+inline constexpr int ID_INK_CUT = 32783;
+inline constexpr int ID_INK_COPY = 32784;
+inline constexpr int ID_INK_PASTE = 32785;
+inline constexpr int ID_INK_CLEAR = 32786;
+inline constexpr int ID_INK_ZOOM_75 = 32787;
+inline constexpr int ID_INK_ZOOM_100 = 32788;
+inline constexpr int ID_INK_ZOOM_150 = 32789;
+inline constexpr int ID_INK_ZOOM_200 = 32790;
+inline constexpr int ID_INK_ZOOM_300 = 32791;
+inline constexpr int ID_INK_DELETE_NOTE = 32824;
+
 // The shell's own commands: the button for the input panel and the menu behind the title bar.
 inline constexpr int ID_SHELL_INPUT_PANEL = 60000;
 inline constexpr int ID_SHELL_LARGER = 60001;
@@ -42,6 +64,7 @@ inline constexpr int ID_SHELL_SMALLER = 60002;
 inline constexpr int ID_SHELL_FULL_SCREEN = 60003;
 inline constexpr int ID_SHELL_IMPORT = 60004;
 inline constexpr int ID_SHELL_EXPORT = 60005;
+inline constexpr int ID_IMPORTED_DETAILS = 60006;
 
 // The contact list view.
 namespace ContactsViewIds {
@@ -109,6 +132,35 @@ inline constexpr int kDialog = 270;
 inline constexpr int kLabel = 1012;
 inline constexpr int kEdit = 1017;
 }  // namespace NameEntryIds
+
+// The record sheet and its pages.
+namespace RecordSheetIds {
+inline constexpr int kBasicPage = 206;
+inline constexpr int kDetailPage = 207;
+inline constexpr int kMemoPage = 208;
+inline constexpr int kRowDropDown = 712;
+inline constexpr int kRowEdit = 713;
+inline constexpr int kRowDate = 716;
+inline constexpr int kNamePartEdit = 801;
+inline constexpr int kStreetEdit = 802;
+inline constexpr int kAddressPartEdit = 803;
+inline constexpr int kBasicScrollBar = 1006;
+inline constexpr int kDetailScrollBar = 1009;
+inline constexpr int kRestoreDraft = 1101;
+inline constexpr int kDiscardDraft = 1102;
+}  // namespace RecordSheetIds
+
+// The menu of a tap-and-hold on a record sheet's row.
+namespace RowMenuIds {
+inline constexpr int kOpen = 1;
+inline constexpr int kCopy = 2;
+}  // namespace RowMenuIds
+
+namespace ImportedDetailsIds {
+inline constexpr int kDialog = 290;
+inline constexpr int kText = 1001;
+inline constexpr int kCopy = 1002;
+}  // namespace ImportedDetailsIds
 
 namespace FileListIds {
 inline constexpr int kDialog = 280;

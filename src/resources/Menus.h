@@ -69,6 +69,29 @@ inline constexpr std::array kMemoPopup = {
     MenuEntry{u"Delete Memo", ID_DELETE_MEMO},
 };
 
+// The menu bar of the record sheet's text pages.
+inline constexpr std::array kTextEditMenu = {
+    MenuEntry{u"Undo", ID_EDIT_UNDO},   MenuEntry{u"Cut", ID_EDIT_CUT},
+    MenuEntry{u"Copy", ID_EDIT_COPY},   MenuEntry{u"Paste", ID_EDIT_PASTE},
+    MenuEntry{u"Clear", ID_EDIT_CLEAR},
+};
+inline constexpr std::array kTextMenu = {MenuResource{u"Edit", kTextEditMenu}};
+
+// The menu bar of ink notes.
+inline constexpr std::array kInkEditMenu = {
+    MenuEntry{u"Undo", ID_INK_UNDO},   MenuEntry{u"Redo", ID_INK_REDO},
+    MenuEntry{u"Cut", ID_INK_CUT},     MenuEntry{u"Copy", ID_INK_COPY},
+    MenuEntry{u"Paste", ID_INK_PASTE}, MenuEntry{u"Clear", ID_INK_CLEAR},
+    MenuEntry{u"Select All", ID_INK_SELECT_ALL},
+};
+inline constexpr std::array kInkToolMenu = {
+    MenuEntry{u"75%", ID_INK_ZOOM_75},   MenuEntry{u"100%", ID_INK_ZOOM_100},
+    MenuEntry{u"150%", ID_INK_ZOOM_150}, MenuEntry{u"200%", ID_INK_ZOOM_200},
+    MenuEntry{u"300%", ID_INK_ZOOM_300}, MenuEntry{u"Delete Note", ID_INK_DELETE_NOTE},
+};
+inline constexpr std::array kInkMenu = {MenuResource{u"Edit", kInkEditMenu},
+                                        MenuResource{u"Tool", kInkToolMenu}};
+
 // The menu that a tap-and-hold on the title bar opens.
 inline constexpr std::array kShellMenu = {
     MenuEntry{u"Larger", ID_SHELL_LARGER},           MenuEntry{u"Smaller", ID_SHELL_SMALLER},

@@ -1,0 +1,12 @@
+// The sounds that the device has.
+#pragma once
+
+#include <QStringList>
+
+namespace quill {
+
+// The names of the files in "\Windows\" with one of these extensions (such as "wav"), sorted
+// without case among all of them; empty when the folder cannot be read.
+QStringList SoundNames(const QStringList& extensions);
+
+}  // namespace quill

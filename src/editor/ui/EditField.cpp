@@ -1,0 +1,30 @@
+#include "editor/ui/EditField.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+namespace quill {
+
+EditField FieldOf(QLineEdit& edit) {
+  return {.CanUndo = edit.isUndoAvailable(),
+          .HasSelection = edit.hasSelectedText(),
+          .Undo = [&edit] { edit.undo(); },
+          .Cut = [&edit] { edit.cut(); },
+          .Copy = [&edit] { edit.copy(); },
+          .Paste = [&edit] { edit.paste(); },
+          .Clear = [&edit] {
+            if (edit.hasSelectedText()) edit.del();
+          }};
+}
+
+EditField FieldOf(QPlainTextEdit& edit) {
+  return {.CanUndo = edit.document()->isUndoAvailable(),
+          .HasSelection = edit.textCursor().hasSelection(),
+          .Undo = [&edit] { edit.undo(); },
+          .Cut = [&edit] { edit.cut(); },
+          .Copy = [&edit] { edit.copy(); },
+          .Paste = [&edit] { edit.paste(); },
+          .Clear = [&edit] { edit.textCursor().removeSelectedText(); }};
+}
+
+}  // namespace quill

@@ -1,0 +1,26 @@
+// A text editor, of one line or of several, as the commands of an Edit menu see it.
+#pragma once
+
+#include <functional>
+
+class QLineEdit;
+class QPlainTextEdit;
+
+namespace quill {
+
+// How it stands and what can be done to it. Without an editor all of it does nothing. Not to be
+// kept: it does not own the editor.
+struct EditField {
+  bool CanUndo = false;
+  bool HasSelection = false;
+  std::function<void()> Undo = [] {};
+  std::function<void()> Cut = [] {};
+  std::function<void()> Copy = [] {};
+  std::function<void()> Paste = [] {};
+  std::function<void()> Clear = [] {};  // what is selected
+};
+
+EditField FieldOf(QLineEdit& edit);
+EditField FieldOf(QPlainTextEdit& edit);
+
+}  // namespace quill
