@@ -5,6 +5,8 @@
 #include <array>
 #include <span>
 
+#include "platform/TextFitting.h"
+
 namespace quill {
 
 namespace {
@@ -38,11 +40,6 @@ QString FirstFilled(const ContactRecord& record, std::span<const ContactField> f
   for (const ContactField field : fields)
     if (!record[field].isEmpty()) return record[field];
   return {};
-}
-
-QString OnOneLine(QString text) {
-  return text.replace(QLatin1Char('\r'), QLatin1Char(' '))
-      .replace(QLatin1Char('\n'), QLatin1Char(' '));
 }
 
 QString Address(const ContactRecord& record, std::span<const ContactField> parts) {

@@ -18,6 +18,7 @@ using Rgb = quint32;  // 0xRRGGBB
 
 enum class TextAlign { Left, Centre, Right };
 enum class TextWeight { Normal, Bold };
+enum class FillPattern { Solid, Dots };  // dots: every other pixel of the rectangle's first line
 
 // A filled rectangle (Fill), a picture or a text; drawn in this order when it is several at once.
 // Text is one line, vertically centred in the rectangle and clipped to it.
@@ -29,6 +30,7 @@ struct PaintedItem {
   Rgb Color = 0x000000;
   const resources::Picture* Picture = nullptr;
   std::optional<Rgb> Fill = std::nullopt;
+  FillPattern Pattern = FillPattern::Solid;
 };
 
 enum class PaintedRole { ListItem, Button, CheckBox, MenuItem, PageTab, Separator, Text };

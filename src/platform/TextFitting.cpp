@@ -10,6 +10,39 @@ bool SplitsSurrogatePair(QStringView text, qsizetype at) {
   return at > 0 && text[at].isLowSurrogate() && text[at - 1].isHighSurrogate();
 }
 
+// How many units of the text fit, at least one character.
+qsizetype FittingLength(QStringView text, double limit, const TextWidth& width) {
+  qsizetype fitting = 0;
+  for (qsizetype length = 1; length <= text.size(); ++length) {
+    if (length < text.size() && SplitsSurrogatePair(text, length)) continue;
+    if (fitting > 0 && width(text.first(length)) > limit) break;
+    fitting = length;
+  }
+  return fitting;
+}
+
+// The end of the text's first line: before a blank if there is one.
+qsizetype LineEnd(QStringView text, double limit, const TextWidth& width) {
+  const qsizetype fitting = FittingLength(text, limit, width);
+  if (fitting == text.size() || text[fitting] == u' ') return fitting;
+  const qsizetype blank = text.first(fitting).lastIndexOf(u' ');
+  return blank > 0 ? blank : fitting;
+}
+
+QStringView WithoutBlanksBefore(QStringView text) {
+  while (text.startsWith(u' ')) text = text.sliced(1);
+  return text;
+}
+
+void AppendWrapped(QStringView paragraph, double limit, const TextWidth& width,
+                   QStringList& lines) {
+  do {
+    const qsizetype end = LineEnd(paragraph, limit, width);
+    lines.append(paragraph.first(end).toString());
+    paragraph = WithoutBlanksBefore(paragraph.sliced(end));
+  } while (!paragraph.isEmpty());
+}
+
 }  // namespace
 
 QString ShortenText(const QString& text, double limit, const TextWidth& width) {
@@ -22,6 +55,17 @@ QString ShortenText(const QString& text, double limit, const TextWidth& width) {
   }
   // Only the last character crosses the limit: intended to stay whole.
   return text;
+}
+
+QString OnOneLine(QString text) { return text.replace(u'\r', u' ').replace(u'\n', u' '); }
+
+QStringList WrapLines(const QString& text, double limit, const TextWidth& width) {
+  QStringList lines;
+  if (text.isEmpty()) return lines;
+  QString plain = text;
+  plain.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+  for (const QString& paragraph : plain.split(u'\n')) AppendWrapped(paragraph, limit, width, lines);
+  return lines;
 }
 
 }  // namespace quill

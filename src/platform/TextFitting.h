@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 #include <functional>
@@ -16,5 +17,13 @@ using TextWidth = std::function<double(QStringView)>;
 // therefore somewhat wider than the limit, which is intended: painters clip. A surrogate pair
 // counts as one character. A text that is not wider is returned unchanged, line breaks included.
 QString ShortenText(const QString& text, double limit, const TextWidth& width);
+
+// The text with a blank for each carriage return and line feed.
+QString OnOneLine(QString text);
+
+// The text as lines that are not wider than the limit: broken at its own line breaks, at blanks,
+// which go with the break, and inside a word only where the word alone is too wide. Every line
+// keeps at least one character. An empty text has no line.
+QStringList WrapLines(const QString& text, double limit, const TextWidth& width);
 
 }  // namespace quill

@@ -59,5 +59,40 @@ TEST(ShortenText, LoneHalvesOfPairsAreCharactersOfTheirOwn) {
   EXPECT_EQ(ShortenText(text, 5, TenEach), QString(1, QChar(0xDC00)) + QStringLiteral("..."));
 }
 
+TEST(OnOneLine, EachLineBreakIsABlank) {
+  EXPECT_EQ(OnOneLine(QStringLiteral("a\r\nb\nc\rd")), QStringLiteral("a  b c d"));
+}
+
+struct WrappingCase {
+  const char16_t* Text;
+  double Limit;
+  const char16_t* Lines;  // separated by "|"
+};
+
+class WrapLinesTest : public testing::TestWithParam<WrappingCase> {};
+
+TEST_P(WrapLinesTest, FollowsTheRule) {
+  const WrappingCase& rule = GetParam();
+  EXPECT_EQ(WrapLines(QString::fromUtf16(rule.Text), rule.Limit, TenEach).join(u'|'),
+            QString::fromUtf16(rule.Lines));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, WrapLinesTest,
+    testing::Values(WrappingCase{u"one two", 70, u"one two"},  // as wide as the limit
+                    WrappingCase{u"one two", 69, u"one|two"},
+                    WrappingCase{u"one two", 30, u"one|two"},  // the blank hangs out
+                    WrappingCase{u"one two three", 70, u"one two|three"},
+                    WrappingCase{u"one   two", 50, u"one  |two"},
+                    WrappingCase{u"abcdefgh", 30, u"abc|def|gh"},
+                    WrappingCase{u"ab cdefgh", 40, u"ab|cdef|gh"},
+                    WrappingCase{u" abcdefg", 40, u" abc|defg"},  // no empty line before a word
+                    WrappingCase{u"abc", 5, u"a|b|c"},            // one character at least
+                    WrappingCase{u"one\r\ntwo\nthree\rfour", 100, u"one|two|three|four"},
+                    WrappingCase{u"one\n\ntwo", 100, u"one||two"},
+                    WrappingCase{u"a\U0001F600\U0001F600b", 20, u"a\U0001F600|\U0001F600b"}));
+
+TEST(WrapLines, AnEmptyTextHasNoLine) { EXPECT_TRUE(WrapLines({}, 50, TenEach).isEmpty()); }
+
 }  // namespace
 }  // namespace quill

@@ -36,6 +36,14 @@ TEST_F(RowPainterTest, AFillIsItsRectangle) {
   EXPECT_EQ(Ink(Draw({.Rectangle = {10, 5, 30, 20}, .Fill = 0x204060})), QRect(10, 5, 30, 20));
 }
 
+TEST_F(RowPainterTest, DotsAreEveryOtherPixelOfTheFirstLine) {
+  const QImage image =
+      Draw({.Rectangle = {10, 5, 6, 3}, .Fill = 0x204060, .Pattern = FillPattern::Dots});
+  EXPECT_EQ(Ink(image), QRect(10, 5, 5, 1));
+  for (int x = 10; x < 16; ++x)
+    EXPECT_EQ(image.pixel(x, 5), x % 2 == 0 ? qRgb(0x20, 0x40, 0x60) : qRgb(255, 255, 255)) << x;
+}
+
 TEST_F(RowPainterTest, TextStandsInTheMiddleOfItsRectangleByTheCellsOwnMeasures) {
   const int baseLine = 5 + (30 - kCellHeight) / 2 + kCellAscent;
   const QRect ink = Ink(Draw({.Rectangle = {10, 5, 80, 30}, .Text = QStringLiteral("HH")}));

@@ -11,6 +11,14 @@ namespace quill {
 
 namespace {
 
+void DrawFill(QPainter& painter, const PaintedItem& item) {
+  const QColor color = QColor::fromRgb(*item.Fill);
+  const QRect& area = item.Rectangle;
+  if (item.Pattern == FillPattern::Solid) return painter.fillRect(area, color);
+  for (int x = area.left(); x <= area.right(); x += 2)
+    painter.fillRect(QRect(x, area.top(), 1, 1), color);
+}
+
 QPolygonF PathPolygon(const resources::PicturePath& path) {
   QPolygonF polygon;
   for (const resources::PicturePoint& point : path.Points) polygon << QPointF(point.X, point.Y);
@@ -69,7 +77,7 @@ TextWidth NormalTextWidth() {
 
 void DrawRow(QPainter& painter, const PaintedRow& row) {
   for (const PaintedItem& item : row.Items) {
-    if (item.Fill) painter.fillRect(item.Rectangle, QColor::fromRgb(*item.Fill));
+    if (item.Fill) DrawFill(painter, item);
     if (item.Picture) DrawPicture(painter, item);
     if (!item.Text.isEmpty()) DrawText(painter, item);
   }
