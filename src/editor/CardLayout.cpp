@@ -1,0 +1,95 @@
+#include "editor/CardLayout.h"
+
+#include <algorithm>
+
+namespace quill {
+
+namespace {
+
+constexpr int kLineHeight = 16;
+constexpr int kMargin = 5;  // above and below the lines, and to both sides
+constexpr int kLabelWidth = 40;
+constexpr int kValueLeft = 50;
+constexpr int kValueWidth = kCardWidth - kMargin - kValueLeft;
+
+constexpr int kCardLeft = 20;  // on the screen
+constexpr int kHighestTop = 50;
+constexpr int kLowestBottom = 295;
+constexpr int kFirstAnchorAbove = 120;  // in the list
+constexpr int kDistance = 5;            // from the anchor
+
+int TextTop(int line) { return line * kLineHeight + kMargin; }
+
+PaintedItem ValueLine(int line, const QString& text) {
+  return {.Rectangle = {kValueLeft, TextTop(line), kValueWidth, kLineHeight},
+          .Text = text,
+          .Color = kCardColor};
+}
+
+PaintedRow LayOutGround(int height) {
+  const QRect area(0, 0, kCardWidth, height);
+  return {.Rectangle = area,
+          .Role = PaintedRole::Separator,
+          .Items = {{.Rectangle = area, .Fill = kCardBackground}}};
+}
+
+PaintedRow LayOutNothing() {
+  const QRect area(kMargin, kMargin, kCardWidth - 2 * kMargin, kLineHeight);
+  return {.Rectangle = area,
+          .SpokenName = kNoContactInformation.toString(),
+          .Role = PaintedRole::Text,
+          .Items = {{.Rectangle = area,
+                     .Text = kNoContactInformation.toString(),
+                     .Alignment = TextAlign::Centre,
+                     .Color = kCardColor}}};
+}
+
+PaintedRow LayOutLine(const CardLine& line, int first, const TextWidth& width) {
+  const QString label = line.Label.toString();
+  PaintedRow row{
+      .Rectangle = {kMargin, TextTop(first), kCardWidth - 2 * kMargin, line.Height * kLineHeight},
+      .SpokenName = label + u' ' + line.Text,
+      .Role = PaintedRole::Text};
+  row.Items.push_back({.Rectangle = {kMargin, TextTop(first), kLabelWidth, kLineHeight},
+                       .Text = label,
+                       .Alignment = TextAlign::Right,
+                       .Color = kCardColor});
+  const QStringList texts = line.Height == 1
+                                ? QStringList(line.Text)
+                                : WrapLines(line.Text, kValueWidth, width).mid(0, line.Height);
+  for (int i = 0; i < texts.size(); ++i) row.Items.push_back(ValueLine(first + i, texts[i]));
+  return row;
+}
+
+}  // namespace
+
+int CardLineCount(const std::vector<CardLine>& lines) {
+  int count = 0;
+  for (const CardLine& line : lines) count += line.Height;
+  return count;
+}
+
+int CardHeight(int lineCount) { return std::max(lineCount, 1) * kLineHeight + 2 * kMargin; }
+
+int CardAnchorOf(int row) { return row * kLineHeight + 10; }
+
+QRect PlaceCard(int lineCount, int anchorY, int listTop) {
+  const int height = CardHeight(lineCount);
+  const int y = anchorY + listTop;
+  const int top = anchorY >= kFirstAnchorAbove ? std::max(y - kDistance - height, kHighestTop)
+                                               : std::min(y + kDistance, kLowestBottom - height);
+  return {kCardLeft, top, kCardWidth, height};
+}
+
+std::vector<PaintedRow> LayOutCard(const std::vector<CardLine>& lines, const TextWidth& width) {
+  std::vector<PaintedRow> rows{LayOutGround(CardHeight(CardLineCount(lines)))};
+  int first = 0;
+  for (const CardLine& line : lines) {
+    rows.push_back(LayOutLine(line, first, width));
+    first += line.Height;
+  }
+  if (lines.empty()) rows.push_back(LayOutNothing());
+  return rows;
+}
+
+}  // namespace quill
