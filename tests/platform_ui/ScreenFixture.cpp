@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "platform/KeyPanelState.h"
 #include "platform/Services.h"
 #include "platform/ui/Accessibility.h"
 #include "platform/ui/Look.h"
@@ -33,6 +34,7 @@ ScreenFixture::ScreenFixture()
 
 ScreenFixture::~ScreenFixture() {
   m_outer.reset();
+  g_keyPanel = {};
   g_services = {};
 }
 

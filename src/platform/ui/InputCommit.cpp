@@ -1,12 +1,20 @@
 #include "platform/ui/InputCommit.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QInputMethod>
 #include <QLineEdit>
 
+#include "platform/ui/PreeditWatch.h"
+#include "platform/ui/Screen.h"
+
 namespace quill {
 
-void CommitInput() { QGuiApplication::inputMethod()->commit(); }
+void CommitInput() {
+  if (const CScreen* const screen = ScreenAround(QApplication::focusWidget()))
+    screen->Preedit().Commit();
+  else
+    QGuiApplication::inputMethod()->commit();
+}
 
 QString EditorText(const QLineEdit& editor) {
   CommitInput();

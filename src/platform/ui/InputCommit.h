@@ -1,5 +1,5 @@
-// Input methods hold a half-composed syllable back: commit it before an editor is read, moved or
-// left, or it is lost.
+// Whoever composes holds a half-composed syllable back: commit it before an editor is read or
+// moved, or it is lost. Where the focus, a pen or a key ends it, the screen's PreeditWatch does.
 #pragma once
 
 #include <QString>

@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QPushButton>
 
+#include <algorithm>
+
 #include "platform/InputPanel.h"
 #include "platform/Services.h"
 #include "platform/ui/InputCommit.h"
@@ -56,6 +58,12 @@ void CModalWindow::WaitForEnd() {
   m_loop = &loop;
   loop.exec(QEventLoop::DialogExec);
   m_loop = nullptr;
+}
+
+void CModalWindow::OnVisibleAreaChanged(QRect area) {
+  if (Size() == WindowSize::FullScreen) return;
+  const int lowest = std::max(area.bottom() + 1 - height(), 0);
+  move(x(), std::min(y(), lowest));
 }
 
 void CModalWindow::EndDialog(int result) {

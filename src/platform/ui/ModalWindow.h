@@ -24,6 +24,8 @@ class CModalWindow : public CWindow {
   bool HasOK() const override { return true; }
   void OnOK() override { EndDialog(kResultOK); }
   void OnCancel() override { EndDialog(kResultCancel); }
+  // A small window moves up out of the input panel's way.
+  void OnVisibleAreaChanged(QRect area) override;
 
  protected:
   // Called in DoModal, when the window is on the stack, in the area that the input panel leaves,

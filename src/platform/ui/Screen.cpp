@@ -9,9 +9,12 @@
 
 #include "platform/InputPanel.h"
 #include "platform/Services.h"
+#include "platform/ui/InputCommit.h"
+#include "platform/ui/KeyPanel.h"
 #include "platform/ui/MenuBar.h"
 #include "platform/ui/MenuPopup.h"
 #include "platform/ui/ModalWindow.h"
+#include "platform/ui/PreeditWatch.h"
 #include "platform/ui/TitleBar.h"
 #include "resources/Menus.h"
 
@@ -38,6 +41,8 @@ CScreen::CScreen(QWidget* outer)
     : QWidget(outer),
       m_titleBar(new CTitleBar(*this)),
       m_menuBar(new CMenuBar(*this)),
+      m_preedit(new PreeditWatch(this)),
+      m_keys(new CKeyPanel(*this, *m_preedit)),
       m_screenCommands(
           {{ID_SHELL_INPUT_PANEL, ID_SHELL_INPUT_PANEL, [](int) { ToggleInputPanel(); },
             [](int, CommandState& state) {
@@ -45,9 +50,11 @@ CScreen::CScreen(QWidget* outer)
               state.Checked = state.Enabled && g_services.InputPanel->IsUp();
             }}}) {
   setFixedSize(kScreenWidth, kScreenHeight);
+  m_preedit->SetKeys(m_keys);
   QCoreApplication::instance()->installEventFilter(this);
   if (g_services.InputPanel) g_services.InputPanel->Changed = [this] { TellVisibleArea(); };
   UpdateChrome();
+  ShowKeys();
 }
 
 CScreen::~CScreen() {
@@ -83,9 +90,26 @@ void CScreen::UpdateChrome() {
   CWindow* const owner = ChromeOwner();
   m_titleBar->ShowFor(owner);
   m_menuBar->ShowFor(owner);
-  if (!IsChromeUsable()) return;
-  m_titleBar->raise();
-  m_menuBar->raise();
+  if (IsChromeUsable()) {
+    m_titleBar->raise();
+    m_menuBar->raise();
+  }
+  RaiseKeys();
+}
+
+// A small window so tall that it reaches below them stands before them.
+void CScreen::RaiseKeys() {
+  const CWindow* const top = Topmost();
+  const bool covered =
+      top && top->Size() == WindowSize::Small && top->geometry().intersects(kKeyPanelArea);
+  if (!m_popup && !covered) m_keys->raise();
+}
+
+// What was composed with them is text before they go.
+void CScreen::ShowKeys() {
+  const bool up = g_services.InputPanel && g_services.InputPanel->IsUp();
+  if (!up) CommitInput();
+  m_keys->setVisible(up);
 }
 
 int CScreen::TrackMenu(QPoint at, const std::vector<MenuItem>& items) {
@@ -117,6 +141,7 @@ void CScreen::ShowShellMenu(QPoint at) {
 
 void CScreen::TellVisibleArea() {
   UpdateChrome();
+  ShowKeys();
   const QRect area = g_services.InputPanel->VisibleArea();
   for (CWindow* window : m_windows) window->OnVisibleAreaChanged(area);
 }
@@ -126,6 +151,7 @@ bool CScreen::IsChromeUsable() const { return !m_popup && ChromeOwner() == Topmo
 bool CScreen::IsIdle() const { return !m_popup && m_windows.size() <= 1; }
 
 void CScreen::CloseAll() {
+  CommitInput();
   m_closing = true;
   if (m_popup) m_popup->Dismiss();
   std::for_each(m_windows.rbegin(), m_windows.rend(), [](CWindow* window) {

@@ -12,9 +12,11 @@
 
 namespace quill {
 
+class CKeyPanel;
 class CMenuBar;
 class CMenuPopup;
 class CTitleBar;
+class PreeditWatch;
 
 inline constexpr QRect kTitleBarArea{0, 0, kScreenWidth, kTitleBarHeight};
 inline constexpr QRect kClientArea{0, kTitleBarHeight, kScreenWidth, kClientHeight};
@@ -52,8 +54,12 @@ class CScreen : public QWidget {
   void SetShellCommands(const CommandTarget* commands) { m_shellCommands = commands; }
   void ShowShellMenu(QPoint at);
 
-  // Title bar and menu bar show the topmost full-screen window and stand above its shade.
+  // Title bar and menu bar show the topmost full-screen window and stand above its shade; the keys
+  // stand above every shade but a popup's.
   void UpdateChrome();
+
+  // What is being composed in an editor.
+  PreeditWatch& Preedit() const { return *m_preedit; }
 
   // True when title bar and menu bar can be used: no popup and no small window lies over them.
   bool IsChromeUsable() const;
@@ -76,10 +82,14 @@ class CScreen : public QWidget {
   void RunShellCommand(int id);
   CWindow* ChromeOwner() const;
   void TellVisibleArea();
+  void ShowKeys();
+  void RaiseKeys();
 
   std::vector<CWindow*> m_windows;
   CTitleBar* m_titleBar;
   CMenuBar* m_menuBar;
+  PreeditWatch* m_preedit;
+  CKeyPanel* m_keys;
   CMenuPopup* m_popup = nullptr;
   CommandTarget m_screenCommands;
   const CommandTarget* m_shellCommands = nullptr;
