@@ -36,7 +36,8 @@ QUrl MailOf(const QString& address) {
 QUrl PageOf(const QString& text) {
   const QString trimmed = text.trimmed();
   const QUrl url(trimmed);
-  if (url.scheme() == u"http" || url.scheme() == u"https") return url.host().isEmpty() ? QUrl() : url;
+  if (url.scheme() == u"http" || url.scheme() == u"https")
+    return url.host().isEmpty() ? QUrl() : url;
   const bool hasScheme = trimmed.contains(QStringLiteral("://"));
   const QUrl completed(QStringLiteral("https://") + trimmed);
   return hasScheme || !completed.host().contains(u'.') ? QUrl() : completed;

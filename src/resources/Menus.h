@@ -79,9 +79,12 @@ inline constexpr std::array kTextMenu = {MenuResource{u"Edit", kTextEditMenu}};
 
 // The menu bar of ink notes.
 inline constexpr std::array kInkEditMenu = {
-    MenuEntry{u"Undo", ID_INK_UNDO},   MenuEntry{u"Redo", ID_INK_REDO},
-    MenuEntry{u"Cut", ID_INK_CUT},     MenuEntry{u"Copy", ID_INK_COPY},
-    MenuEntry{u"Paste", ID_INK_PASTE}, MenuEntry{u"Clear", ID_INK_CLEAR},
+    MenuEntry{u"Undo", ID_INK_UNDO},
+    MenuEntry{u"Redo", ID_INK_REDO},
+    MenuEntry{u"Cut", ID_INK_CUT},
+    MenuEntry{u"Copy", ID_INK_COPY},
+    MenuEntry{u"Paste", ID_INK_PASTE},
+    MenuEntry{u"Clear", ID_INK_CLEAR},
     MenuEntry{u"Select All", ID_INK_SELECT_ALL},
 };
 inline constexpr std::array kInkToolMenu = {

@@ -12,9 +12,10 @@ EditField FieldOf(QLineEdit& edit) {
           .Cut = [&edit] { edit.cut(); },
           .Copy = [&edit] { edit.copy(); },
           .Paste = [&edit] { edit.paste(); },
-          .Clear = [&edit] {
-            if (edit.hasSelectedText()) edit.del();
-          }};
+          .Clear =
+              [&edit] {
+                if (edit.hasSelectedText()) edit.del();
+              }};
 }
 
 EditField FieldOf(QPlainTextEdit& edit) {

@@ -140,8 +140,7 @@ EditField CAddressPartEditor::Field() const {
 }
 
 ControlMap CAddressPartEditor::Controls() const {
-  return {{RecordSheetIds::kStreetEdit, m_street},
-          {RecordSheetIds::kAddressPartEdit, &LineEdit()}};
+  return {{RecordSheetIds::kStreetEdit, m_street}, {RecordSheetIds::kAddressPartEdit, &LineEdit()}};
 }
 
 void CAddressPartEditor::ShowField(int part, const QRect& area, const QString& value) {

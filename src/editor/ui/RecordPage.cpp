@@ -60,7 +60,10 @@ CRecordPage::~CRecordPage() {
 }
 
 void CRecordPage::ListenToRows() {
-  m_rows->Tapped = [this] { CloseParts(); };
+  m_rows->Tapped = [this] {
+    CloseParts();
+    SumUp();
+  };
   m_rows->PartsAsked = [this](RowSet parts) { ShowParts(parts); };
   m_rows->MoveAsked = [this](RowMove move) { MoveEdit(move); };
 }
@@ -137,10 +140,16 @@ void CRecordPage::ShowParts(RowSet parts) {
     if (editor->Parts() == parts) editor->Open();
 }
 
-// The rows behind the parts show what was typed into them.
 void CRecordPage::CloseParts() {
-  if (OpenParts()) m_rows->setFocus(Qt::OtherFocusReason);
-  for (CPartEditor* editor : m_partEditors) editor->Close();
+  CPartEditor* const open = OpenParts();
+  if (!open) return;
+  m_rows->setFocus(Qt::OtherFocusReason);
+  open->Close();
+  SumUp();
+}
+
+// The rows before the parts show what was typed into them.
+void CRecordPage::SumUp() {
   SumUpParts(m_record, m_set);
   m_rows->ShowRows();
 }
@@ -151,7 +160,7 @@ void CRecordPage::MoveEdit(RowMove move) {
   const int first = move == RowMove::Next ? 0 : kRecordRowCount - 1;
   const int row = from < 0 ? first : RowAfterMove(from, move, kRecordRowCount).value_or(first);
   EndEdits();
-  ScrollTo(SheetTopShowing(row, m_rows->Top(), RecordRowsShown(height()), Panel()));
+  ScrollTo(SheetTopShowing(row, m_rows->Top(), RowsShown(), Panel()));
   m_rows->StartEdit(row);
 }
 
@@ -168,13 +177,15 @@ void CRecordPage::ScrollTo(int top) {
   m_scrollBar->setValue(top);
 }
 
+int CRecordPage::RowsShown() const { return RecordRowsShown(height() - kRecordListArea.top()); }
+
 // The input panel came or went.
 void CRecordPage::resizeEvent(QResizeEvent* event) {
   m_scrollBar->resize(m_scrollBar->width(), event->size().height());
   m_scrollBar->setRange(0, LargestSheetTop(Panel()));
   int top = SheetTopWithPanel(m_rows->Top(), Panel());
   if (m_rows->EditedRow() >= 0)
-    top = SheetTopShowing(m_rows->EditedRow(), top, RecordRowsShown(height()), Panel());
+    top = SheetTopShowing(m_rows->EditedRow(), top, RowsShown(), Panel());
   ScrollTo(top);
 }
 

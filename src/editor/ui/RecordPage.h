@@ -52,10 +52,12 @@ class CRecordPage : public CSheetPage, public TimerTarget {
   EditField ActiveField() const;
   CPartEditor* OpenParts() const;
   void CloseParts();
+  void SumUp();
   void ShowParts(RowSet parts);
   void MoveEdit(RowMove move);
   void Scroll(int action);
   void ScrollTo(int top);
+  int RowsShown() const;
 
   SheetRecord& m_record;
   const RowSet m_set;

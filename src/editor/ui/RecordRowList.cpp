@@ -48,8 +48,9 @@ RecordRow& CRecordRowList::RowAt(int row) {
 }
 
 const RecordRow* CRecordRowList::EditedRecordRow() const {
-  return m_edited < 0 ? nullptr
-                      : &RowsOf(std::as_const(m_record), m_page)[static_cast<std::size_t>(m_edited)];
+  return m_edited < 0
+             ? nullptr
+             : &RowsOf(std::as_const(m_record), m_page)[static_cast<std::size_t>(m_edited)];
 }
 
 void CRecordRowList::ShowRows() {

@@ -3,6 +3,7 @@
 #include "list/ContactChanges.h"
 #include "list/ui/ContactsView.h"
 #include "list/ui/MemoCommands.h"
+#include "list/ui/RecordOpening.h"
 #include "platform/ui/Screen.h"
 #include "platform/ui/WaitCursor.h"
 #include "resources/Ids.h"
@@ -43,9 +44,7 @@ void CopySelected(CContactsView& view) {
   view.Rebuild();
 }
 
-void MakeNew(CContactsView& view) {
-  if (IsByMemo()) MakeNewMemo(view);
-}
+void MakeNew(CContactsView& view) { IsByMemo() ? MakeNewMemo(view) : MakeNewContact(view); }
 
 }  // namespace
 
@@ -54,11 +53,10 @@ std::unique_ptr<CommandTarget> MakeContactCommands(CContactsView& view) {
     state.Enabled = !g_list.SelectedKeys.empty();
   };
   const auto whenListed = [](int, CommandState& state) { state.Enabled = g_list.Total > 0; };
-  const auto byMemo = [](int, CommandState& state) { state.Enabled = IsByMemo(); };
   return std::make_unique<CommandTarget>(std::vector<CommandRow>{
       {ContactsViewIds::kSearchButton, ContactsViewIds::kSearchButton,
        [&view](int) { view.Search(); }, nullptr},
-      {ID_FILE_NEW, ID_FILE_NEW, [&view](int) { MakeNew(view); }, byMemo},
+      {ID_FILE_NEW, ID_FILE_NEW, [&view](int) { MakeNew(view); }, nullptr},
       {ID_DELETE_ITEMS, ID_DELETE_ITEMS, [&view](int) { DeleteSelected(view); }, whenSelected},
       {ID_DELETE_ALL, ID_DELETE_ALL, [&view](int) { DeleteListed(view); }, whenListed},
       {ID_COPY_CONTACT, ID_COPY_CONTACT, [&view](int) { CopySelected(view); }, nullptr},

@@ -7,7 +7,8 @@
 
 #include <utility>
 
-#include "editor/CardText.h"
+#include "editor/SheetState.h"
+#include "editor/ui/ContactSummaryCard.h"
 #include "list/CategoryLabelLayout.h"
 #include "list/ContactPopup.h"
 #include "list/IndexRanges.h"
@@ -26,6 +27,7 @@
 #include "list/ui/IndexStrip.h"
 #include "list/ui/LinkedItemCommands.h"
 #include "list/ui/MemoCommands.h"
+#include "list/ui/RecordOpening.h"
 #include "list/ui/SettingsCommands.h"
 #include "list/ui/ViewModeCommands.h"
 #include "platform/Prompt.h"
@@ -96,9 +98,7 @@ void CContactsView::ListenToList() {
   m_list->ScrollAsked = [this](ScrollRequest request) { Scroll(request, 0); };
   m_list->MoveAsked = [this](KeyMove move) { MoveRow(move); };
   m_list->OpenAsked = [this](int row) { OpenRow(row); };
-  m_list->CardAsked = [this](int row, QPoint at) {
-    if (CardAsked) CardAsked(row, at);
-  };
+  m_list->CardAsked = [this](int row, QPoint at) { ShowCard(row, at); };
   m_list->PopupAsked = [this](int row, QPoint at) { ShowRowPopup(row, at); };
 }
 
@@ -172,7 +172,10 @@ void CContactsView::OpenPending() {
   const CScreen* const screen = ScreenAround(this);
   if (screen && !screen->IsIdle()) return;  // the timer goes on until what is open has closed
   g_services.Timers->Kill(*this, kRequestTimer);
-  OpenContact(std::exchange(g_pendingRequest, {}).Contact);
+  const PendingRequest request = std::exchange(g_pendingRequest, {});
+  if (request.Kind != PendingKind::New) return EditContact(*this, request.Contact);
+  g_sheet.SeedText = request.Text;
+  MakeNewContact(*this);
 }
 
 void CContactsView::Rebuild() {
@@ -229,6 +232,7 @@ void CContactsView::RunScrollAction(int action) {
 }
 
 void CContactsView::Scroll(ScrollRequest request, int thumb) {
+  DismissCard();
   if (ScrollList(g_list, request, thumb)) m_list->ShowPage();
   m_scrollBar->setValue(g_list.Top);
 }
@@ -241,13 +245,18 @@ void CContactsView::MoveRow(KeyMove move) {
 
 void CContactsView::OpenRow(int row) {
   if (g_list.Mode == ViewMode::ByMemo) return OpenMemo(*this);
-  OpenContact(g_list.Rows[static_cast<std::size_t>(row)].Oid);
+  EditContact(*this, g_list.Rows[static_cast<std::size_t>(row)].Oid);
 }
 
-void CContactsView::OpenContact(Oid oid) {
-  ContactRecord record;
-  if (ReadContact(ContactSelector(oid), record) != 0)
-    g_services.Prompt->Show({.Text = CardText(record)});
+void CContactsView::ShowCard(int row, QPoint at) {
+  CScreen* const screen = ScreenAround(this);
+  if (!m_card) m_card = std::make_unique<CContactSummaryCard>(*screen);
+  m_card->ShowFor(g_list.Rows[static_cast<std::size_t>(row)].Oid, at.y(),
+                  m_list->mapTo(screen, QPoint()).y());
+}
+
+void CContactsView::DismissCard() {
+  if (m_card) m_card->Dismiss();
 }
 
 void CContactsView::ShowRowPopup(int row, QPoint at) {
@@ -260,6 +269,7 @@ void CContactsView::ShowRowPopup(int row, QPoint at) {
 }
 
 void CContactsView::ShowPage() {
+  DismissCard();
   m_category->ShowChosen();
   m_indexStrip->ShowChosen();
   m_list->ShowPage();

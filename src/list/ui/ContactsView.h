@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-#include <functional>
+#include <memory>
 
 #include "list/KeyMoves.h"
 #include "list/ListState.h"
@@ -20,6 +20,7 @@ class QScrollBar;
 namespace quill {
 
 class CCategoryLabel;
+class CContactSummaryCard;
 class CContactListCtrl;
 class CIndexStrip;
 
@@ -57,10 +58,6 @@ class CContactsView : public QWidget, public TimerTarget {
   void Relayout();
   void FocusList();
 
-  // What pen and keys ask for a contact of the page; at is in pixels of the list. Unset, nothing is
-  // shown.
-  std::function<void(int row, QPoint at)> CardAsked;
-
  protected:
   void paintEvent(QPaintEvent* event) override;
 
@@ -72,8 +69,9 @@ class CContactsView : public QWidget, public TimerTarget {
   void Scroll(ScrollRequest request, int thumb);
   void MoveRow(KeyMove move);
   void OpenRow(int row);
-  void OpenContact(Oid oid);
   void OpenPending();
+  void ShowCard(int row, QPoint at);
+  void DismissCard();
   void ShowRowPopup(int row, QPoint at);
   void ShowPage();
   void ShowWaiting(bool waiting);
@@ -84,7 +82,8 @@ class CContactsView : public QWidget, public TimerTarget {
   CContactListCtrl* m_list;
   QScrollBar* m_scrollBar;
   ControlMap m_controls;
-  bool m_waiting = false;  // the wait cursor is this view's
+  bool m_waiting = false;                       // the wait cursor is this view's
+  std::unique_ptr<CContactSummaryCard> m_card;  // once it was asked for
   std::unique_ptr<CommandTarget> m_contactCommands;
   std::unique_ptr<CommandTarget> m_linkedItemCommands;
   std::unique_ptr<CommandTarget> m_memoCommands;

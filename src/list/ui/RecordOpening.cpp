@@ -1,0 +1,31 @@
+#include "list/ui/RecordOpening.h"
+
+#include "editor/ui/EditRecordSheet.h"
+#include "list/ui/ContactsView.h"
+#include "platform/ui/Screen.h"
+#include "resources/Ids.h"
+
+namespace quill {
+
+namespace {
+
+void Run(CEditRecordSheet& sheet, CContactsView& view) {
+  if (sheet.DoModal() != kResultOK) return;
+  sheet.Save();
+  view.Rebuild();
+}
+
+}  // namespace
+
+void EditContact(CContactsView& view, Oid oid) {
+  CEditRecordSheet sheet(*ScreenAround(&view), QStringLiteral("Edit"));
+  sheet.SetContact(oid);
+  Run(sheet, view);
+}
+
+void MakeNewContact(CContactsView& view) {
+  CEditRecordSheet sheet(*ScreenAround(&view), QStringLiteral("New"));
+  Run(sheet, view);
+}
+
+}  // namespace quill
