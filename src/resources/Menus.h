@@ -95,6 +95,11 @@ inline constexpr std::array kInkToolMenu = {
 inline constexpr std::array kInkMenu = {MenuResource{u"Edit", kInkEditMenu},
                                         MenuResource{u"Tool", kInkToolMenu}};
 
+// What the title bar's menu has of the record sheet's own.
+inline constexpr std::array kRecordTitleMenu = {
+    MenuEntry{u"Imported details...", ID_IMPORTED_DETAILS},
+};
+
 // The menu that a tap-and-hold on the title bar opens.
 inline constexpr std::array kShellMenu = {
     MenuEntry{u"Larger", ID_SHELL_LARGER},           MenuEntry{u"Smaller", ID_SHELL_SMALLER},

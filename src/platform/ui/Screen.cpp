@@ -132,11 +132,15 @@ MenuItem CScreen::InputPanelButton() const {
 }
 
 void CScreen::ShowShellMenu(QPoint at) {
-  if (!m_shellCommands) return;
-  CommandRoute route;
-  route.Add(*m_shellCommands);
-  const int id = TrackMenu(at, BuildMenuItems(resources::kShellMenu, route));
-  if (id != 0) RunShellCommand(id);
+  const CWindow* const window = Topmost();
+  CommandRoute route = window ? window->Route() : CommandRoute();
+  if (m_shellCommands) route.Add(*m_shellCommands);
+  std::vector<MenuItem> items;
+  if (window) items = BuildMenuItems(window->TitleMenu(), route);
+  if (!items.empty()) items.push_back({.Separator = true});
+  for (MenuItem& item : BuildMenuItems(resources::kShellMenu, route)) items.push_back(item);
+  const int id = TrackMenu(at, items);
+  if (id != 0) route.Run(id, CommandCheck::AsMenu);
 }
 
 void CScreen::TellVisibleArea() {
@@ -148,7 +152,10 @@ void CScreen::TellVisibleArea() {
 
 bool CScreen::IsChromeUsable() const { return !m_popup && ChromeOwner() == Topmost(); }
 
-bool CScreen::IsIdle() const { return !m_popup && m_windows.size() <= 1; }
+bool CScreen::IsIdle() const {
+  const auto isOpen = [](const CWindow* window) { return window->Kind() != WindowKind::Card; };
+  return !m_popup && std::ranges::count_if(m_windows, isOpen) <= 1;
+}
 
 void CScreen::CloseAll() {
   CommitInput();

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <map>
+#include <span>
 
 #include "platform/CommandTarget.h"
 #include "platform/MenuModel.h"
@@ -40,6 +41,8 @@ class CWindow : public QWidget, public TimerTarget {
   // What the menu bar shows while this window is on top.
   virtual MenuBarModel MenuBar() const;
   virtual CommandRoute Route() const { return {}; }
+  // What a tap-and-hold on the title bar offers for this window, before the shell's commands.
+  virtual std::span<const resources::MenuEntry> TitleMenu() const { return {}; }
   CommandResult RunCommand(int id, CommandCheck check = CommandCheck::AsMenu);
   void OnTimer(int) override {}
 
