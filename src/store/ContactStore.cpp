@@ -117,12 +117,13 @@ Oid ReadListRow(const ContactSelector& selector, ContactRecord& record) {
 
 void ReadNewContactDefaults(ContactRecord& record) { record = {}; }
 
-void WriteContact(Oid oid, const ContactRecord& record) {
+Oid WriteContact(Oid oid, const ContactRecord& record) {
+  const ContactInkBlob ink = std::exchange(g_contactInk, {});
   ContactsFolder* folder = Folder();
-  if (folder && folder->Save(oid, record, g_contactInk.Bytes) == 0) {
+  const Oid written = folder ? folder->Save(oid, record, ink.Bytes) : 0;
+  if (folder && written == 0)
     qCWarning(storeLog) << "Contact" << oid << "not written:" << g_store.Provider->LastError();
-  }
-  g_contactInk = {};
+  return written;
 }
 
 bool DeleteContact(Oid oid) {

@@ -62,9 +62,10 @@ Oid ReadContact(const ContactSelector& selector, ContactRecord& record);
 Oid ReadListRow(const ContactSelector& selector, ContactRecord& record);
 void ReadNewContactDefaults(ContactRecord& record);
 
-// Writes the record's written-back fields and g_contactInk, then frees g_contactInk. Oid 0 makes a
-// new contact. Reports nothing: a failure goes to the log.
-void WriteContact(Oid oid, const ContactRecord& record);
+// Writes the record's written-back fields and g_contactInk, then frees g_contactInk, whether or not
+// it could write: who wants to keep the ink copies it before. Oid 0 makes a new contact. Returns
+// the contact's Oid, 0 when nothing was written (the reason goes to the log, nothing to the user).
+Oid WriteContact(Oid oid, const ContactRecord& record);
 bool DeleteContact(Oid oid);
 // All of them or, with false, none (the reason goes to the log).
 bool DeleteContacts(const ContactCollection& collection);

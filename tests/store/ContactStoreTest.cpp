@@ -190,12 +190,13 @@ TEST_F(ContactStore, TheInkTravelsInTheBlob) {
   ContactRecord record;
   record[ContactField::FileAs] = QStringLiteral("Kim");
   g_contactInk.Bytes = ink;
-  WriteContact(0, record);
+  const Oid written = WriteContact(0, record);
+  EXPECT_NE(written, 0);
   EXPECT_EQ(g_contactInk.Count(), 0);
 
   ContactRecord read;
   const Oid oid = ReadContact(ContactSelector(AllContacts(), 1), read);
-  EXPECT_NE(oid, 0);
+  EXPECT_EQ(oid, written);
   EXPECT_EQ(g_contactInk.Bytes, ink);
   EXPECT_EQ(g_contactInk.Count(), 5);
 }
@@ -255,7 +256,7 @@ TEST_F(ContactStore, WritingAnUnknownContactWritesNothing) {
   ContactRecord record;
   record[ContactField::FileAs] = QStringLiteral("Kim");
   g_contactInk.Bytes = "ink";
-  WriteContact(77, record);
+  EXPECT_EQ(WriteContact(77, record), 0);
   EXPECT_EQ(Count(AllContacts()), 0);
   EXPECT_EQ(g_contactInk.Count(), 0);
 }

@@ -33,7 +33,7 @@ bool FaultyContacts::Read(Oid oid, ContactItem& item) {
 }
 
 Oid FaultyContacts::Save(Oid oid, const ContactRecord& record, const QByteArray& bodyInk) {
-  return Inner->Save(oid, record, bodyInk);
+  return Faults.Save ? 0 : Inner->Save(oid, record, bodyInk);
 }
 
 Oid FaultyContacts::SaveWhole(Oid oid, const ContactItem& item) {

@@ -8,6 +8,7 @@ namespace quill::test {
 // What shall fail: a whole operation, or reading one contact.
 struct StoreFaults {
   bool Restrict = false;
+  bool Save = false;
   Oid ReadListRow = 0;
   Oid Read = 0;
   Oid SaveWhole = 0;
