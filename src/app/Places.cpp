@@ -10,6 +10,7 @@
 #include <sys/stat.h>
 
 #include "app/InstanceLock.h"
+#include "platform/DesktopRecoveryFiles.h"
 
 namespace quill {
 namespace {
@@ -92,7 +93,8 @@ QString SampleHome(const QProcessEnvironment& environment) {
 DeviceRoots DeviceRootsOf(const Places& places) {
   return {.Device = places.DeviceFolder,
           .MyDocuments = places.DocumentsFolder,
-          .Own = {places.StoreFile, places.SettingsFile, InstanceLockFile(places.StateFolder)}};
+          .Own = {places.StoreFile, places.SettingsFile, InstanceLockFile(places.StateFolder),
+                  places.StateFolder + u'/' + kRecoveryPrefix.toString()}};
 }
 
 QString MakeFolders(const Places& places) {

@@ -8,6 +8,7 @@
 #include "platform/Clock.h"
 #include "platform/DesktopDeviceFiles.h"
 #include "platform/DesktopInputPanel.h"
+#include "platform/DesktopRecoveryFiles.h"
 #include "platform/JsonRegistry.h"
 #include "platform/Services.h"
 #include "store/pim/PimStore.h"
@@ -21,11 +22,12 @@ Q_LOGGING_CATEGORY(logProgram, "quill.program")
 
 struct Program::Services {
   explicit Services(const Places& places)
-      : Registry(places.SettingsFile), Files(DeviceRootsOf(places)) {}
+      : Registry(places.SettingsFile), Files(DeviceRootsOf(places)), Recovery(places.StateFolder) {}
 
   SystemClock Clock;
   JsonRegistry Registry;
   DesktopDeviceFiles Files;
+  DesktopRecoveryFiles Recovery;
   DesktopInputPanel InputPanel;
 };
 
@@ -38,6 +40,7 @@ Program::Program(ProgramOptions options)
   g_services.Clock = &m_services->Clock;
   g_services.Registry = &m_services->Registry;
   g_services.Files = &m_services->Files;
+  g_services.Recovery = &m_services->Recovery;
   g_services.InputPanel = &m_services->InputPanel;
 }
 
@@ -45,6 +48,7 @@ Program::~Program() {
   g_services.Clock = nullptr;
   g_services.Registry = nullptr;
   g_services.Files = nullptr;
+  g_services.Recovery = nullptr;
   g_services.InputPanel = nullptr;
 }
 

@@ -5,17 +5,15 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <cerrno>
 #include <utility>
 
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include "platform/DevicePath.h"
+#include "platform/WholeFile.h"
 
 namespace quill {
 
@@ -75,14 +73,6 @@ bool Refuse(const char* operation, const QString& path, const QString& reason) {
 }
 
 QString NotReachable() { return QStringLiteral("no such place, or the name is not allowed"); }
-
-// Makes the folder's entries durable, so that a file renamed into it is found after a power loss.
-void SyncFolder(const QString& folder) {
-  const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY);
-  if (handle < 0 || ::fsync(handle) != 0)
-    qCWarning(logFiles) << "cannot sync" << folder << qt_error_string(errno);
-  if (handle >= 0) ::close(handle);
-}
 
 }  // namespace
 
@@ -164,12 +154,8 @@ std::optional<QByteArray> DesktopDeviceFiles::ReadWhole(const QString& path) con
 bool DesktopDeviceFiles::WriteWhole(const QString& path, const QByteArray& content) {
   const QString place = PlaceFor(path);
   if (place.isEmpty()) return Refuse("writing", path, NotReachable());
-  QSaveFile file(place);
-  if (file.open(QIODevice::WriteOnly)) file.write(content);
-  if (file.error() != QFileDevice::NoError || !file.commit())
-    return Refuse("writing", path, file.errorString());
-  SyncFolder(QFileInfo(place).path());
-  return true;
+  const QString problem = WriteWholeFile(place, content);
+  return problem.isEmpty() || Refuse("writing", path, problem);
 }
 
 bool DesktopDeviceFiles::Remove(const QString& path) {

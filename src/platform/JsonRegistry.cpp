@@ -4,9 +4,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QSaveFile>
 
 #include <algorithm>
+
+#include "platform/WholeFile.h"
 
 namespace quill {
 
@@ -14,14 +15,10 @@ namespace {
 
 Q_LOGGING_CATEGORY(logRegistry, "quill.registry")
 
-// Moves the file out of the way under a name that nothing has yet.
 bool SetAside(const QString& file) {
-  QString aside = file + QStringLiteral(".damaged");
-  for (int number = 2; QFileInfo::exists(aside); ++number)
-    aside = file + QStringLiteral(".damaged-%1").arg(number);
-  const bool done = QFile::rename(file, aside);
-  if (done) qCWarning(logRegistry) << "damaged settings are kept as" << aside;
-  return done;
+  const QString aside = SetFileAside(file);
+  if (!aside.isEmpty()) qCWarning(logRegistry) << "damaged settings are kept as" << aside;
+  return !aside.isEmpty();
 }
 
 }  // namespace
@@ -74,10 +71,9 @@ bool JsonRegistry::Replace(RegistryKeys keys) {
     return false;
   }
   QDir().mkpath(QFileInfo(m_file).absolutePath());  // a failure shows when the file is opened
-  QSaveFile file(m_file);
-  if (file.open(QIODevice::WriteOnly)) file.write(JsonFromRegistry(keys));
-  if (file.error() != QFileDevice::NoError || !file.commit()) {
-    qCWarning(logRegistry) << "cannot write" << m_file << file.errorString();
+  const QString problem = WriteWholeFile(m_file, JsonFromRegistry(keys));
+  if (!problem.isEmpty()) {
+    qCWarning(logRegistry) << "cannot write" << m_file << problem;
     return false;
   }
   m_keys = std::move(keys);

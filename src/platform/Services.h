@@ -8,6 +8,7 @@ class Clock;
 class DeviceFiles;
 class InputPanel;
 class Prompt;
+class RecoveryFiles;
 class RegistryStore;
 class Timers;
 
@@ -16,6 +17,7 @@ struct Services {
   quill::Timers* Timers = nullptr;
   RegistryStore* Registry = nullptr;
   DeviceFiles* Files = nullptr;
+  RecoveryFiles* Recovery = nullptr;
   quill::InputPanel* InputPanel = nullptr;
   quill::Prompt* Prompt = nullptr;
 };

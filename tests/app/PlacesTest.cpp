@@ -36,7 +36,7 @@ TEST(Places, AHomesOwnFilesAreNotTheDevices) {
   EXPECT_EQ(roots.Device, u"/tmp/home"_qs);
   EXPECT_EQ(roots.MyDocuments, u"/tmp/home/My Documents"_qs);
   EXPECT_EQ(roots.Own, QStringList({u"/tmp/home/store.db"_qs, u"/tmp/home/settings.json"_qs,
-                                    u"/tmp/home/quill.lock"_qs}));
+                                    u"/tmp/home/quill.lock"_qs, u"/tmp/home/recovery-"_qs}));
 }
 
 TEST(Places, AUsersDeviceFilesLieBesideTheStore) {

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/DeviceFiles.h"
+#include "platform/RecoveryFiles.h"
 #include "platform/RegistryStore.h"
 #include "platform/Services.h"
 
@@ -30,6 +31,9 @@ TEST_F(ProgramAt, AHomeInstallsTheServicesForItsLife) {
     EXPECT_TRUE(g_services.InputPanel);
     ASSERT_TRUE(g_services.Files);
     EXPECT_TRUE(g_services.Files->WriteWhole(u"\\My Documents\\A.pwi"_qs, "memo"));
+    ASSERT_TRUE(g_services.Recovery);
+    EXPECT_TRUE(g_services.Recovery->Write(u"a.json"_qs, "kept"));
+    EXPECT_FALSE(g_services.Files->Exists(u"\\recovery-a.json"_qs));
     ASSERT_TRUE(g_services.Registry);
     EXPECT_TRUE(g_services.Registry->PutNumber(u"Key"_qs, u"Name"_qs, 7));
   }
@@ -37,9 +41,11 @@ TEST_F(ProgramAt, AHomeInstallsTheServicesForItsLife) {
   EXPECT_FALSE(g_services.InputPanel);
   EXPECT_FALSE(g_services.Registry);
   EXPECT_FALSE(g_services.Files);
+  EXPECT_FALSE(g_services.Recovery);
   EXPECT_TRUE(QFileInfo::exists(m_folder.filePath(u"My Documents/A.pwi"_qs)));
   const Program again(Options());
   EXPECT_EQ(g_services.Registry->QueryNumber(u"Key"_qs, u"Name"_qs), 7U);
+  EXPECT_EQ(g_services.Recovery->Read(u"a.json"_qs), QByteArray("kept"));
 }
 
 TEST_F(ProgramAt, AHomeOpensTheEmbeddedStoreThere) {

@@ -1,0 +1,54 @@
+#include "platform/WholeFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace quill {
+namespace {
+
+class WholeFile : public testing::Test {
+ protected:
+  QString At(const QString& name) const { return m_folder.filePath(name); }
+  QByteArray Content(const QString& name) const {
+    QFile file(At(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
+  }
+  QStringList Names() const { return QDir(m_folder.path()).entryList(QDir::Files); }
+
+  QTemporaryDir m_folder;
+};
+
+TEST_F(WholeFile, IsMadeAndReplaced) {
+  EXPECT_EQ(WriteWholeFile(At(u"a"_qs), "old"), QString());
+  EXPECT_EQ(Content(u"a"_qs), "old");
+  EXPECT_EQ(WriteWholeFile(At(u"a"_qs), "new"), QString());
+  EXPECT_EQ(Content(u"a"_qs), "new");
+  EXPECT_EQ(Names(), QStringList(u"a"_qs));
+}
+
+TEST_F(WholeFile, AFailureSaysWhyAndLeavesNothingBehind) {
+  EXPECT_NE(WriteWholeFile(At(u"no such folder/a"_qs), "new"), QString());
+  ASSERT_TRUE(QDir(m_folder.path()).mkdir(u"taken"_qs));
+  EXPECT_NE(WriteWholeFile(At(u"taken"_qs), "new"), QString());
+  EXPECT_TRUE(Names().isEmpty());
+}
+
+TEST_F(WholeFile, AFileSetAsideTakesTheFirstNameThatIsFree) {
+  for (const QByteArray& content : {QByteArray("1"), QByteArray("2"), QByteArray("3")}) {
+    ASSERT_EQ(WriteWholeFile(At(u"a"_qs), content), QString());
+    EXPECT_NE(SetFileAside(At(u"a"_qs)), QString());
+  }
+  EXPECT_EQ(Names(), QStringList({u"a.damaged"_qs, u"a.damaged-2"_qs, u"a.damaged-3"_qs}));
+  EXPECT_EQ(Content(u"a.damaged"_qs), "1");
+  EXPECT_EQ(Content(u"a.damaged-3"_qs), "3");
+}
+
+TEST_F(WholeFile, WhatIsNotThereCannotBeSetAside) {
+  EXPECT_EQ(SetFileAside(At(u"a"_qs)), QString());
+}
+
+}  // namespace
+}  // namespace quill
