@@ -1,0 +1,42 @@
+// Drafts of contacts: what was entered into a record sheet and could not be stored or was not worth
+// storing, kept beside the store until the user takes it back or throws it away.
+//
+// They are in one recovery file. What in it cannot be understood is put aside, with a line in the
+// log and none for the user; without recovery files there are no drafts.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+#include "editor/SheetRecord.h"
+#include "store/ContactRecord.h"
+
+namespace quill {
+
+struct Draft {
+  int Number = 0;      // given when it is saved first; 0 before
+  quill::Oid Oid = 0;  // 0: of a new contact
+  QString FileAs = {};
+  ContactRecord Record = {};  // as RecordOf makes it
+  QByteArray Ink = {};
+
+  bool operator==(const Draft&) const = default;
+};
+
+// Keeps it beside the others, or in place of the one of its number. Durable: it outlives a crash.
+// Returns its number, 0 when it could not be kept.
+int SaveDraft(const Draft& draft);
+
+// The one that was first kept last.
+std::optional<Draft> LoadDraft();
+
+// True when there is none of this number afterwards.
+bool DiscardDraft(int number);
+
+// The sheet that goes on with the draft, its ink in g_contactInk. When its contact is no longer
+// there it makes a new one, under the old FileAs. The draft stays until the sheet is saved.
+SheetRecord SheetOfDraft(const Draft& draft, SheetState& state);
+
+}  // namespace quill

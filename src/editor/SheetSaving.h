@@ -1,0 +1,20 @@
+// What OK on a record sheet does.
+#pragma once
+
+#include "editor/SheetRecord.h"
+#include "settings/Settings.h"
+
+namespace quill {
+
+enum class SheetOutcome {
+  Written,
+  NothingToSave,
+  KeptAsDraft,  // not worth writing but not empty, or the store could not write it
+  Lost,         // nor could a draft be kept
+};
+
+// Writes the sheet's contact with the ink notes in g_contactInk, which are freed, and forgets the
+// draft that it came from. Says nothing to the user: failures go to the log.
+SheetOutcome SaveSheet(const SheetRecord& sheet, const Settings& settings);
+
+}  // namespace quill

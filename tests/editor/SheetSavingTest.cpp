@@ -1,0 +1,192 @@
+#include "editor/SheetSaving.h"
+
+#include <gtest/gtest.h>
+
+#include "editor/Draft.h"
+#include "store/ContactStore.h"
+#include "store/pim/PimStore.h"
+#include "support/DeviceHome.h"
+#include "support/FaultyStore.h"
+#include "support/FreshState.h"
+
+namespace quill {
+namespace {
+
+using enum ContactField;
+
+class SheetSavingTest : public test::FreshState {
+ protected:
+  void SetUp() override { ASSERT_EQ(OpenSession(m_store), StartupCode::Opened); }
+  void TearDown() override { CloseSession(); }
+
+  Oid Add(const QString& fileAs, const QByteArray& ink = {}) {
+    ContactRecord record;
+    record[FileAs] = fileAs;
+    return m_store.Contacts()->Save(0, record, ink);
+  }
+  ContactItem Stored(Oid oid) {
+    ContactItem item;
+    m_store.Contacts()->Read(oid, item);
+    return item;
+  }
+  ContactItem StoredFirst() { return Stored(m_store.Contacts()->OidAt(AllContacts(), 1)); }
+
+  test::DeviceHome m_home;
+  PimStore m_pimStore{QStringLiteral(":memory:")};
+  test::FaultyStore m_store{m_pimStore};
+  SheetState m_state;
+  Settings m_settings;
+};
+
+void Type(SheetRecord& sheet, RowSet set, int row, const QString& text) {
+  RowsOf(sheet, set)[static_cast<std::size_t>(row)].Value = text;
+}
+
+TEST_F(SheetSavingTest, ANewContactIsWrittenAndTheStoreFilesIt) {
+  SheetRecord sheet = LoadSheet(0, m_state);
+  Type(sheet, RowSet::NameParts, 1, QStringLiteral("Minsu"));
+  Type(sheet, RowSet::NameParts, 3, QStringLiteral("Kim"));
+  g_contactInk.Bytes = "ink";
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::Written);
+  EXPECT_EQ(StoredFirst().Record[FileAs], QStringLiteral("Kim, Minsu"));
+  EXPECT_EQ(StoredFirst().BodyInk, "ink");
+  EXPECT_EQ(g_contactInk.Count(), 0);
+  EXPECT_EQ(LoadDraft(), std::nullopt);
+}
+
+TEST_F(SheetSavingTest, AnExistingContactIsWrittenUnderItsOldName) {
+  const Oid kim = Add(QStringLiteral("Kim"), "ink");
+  SheetRecord sheet = LoadSheet(kim, m_state);
+  Type(sheet, RowSet::NameParts, 3, QStringLiteral("Lee"));
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::Written);
+  EXPECT_EQ(Stored(kim).Record[FileAs], QStringLiteral("Kim"));
+  EXPECT_EQ(Stored(kim).Record[LastName], QStringLiteral("Lee"));
+  EXPECT_EQ(Stored(kim).BodyInk, "ink");
+}
+
+TEST_F(SheetSavingTest, AnAreaCodeAloneIsNoNumber) {
+  m_settings.AreaCodePrefix = QStringLiteral("02-");
+  SheetRecord sheet = LoadSheet(0, m_state);
+  Type(sheet, RowSet::Basic, 3, QStringLiteral("Rosewood"));
+  Type(sheet, RowSet::Basic, 4, QStringLiteral("02-"));
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::Written);
+  EXPECT_EQ(StoredFirst().Record[MobileTelephoneNumber], QString());
+}
+
+TEST_F(SheetSavingTest, AnEmptySheetWritesNothingAndLeavesNoDraft) {
+  EXPECT_EQ(SaveSheet(LoadSheet(0, m_state), m_settings), SheetOutcome::NothingToSave);
+  EXPECT_EQ(Count(AllContacts()), 0);
+  EXPECT_EQ(LoadDraft(), std::nullopt);
+}
+
+TEST_F(SheetSavingTest, ASheetWithOnlyTheAreaCodeLeavesNoDraft) {
+  m_settings.AreaCodePrefix = QStringLiteral("02-");
+  SheetRecord sheet = LoadSheet(0, m_state);
+  Type(sheet, RowSet::Basic, 4, QStringLiteral("02-"));
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::NothingToSave);
+}
+
+TEST_F(SheetSavingTest, WhatIsNotWorthWritingBecomesADraft) {
+  SheetRecord sheet = LoadSheet(0, m_state);
+  Type(sheet, RowSet::Basic, 9, QStringLiteral("kim@example.com"));
+  g_contactInk.Bytes = "ink";
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::KeptAsDraft);
+  EXPECT_EQ(Count(AllContacts()), 0);
+  EXPECT_EQ(g_contactInk.Count(), 0);
+  Draft expected{.Number = 1, .Ink = "ink"};
+  expected.Record[Email1Address] = QStringLiteral("kim@example.com");
+  EXPECT_EQ(LoadDraft(), expected);
+}
+
+TEST_F(SheetSavingTest, InkAloneBecomesADraft) {
+  const SheetRecord sheet = LoadSheet(0, m_state);
+  g_contactInk.Bytes = "ink";
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::KeptAsDraft);
+  EXPECT_EQ(LoadDraft()->Ink, "ink");
+}
+
+TEST_F(SheetSavingTest, AContactWithoutAnyNameThatWasNotChangedLeavesNoDraft) {
+  ContactRecord record;
+  record[Email1Address] = QStringLiteral("kim@example.com");
+  const Oid oid = m_store.Contacts()->SaveWhole(0, {.Record = record, .BodyInk = "ink"});
+  ASSERT_EQ(Stored(oid).Record[FileAs], QString());
+  SheetRecord sheet = LoadSheet(oid, m_state);
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::NothingToSave);
+  sheet = LoadSheet(oid, m_state);
+  Type(sheet, RowSet::Basic, 1, QStringLiteral("Painter"));
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::KeptAsDraft);
+  EXPECT_EQ(LoadDraft()->Oid, oid);
+  EXPECT_EQ(LoadDraft()->Ink, "ink");
+}
+
+TEST_F(SheetSavingTest, WhatTheStoreCannotWriteBecomesADraftWithItsInk) {
+  const Oid kim = Add(QStringLiteral("Kim"), "ink");
+  SheetRecord sheet = LoadSheet(kim, m_state);
+  Type(sheet, RowSet::Basic, 1, QStringLiteral("Painter"));
+  m_store.Faults().Save = true;
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::KeptAsDraft);
+  EXPECT_EQ(Stored(kim).Record[JobTitle], QString());
+  Draft expected{.Number = 1, .Oid = kim, .FileAs = QStringLiteral("Kim"), .Ink = "ink"};
+  expected.Record[FileAs] = QStringLiteral("Kim");
+  expected.Record[JobTitle] = QStringLiteral("Painter");
+  EXPECT_EQ(LoadDraft(), expected);
+}
+
+TEST_F(SheetSavingTest, WhatOneContactDeletedMeanwhileWasToHoldBecomesADraft) {
+  const Oid kim = Add(QStringLiteral("Kim"));
+  SheetRecord sheet = LoadSheet(kim, m_state);
+  m_store.Contacts()->Remove(kim);
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::KeptAsDraft);
+}
+
+TEST_F(SheetSavingTest, ARestoredDraftThatIsWrittenIsADraftNoLonger) {
+  SheetRecord sheet = LoadSheet(0, m_state);
+  Type(sheet, RowSet::Basic, 9, QStringLiteral("kim@example.com"));
+  g_contactInk.Bytes = "ink";
+  SaveSheet(sheet, m_settings);
+  SheetRecord restored = SheetOfDraft(*LoadDraft(), m_state);
+  Type(restored, RowSet::NameParts, 3, QStringLiteral("Kim"));
+  EXPECT_EQ(SaveSheet(restored, m_settings), SheetOutcome::Written);
+  EXPECT_EQ(StoredFirst().Record[Email1Address], QStringLiteral("kim@example.com"));
+  EXPECT_EQ(StoredFirst().BodyInk, "ink");
+  EXPECT_EQ(LoadDraft(), std::nullopt);
+}
+
+TEST_F(SheetSavingTest, ARestoredDraftThatIsStillNotWorthWritingTakesItsOwnPlace) {
+  SheetRecord sheet = LoadSheet(0, m_state);
+  Type(sheet, RowSet::Basic, 9, QStringLiteral("kim@example.com"));
+  SaveSheet(sheet, m_settings);
+  SheetRecord restored = SheetOfDraft(*LoadDraft(), m_state);
+  EXPECT_EQ(SaveSheet(restored, m_settings), SheetOutcome::KeptAsDraft);
+  EXPECT_EQ(LoadDraft()->Number, 1);
+  DiscardDraft(1);
+  EXPECT_EQ(LoadDraft(), std::nullopt);
+}
+
+TEST_F(SheetSavingTest, ARestoredDraftThatIsEmptiedIsGone) {
+  SheetRecord sheet = LoadSheet(0, m_state);
+  Type(sheet, RowSet::Basic, 9, QStringLiteral("kim@example.com"));
+  SaveSheet(sheet, m_settings);
+  SheetRecord restored = SheetOfDraft(*LoadDraft(), m_state);
+  Type(restored, RowSet::Basic, 9, {});
+  EXPECT_EQ(SaveSheet(restored, m_settings), SheetOutcome::NothingToSave);
+  EXPECT_EQ(LoadDraft(), std::nullopt);
+}
+
+TEST_F(SheetSavingTest, OtherDraftsStayWhenASheetIsWritten) {
+  SaveDraft({.FileAs = QStringLiteral("other")});
+  SheetRecord sheet = LoadSheet(0, m_state);
+  Type(sheet, RowSet::Basic, 3, QStringLiteral("Rosewood"));
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::Written);
+  EXPECT_EQ(LoadDraft()->FileAs, QStringLiteral("other"));
+}
+
+TEST_F(SheetSavingTest, WhereNoDraftCanBeKeptTheSheetIsLost) {
+  g_services.Recovery = nullptr;
+  SheetRecord sheet = LoadSheet(0, m_state);
+  Type(sheet, RowSet::Basic, 9, QStringLiteral("kim@example.com"));
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::Lost);
+}
+
+}  // namespace
+}  // namespace quill
