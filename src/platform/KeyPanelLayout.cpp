@@ -108,6 +108,11 @@ Rgb FaceOf(const PanelKey& key, KeyShift shift) {
   return key.Does == KeyAction::Shift && shift != KeyShift::Off ? kHeldFace : kOtherFace;
 }
 
+// Single letters are small in fonts that are made for whole syllables.
+TextWeight WeightOf(const PanelKey& key) {
+  return key.Does == KeyAction::Jamo ? TextWeight::Bold : TextWeight::Normal;
+}
+
 const resources::Picture* PictureOf(const PanelKey& key, KeyShift shift) {
   const bool locked = key.Does == KeyAction::Shift && shift == KeyShift::Locked;
   return locked ? &resources::kShiftLockPicture : key.Picture;
@@ -133,6 +138,7 @@ PaintedRow LayOutKey(const PanelKey& key, QRect area, KeyShift shift, bool press
     row.Items.push_back({.Rectangle = area,
                          .Text = key.Label.toString(),
                          .Alignment = TextAlign::Centre,
+                         .Weight = WeightOf(key),
                          .Color = ink});
   return row;
 }

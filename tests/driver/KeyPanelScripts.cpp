@@ -28,8 +28,7 @@ class Composing : public ReadyDriver {
   Composing() {
     Do(R"({"op":"tap","on":"view","x":40,"y":12})");
     Result(R"({"op":"panel","up":true})", u"panel");
-    for (const QString& key :
-         {QStringLiteral("한글"), QStringLiteral("ㄱ"), QStringLiteral("ㅏ")})
+    for (const QString& key : {QStringLiteral("한글"), QStringLiteral("ㄱ"), QStringLiteral("ㅏ")})
       TapKey(*this, key);
     EXPECT_EQ(SearchText(*this), QString());
   }

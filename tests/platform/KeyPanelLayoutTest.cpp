@@ -152,6 +152,14 @@ TEST(KeyPanelLayout, JamosAreToBeComposedAndLettersAreNot) {
             (KeyIntention{KeyAction::Text, QStringLiteral("₩")}));
 }
 
+TEST(KeyPanelLayout, JamosAreBoldAndOtherSignsAreNot) {
+  const KeyPanelState hangul{KeySet::Hangul};
+  for (const PaintedRow& row : LayOutKeyPanel(hangul, -1))
+    EXPECT_EQ(row.Items[1].Weight == TextWeight::Bold,
+              IntentionOf(hangul, row.Key)->Does == KeyAction::Jamo)
+        << row.SpokenName.toStdString();
+}
+
 TEST(KeyPanelLayout, LockedLettersAreTheShiftedOnes) {
   EXPECT_EQ(TextsOf({KeySet::Latin, KeyShift::Locked}), TextsOf({KeySet::Latin, KeyShift::Once}));
   EXPECT_EQ(TextsOf({KeySet::Latin}).toUpper(), TextsOf({KeySet::Latin, KeyShift::Once}));

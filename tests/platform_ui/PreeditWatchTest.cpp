@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QPlainTextEdit>
+#include <QPushButton>
 
 #include "platform/ui/Edit.h"
 #include "platform/ui/KeyPanel.h"
@@ -196,7 +197,17 @@ TYPED_TEST(PreeditWatchTest, ForgetsAnEditorThatIsGone) {
 }
 
 // The ways out of a dialog whose editor holds a half-made syllable.
-enum class WayOut { Enter, Escape, OKButton, CancelButton, TitleOK, TitleClose, Close, EndDialog };
+enum class WayOut {
+  Enter,
+  Escape,
+  OKButton,
+  OKClicked,
+  CancelButton,
+  TitleOK,
+  TitleClose,
+  Close,
+  EndDialog
+};
 
 class DialogWithEditor : public test::SampleDialog {
  public:
@@ -232,6 +243,8 @@ class DialogWayOut : public test::DialogFixture, public testing::WithParamInterf
         return m_input.Key(Qt::Key_Escape);
       case WayOut::OKButton:
         return TapControl(m_dialog, kResultOK);
+      case WayOut::OKClicked:  // as assistive technology does
+        return Get<QPushButton>(m_dialog, kResultOK).click();
       case WayOut::CancelButton:
         return TapControl(m_dialog, kResultCancel);
       case WayOut::TitleOK:
@@ -247,7 +260,7 @@ class DialogWayOut : public test::DialogFixture, public testing::WithParamInterf
   }
   bool IsAccepting() const {
     return GetParam() == WayOut::Enter || GetParam() == WayOut::OKButton ||
-           GetParam() == WayOut::TitleOK;
+           GetParam() == WayOut::OKClicked || GetParam() == WayOut::TitleOK;
   }
   // Composes in an editor of the dialog and leaves it.
   void LeaveWhileComposing(QWidget& editor) {
@@ -279,13 +292,13 @@ TEST_P(TextWayOut, ATextThatIsComposedBecomesText) {
 
 INSTANTIATE_TEST_SUITE_P(Ways, DialogWayOut,
                          testing::Values(WayOut::Enter, WayOut::Escape, WayOut::OKButton,
-                                         WayOut::CancelButton, WayOut::TitleOK, WayOut::TitleClose,
-                                         WayOut::Close, WayOut::EndDialog));
+                                         WayOut::OKClicked, WayOut::CancelButton, WayOut::TitleOK,
+                                         WayOut::TitleClose, WayOut::Close, WayOut::EndDialog));
 // Return is a letter of such an editor.
 INSTANTIATE_TEST_SUITE_P(Ways, TextWayOut,
-                         testing::Values(WayOut::Escape, WayOut::OKButton, WayOut::CancelButton,
-                                         WayOut::TitleOK, WayOut::TitleClose, WayOut::Close,
-                                         WayOut::EndDialog));
+                         testing::Values(WayOut::Escape, WayOut::OKButton, WayOut::OKClicked,
+                                         WayOut::CancelButton, WayOut::TitleOK, WayOut::TitleClose,
+                                         WayOut::Close, WayOut::EndDialog));
 
 }  // namespace
 }  // namespace quill

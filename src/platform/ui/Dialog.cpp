@@ -6,6 +6,7 @@
 
 #include "platform/ChromeLayout.h"
 #include "platform/ui/ControlFactory.h"
+#include "platform/ui/InputCommit.h"
 #include "platform/ui/RowPainter.h"
 #include "platform/ui/Screen.h"
 
@@ -41,6 +42,8 @@ QWidget* CDialog::AddDialogControl(const resources::DialogControl& control) {
 void CDialog::FollowButton(int id, QWidget* control) {
   auto* const button = qobject_cast<QAbstractButton*>(control);
   if (!button) return;
+  // Clicked by assistive technology, it is reached by neither pen nor focus.
+  connect(button, &QAbstractButton::clicked, this, [] { CommitInput(); });
   if (id == kResultOK || id == kOKButton)
     connect(button, &QAbstractButton::clicked, this, [this] { OnOK(); });
   if (id == kResultCancel) connect(button, &QAbstractButton::clicked, this, [this] { OnCancel(); });
