@@ -1,13 +1,18 @@
 #include "editor/SheetSaving.h"
 
-#include <utility>
-
-#include "editor/Draft.h"
 #include "store/ContactStore.h"
 
 namespace quill {
 
 namespace {
+
+Draft DraftOf(const SheetRecord& sheet, const Settings& settings) {
+  return {.Number = sheet.Draft,
+          .Oid = sheet.Oid,
+          .FileAs = sheet.FileAs,
+          .Record = RecordOf(sheet, settings.AreaCodePrefix),
+          .Ink = g_contactInk.Bytes};
+}
 
 bool IsChanged(const SheetRecord& sheet, const Draft& now) {
   return now.Record != sheet.Opened || now.Ink != sheet.OpenedInk;
@@ -27,15 +32,17 @@ SheetOutcome Forget(const Draft& draft, SheetOutcome outcome) {
 }  // namespace
 
 SheetOutcome SaveSheet(const SheetRecord& sheet, const Settings& settings) {
-  const Draft draft{.Number = sheet.Draft,
-                    .Oid = sheet.Oid,
-                    .FileAs = sheet.FileAs,
-                    .Record = RecordOf(sheet, settings.AreaCodePrefix),
-                    .Ink = std::exchange(g_contactInk, {}).Bytes};
+  const Draft draft = DraftOf(sheet, settings);
+  g_contactInk = {};
   const bool isWorthSaving = HasAnythingToSave(sheet);
   if (isWorthSaving && Write(draft)) return Forget(draft, SheetOutcome::Written);
   if (!isWorthSaving && !IsChanged(sheet, draft)) return Forget(draft, SheetOutcome::NothingToSave);
   return SaveDraft(draft) != 0 ? SheetOutcome::KeptAsDraft : SheetOutcome::Lost;
+}
+
+std::optional<Draft> EnteredSoFar(const SheetRecord& sheet, const Settings& settings) {
+  const Draft draft = DraftOf(sheet, settings);
+  return IsChanged(sheet, draft) ? std::optional(draft) : std::nullopt;
 }
 
 }  // namespace quill

@@ -1,6 +1,7 @@
-// What OK on a record sheet does.
+// What OK on a record sheet does, and what is kept until then.
 #pragma once
 
+#include "editor/Draft.h"
 #include "editor/SheetRecord.h"
 #include "settings/Settings.h"
 
@@ -16,5 +17,8 @@ enum class SheetOutcome {
 // Writes the sheet's contact with the ink notes in g_contactInk, which are freed, and forgets the
 // draft that it came from. Says nothing to the user: failures go to the log.
 SheetOutcome SaveSheet(const SheetRecord& sheet, const Settings& settings);
+
+// What was entered so far, to be kept against a crash; nothing when it is as it was at opening.
+std::optional<Draft> EnteredSoFar(const SheetRecord& sheet, const Settings& settings);
 
 }  // namespace quill

@@ -1,38 +1,125 @@
 #include "editor/ui/EditRecordSheet.h"
 
+#include "editor/SheetSaving.h"
+#include "editor/ui/DraftBar.h"
+#include "editor/ui/ImportedDetailsDlg.h"
 #include "editor/ui/MemoPage.h"
 #include "editor/ui/RecordPage.h"
+#include "exchange/CarriedDetails.h"
 #include "platform/InputPanel.h"
 #include "platform/Services.h"
+#include "platform/ui/Screen.h"
+#include "resources/Ids.h"
+#include "resources/Menus.h"
 #include "settings/Settings.h"
 #include "store/ContactStore.h"
 
 namespace quill {
 
+namespace {
+
+constexpr int kKeepTimer = 2;
+constexpr int kKeepMilliseconds = 2000;
+
+}  // namespace
+
 CEditRecordSheet::CEditRecordSheet(CScreen& screen, const QString& caption)
     : CSheet(screen, caption),
+      m_draftBar(new CDraftBar(this)),
+      m_commands({{ID_IMPORTED_DETAILS, ID_IMPORTED_DETAILS, [this](int) { ShowImportedDetails(); },
+                   [this](int, CommandState& state) { state.Enabled = m_record.Oid != 0; }}}),
       m_panelWasUp(g_services.InputPanel && g_services.InputPanel->IsUp()) {
   AddPage(*new CBasicPage(*this, m_record));
   AddPage(*new CDetailPage(*this, m_record));
   AddPage(*new CMemoPage(*this));
+  m_draftBar->RestoreAsked = [this] { RestoreDraft(); };
+  m_draftBar->DiscardAsked = [this] { DiscardOffered(); };
 }
 
-// The panel came up for the fields of the sheet.
+// The panel came up for the fields of the sheet. What is closed with the program was not cancelled.
 CEditRecordSheet::~CEditRecordSheet() {
+  if (!m_isDecided) KeepEntered();
+  if (g_services.Timers) g_services.Timers->KillAll(*this);
   if (g_services.InputPanel && !m_panelWasUp) g_services.InputPanel->Lower();
 }
 
 void CEditRecordSheet::OnInitDialog() {
   m_record = LoadSheet(m_record.Oid, g_sheet);
   CSheet::OnInitDialog();
+  if (m_record.Oid == 0) m_offered = LoadDraft();
+  OfferDraft();
+  g_services.Timers->Set(*this, kKeepTimer, kKeepMilliseconds);
 }
 
-CommandRoute CEditRecordSheet::Route() const { return CSheet::Route(); }
-
 void CEditRecordSheet::Save() {
-  if (HasAnythingToSave(m_record))
-    WriteContact(m_record.Oid, RecordOf(m_record, g_settings.AreaCodePrefix));
-  g_contactInk = {};
+  m_isDecided = true;
+  g_services.Timers->Kill(*this, kKeepTimer);
+  SaveSheet(m_record, g_settings);
+}
+
+// What the user cancels is meant to go.
+void CEditRecordSheet::OnCancel() {
+  m_isDecided = true;
+  if (m_record.Draft != m_restoredDraft) DiscardDraft(m_record.Draft);
+  CSheet::OnCancel();
+}
+
+void CEditRecordSheet::OnTimer(int) { KeepEntered(); }
+
+void CEditRecordSheet::KeepEntered() {
+  auto entered = EnteredSoFar(m_record, g_settings);
+  if (!entered || entered == m_kept) return;
+  m_record.Draft = SaveDraft(*entered);
+  entered->Number = m_record.Draft;
+  m_kept = entered;
+}
+
+ControlMap CEditRecordSheet::Controls() const {
+  ControlMap controls = CSheet::Controls();
+  controls.merge(m_draftBar->Controls());
+  return controls;
+}
+
+CommandRoute CEditRecordSheet::Route() const {
+  CommandRoute route = CSheet::Route();
+  route.Add(m_commands);
+  return route;
+}
+
+std::span<const resources::MenuEntry> CEditRecordSheet::TitleMenu() const {
+  return resources::kRecordTitleMenu;
+}
+
+void CEditRecordSheet::resizeEvent(QResizeEvent* event) {
+  CSheet::resizeEvent(event);
+  OfferDraft();
+}
+
+// Not while the input panel is up: the page has no room to spare then.
+void CEditRecordSheet::OfferDraft() {
+  const bool isPanelUp = g_services.InputPanel && g_services.InputPanel->IsUp();
+  m_offered && !isPanelUp ? m_draftBar->Offer(*m_offered, PageArea()) : m_draftBar->hide();
+}
+
+void CEditRecordSheet::RestoreDraft() {
+  const Draft draft = *std::exchange(m_offered, std::nullopt);
+  m_record = SheetOfDraft(draft, g_sheet);
+  m_restoredDraft = m_record.Draft;
+  m_kept = draft;
+  for (CSheetPage* page : Pages()) page->LoadRows();
+  OfferDraft();
+}
+
+void CEditRecordSheet::DiscardOffered() {
+  DiscardDraft(m_offered->Number);
+  m_offered.reset();
+  OfferDraft();
+}
+
+void CEditRecordSheet::ShowImportedDetails() {
+  ContactItem item;
+  if (!g_store.Provider || !g_store.Provider->Contacts()->Read(m_record.Oid, item)) return;
+  CImportedDetailsDlg(Screen(), CarriedDetails(item)).DoModal();
 }
 
 }  // namespace quill

@@ -1,11 +1,15 @@
 // The record sheet: one contact, created or edited on three pages. It edits rows; Save turns them
-// into the contact again and writes it.
+// into the contact again and writes it. What is entered outlives a crash as a draft, and a draft is
+// offered to the next new contact.
 #pragma once
 
+#include "editor/Draft.h"
 #include "editor/SheetRecord.h"
 #include "platform/ui/Sheet.h"
 
 namespace quill {
+
+class CDraftBar;
 
 class CEditRecordSheet : public CSheet {
   Q_OBJECT
@@ -22,14 +26,31 @@ class CEditRecordSheet : public CSheet {
   // said of it.
   void Save();
 
+  ControlMap Controls() const override;
   CommandRoute Route() const override;
+  std::span<const resources::MenuEntry> TitleMenu() const override;
+  void OnCancel() override;
+  void OnTimer(int id) override;
 
  protected:
   void OnInitDialog() override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void OfferDraft();
+  void RestoreDraft();
+  void DiscardOffered();
+  void KeepEntered();
+  void ShowImportedDetails();
+
   SheetRecord m_record;
-  bool m_panelWasUp = false;
+  CDraftBar* m_draftBar;
+  std::optional<Draft> m_offered;
+  std::optional<Draft> m_kept;  // what was entered, as it was kept last
+  int m_restoredDraft = 0;      // the number of the draft that was taken back
+  CommandTarget m_commands;
+  bool m_panelWasUp;
+  bool m_isDecided = false;  // by the user: saved or cancelled
 };
 
 }  // namespace quill

@@ -33,7 +33,8 @@ CRecordRowList::CRecordRowList(SheetRecord& record, RowSet page, QWidget* parent
   m_editors.TextChanged = [this](const QString& text) { SetValue(text); };
   m_editors.Chosen = [this](const QString& text) { SetValue(text); };
   m_editors.DateChanged = [this](std::optional<QDate> date) {
-    SetDateAt(m_record, m_page, m_edited, date ? MakeCalendarDate(*date, QTime(0, 0)) : CalendarDate());
+    SetDateAt(m_record, m_page, m_edited,
+              date ? MakeCalendarDate(*date, QTime(0, 0)) : CalendarDate());
     ShowRows();
   };
   m_editors.Left = [this] { EndEdit(); };
@@ -117,7 +118,8 @@ void CRecordRowList::EditDate(int row) {
 void CRecordRowList::EditSound(int row) {
   const QStringList sounds =
       SoundNames({QStringLiteral("mp3"), QStringLiteral("wav"), QStringLiteral("wma")});
-  m_editors.EditChoice(RecordEditArea(row, m_top), QStringList(kNoDate.toString()) + sounds, RowAt(row).Value);
+  m_editors.EditChoice(RecordEditArea(row, m_top), QStringList(kNoDate.toString()) + sounds,
+                       RowAt(row).Value);
 }
 
 // The focus goes first: what is hidden would hand it on as the Tab key does.
