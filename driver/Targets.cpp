@@ -4,6 +4,8 @@
 
 #include "app/ui/MainFrame.h"
 #include "driver/Arguments.h"
+#include "editor/ui/PartEditor.h"
+#include "editor/ui/RecordRowList.h"
 #include "list/ui/ContactListCtrl.h"
 #include "list/ui/ContactsView.h"
 #include "platform/ChromeLayout.h"
@@ -59,6 +61,19 @@ CWindow* FindTopmost() {
   return screen ? screen->Topmost() : nullptr;
 }
 
+CRecordRowList* FindRecordRows() {
+  const CSheetPage* page = FindPage();
+  return page ? page->findChild<CRecordRowList*>() : nullptr;
+}
+
+CPartEditor* FindPartEditor() {
+  const CSheetPage* page = FindPage();
+  if (page == nullptr) return nullptr;
+  for (CPartEditor* editor : page->findChildren<CPartEditor*>())
+    if (editor->isVisible()) return editor;
+  return nullptr;
+}
+
 CMenuPopup* FindPopup() {
   const CScreen* screen = FindScreen();
   return screen ? screen->Popup() : nullptr;
@@ -77,6 +92,8 @@ std::optional<Target> FindTarget(const QJsonValue& on) {
   if (name == u"view") return Whole(FindView());
   if (name == u"list") return Whole(FindList());
   if (name == u"top") return FindTop();
+  if (name == u"rows") return Whole(FindRecordRows());
+  if (name == u"parts") return Whole(FindPartEditor());
   return std::nullopt;
 }
 

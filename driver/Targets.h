@@ -15,6 +15,8 @@ namespace quill {
 class CContactListCtrl;
 class CMainFrame;
 class CMenuPopup;
+class CPartEditor;
+class CRecordRowList;
 class CScreen;
 class CWindow;
 }  // namespace quill
@@ -27,6 +29,9 @@ QWidget* FindView();
 CContactListCtrl* FindList();
 // The window that commands, keys and controls mean.
 CWindow* FindTopmost();
+// The row list of the topmost sheet's page, and the part editor that is open over it.
+CRecordRowList* FindRecordRows();
+CPartEditor* FindPartEditor();
 // The popup menu that was opened first, when submenus of it are open.
 CMenuPopup* FindPopup();
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "editor/CardState.h"
 #include "editor/SheetState.h"
 #include "list/CategoryMenu.h"
 #include "list/ListState.h"
@@ -27,6 +28,7 @@ inline void ResetProcessState() {
   g_memo = {};
   g_settings = {};
   g_sheet = {};
+  g_card = {};
   g_deleteScope = {};
   g_keyPanel = {};
   g_services = {};
