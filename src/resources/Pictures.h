@@ -37,11 +37,33 @@ inline constexpr std::array kCheckLine = {PicturePoint{3, 7}, PicturePoint{6, 10
 inline constexpr std::array kCheckPaths = {PicturePath{PictureShape::Line, kCheckLine}};
 inline constexpr Picture kCheckPicture = {14, kCheckPaths};
 
-// The arrows of submenus and scroll strips.
+// The arrows of submenus, scroll strips and the calendar.
 inline constexpr std::array kRightTriangle = {PicturePoint{5, 3}, PicturePoint{9, 7},
                                               PicturePoint{5, 11}};
 inline constexpr std::array kRightPaths = {PicturePath{PictureShape::Fill, kRightTriangle}};
 inline constexpr Picture kRightPicture = {14, kRightPaths};
+
+inline constexpr std::array kLeftTriangle = {PicturePoint{9, 3}, PicturePoint{5, 7},
+                                             PicturePoint{9, 11}};
+inline constexpr std::array kLeftPaths = {PicturePath{PictureShape::Fill, kLeftTriangle}};
+inline constexpr Picture kLeftPicture = {14, kLeftPaths};
+
+// Further than one of them.
+inline constexpr std::array kFarRightFirst = {PicturePoint{2, 3}, PicturePoint{6, 7},
+                                              PicturePoint{2, 11}};
+inline constexpr std::array kFarRightSecond = {PicturePoint{8, 3}, PicturePoint{12, 7},
+                                               PicturePoint{8, 11}};
+inline constexpr std::array kFarRightPaths = {PicturePath{PictureShape::Fill, kFarRightFirst},
+                                              PicturePath{PictureShape::Fill, kFarRightSecond}};
+inline constexpr Picture kFarRightPicture = {14, kFarRightPaths};
+
+inline constexpr std::array kFarLeftFirst = {PicturePoint{6, 3}, PicturePoint{2, 7},
+                                             PicturePoint{6, 11}};
+inline constexpr std::array kFarLeftSecond = {PicturePoint{12, 3}, PicturePoint{8, 7},
+                                              PicturePoint{12, 11}};
+inline constexpr std::array kFarLeftPaths = {PicturePath{PictureShape::Fill, kFarLeftFirst},
+                                             PicturePath{PictureShape::Fill, kFarLeftSecond}};
+inline constexpr Picture kFarLeftPicture = {14, kFarLeftPaths};
 
 inline constexpr std::array kUpTriangle = {PicturePoint{3, 9}, PicturePoint{7, 5},
                                            PicturePoint{11, 9}};
