@@ -22,9 +22,11 @@ Rgb GroundOf(const SheetTabsModel& model, int page) {
   return page == model.Active ? kActiveGround : kGround;
 }
 
-// The line between page and tabs is open above the active one.
+// The line between page and tabs is open above the active one; the one below keeps the tabs from
+// the menu bar.
 void AddLines(PaintedRow& row, const SheetTabsModel& model) {
   const QRect& area = row.Rectangle;
+  row.Items.push_back({.Rectangle = {area.left(), area.bottom(), area.width(), 1}, .Fill = kLine});
   if (row.Key != model.Active)
     row.Items.push_back({.Rectangle = {area.left(), 0, area.width(), 1}, .Fill = kLine});
   if (row.Key > 0)

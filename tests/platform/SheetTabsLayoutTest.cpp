@@ -72,6 +72,14 @@ TEST(SheetTabsLayout, TheActiveTabIsOneWithThePageAboveIt) {
   EXPECT_EQ(TextOf(rows[1]).Weight, TextWeight::Bold);
 }
 
+TEST(SheetTabsLayout, ALineStandsBelowEveryTab) {
+  for (const PaintedRow& row : LayOutSheetTabs(kThree, {240, 22})) {
+    const QRect line(row.Rectangle.left(), 21, row.Rectangle.width(), 1);
+    EXPECT_EQ(row.Items[1].Rectangle, line);
+    EXPECT_NE(row.Items[1].Fill, row.Items[0].Fill);
+  }
+}
+
 TEST(SheetTabsLayout, ALineStandsBetweenTabs) {
   const auto rows = LayOutSheetTabs(kThree, {240, 22});
   EXPECT_FALSE(HasLineBefore(rows[0]));
