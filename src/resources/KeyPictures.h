@@ -31,9 +31,4 @@ inline constexpr Picture kShiftPicture = {14, kShiftPaths};
 inline constexpr std::array kShiftLockPaths = {PicturePath{PictureShape::Fill, kShiftShape}};
 inline constexpr Picture kShiftLockPicture = {14, kShiftLockPaths};
 
-inline constexpr std::array kLeftTriangle = {PicturePoint{9, 3}, PicturePoint{5, 7},
-                                             PicturePoint{9, 11}};
-inline constexpr std::array kLeftPaths = {PicturePath{PictureShape::Fill, kLeftTriangle}};
-inline constexpr Picture kLeftPicture = {14, kLeftPaths};
-
 }  // namespace quill::resources
