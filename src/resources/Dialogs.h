@@ -13,7 +13,8 @@
 namespace quill::resources {
 
 // A wrapped label's text begins at its top and goes on below; a panel editor has the input panel up
-// while it has the focus; a check list's text is what it is called.
+// while it has the focus; a check list's text is what it is called,
+// and so is a date's, which always has a day.
 enum class ControlKind {
   Label,
   CentredLabel,
@@ -24,6 +25,8 @@ enum class ControlKind {
   Check,
   CheckList,
   DropDown,
+  MultiEdit,
+  Date,
 };
 enum class ControlState { Visible, Hidden };
 

@@ -87,7 +87,7 @@ inline constexpr int kIcon = 20;
 inline constexpr int kText = 65535;
 }  // namespace MessageBoxIds
 
-// The menu of a line editor.
+// The menu of an editor.
 namespace EditMenuIds {
 inline constexpr int kCut = 1;
 inline constexpr int kCopy = 2;
@@ -178,6 +178,12 @@ inline constexpr int kMessage = 1001;
 inline constexpr int kCharset = 1002;
 inline constexpr int kPreview = 1003;
 }  // namespace CharsetIds
+
+namespace CalendarIds {
+inline constexpr int kDialog = 283;
+inline constexpr int kMonth = 1001;
+inline constexpr int kToday = 1002;
+}  // namespace CalendarIds
 
 namespace ProgressIds {
 inline constexpr int kDialog = 282;

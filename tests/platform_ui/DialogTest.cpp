@@ -8,7 +8,9 @@
 #include <array>
 
 #include "platform/ui/CheckList.h"
+#include "platform/ui/DatePicker.h"
 #include "platform/ui/DropDown.h"
+#include "platform/ui/MultiEdit.h"
 #include "platform/ui/PanelEdit.h"
 #include "platform_ui/SampleWindows.h"
 #include "platform_ui/ScreenFixture.h"
@@ -91,6 +93,25 @@ TEST_F(DialogTest, ACheckListIsMadeWithItsName) {
   const auto* list = qobject_cast<CCheckList*>(dialog.Control(1001));
   ASSERT_NE(list, nullptr);
   EXPECT_EQ(list->accessibleName(), QStringLiteral("Choice"));
+}
+
+TEST_F(DialogTest, AnEditorOfSeveralLinesIsMadeWithItsText) {
+  constexpr std::array kEditors = {resources::DialogControl{
+      resources::ControlKind::MultiEdit, 1001, u"one\ntwo", {0, 0, 60, 60}}};
+  const SampleDialog dialog(*m_screen, {1, u"Editor", {10, 40, 100, 80}, kEditors});
+  const auto* editor = qobject_cast<CMultiEdit*>(dialog.Control(1001));
+  ASSERT_NE(editor, nullptr);
+  EXPECT_EQ(editor->toPlainText(), QStringLiteral("one\ntwo"));
+}
+
+TEST_F(DialogTest, ADateIsMadeWithItsNameAndAlwaysHasADay) {
+  constexpr std::array kDates = {
+      resources::DialogControl{resources::ControlKind::Date, 1001, u"Start", {0, 0, 90, 17}}};
+  const SampleDialog dialog(*m_screen, {1, u"Date", {10, 40, 100, 80}, kDates});
+  const auto* date = qobject_cast<CDatePicker*>(dialog.Control(1001));
+  ASSERT_NE(date, nullptr);
+  EXPECT_EQ(date->accessibleName(), QStringLiteral("Start"));
+  EXPECT_FALSE(date->HasNoneCheck());
 }
 
 TEST_F(DialogTest, AnOKButtonOfEitherNumberEndsItWithOK) {

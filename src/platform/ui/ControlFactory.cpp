@@ -5,9 +5,11 @@
 #include <QPushButton>
 
 #include "platform/ui/CheckList.h"
+#include "platform/ui/DatePicker.h"
 #include "platform/ui/Dialog.h"
 #include "platform/ui/DropDown.h"
 #include "platform/ui/Edit.h"
+#include "platform/ui/MultiEdit.h"
 #include "platform/ui/PanelEdit.h"
 #include "platform/ui/TextLabel.h"
 
@@ -20,6 +22,12 @@ QLabel* MakeLabel(const QString& text, Qt::Alignment alignment, QWidget* parent)
   label->setTextFormat(Qt::PlainText);
   label->setAlignment(alignment | Qt::AlignVCenter);
   return label;
+}
+
+CDatePicker* MakeDate(const QString& name, QWidget* parent) {
+  auto* const date = new CDatePicker(NoneCheck::Absent, parent);
+  date->setAccessibleName(name);
+  return date;
 }
 
 QWidget* MakeWidget(const resources::DialogControl& control, CDialog& dialog) {
@@ -43,6 +51,10 @@ QWidget* MakeWidget(const resources::DialogControl& control, CDialog& dialog) {
       return new CCheckList(text, &dialog);
     case resources::ControlKind::DropDown:
       return new CDropDown(dialog.Screen(), &dialog);
+    case resources::ControlKind::MultiEdit:
+      return new CMultiEdit(text, &dialog);
+    case resources::ControlKind::Date:
+      return MakeDate(text, &dialog);
   }
   Q_UNREACHABLE();
 }

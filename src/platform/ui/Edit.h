@@ -3,22 +3,15 @@
 
 #include <QLineEdit>
 
+#include "platform/ui/EditMenu.h"
+
 namespace quill {
 
-class CEdit : public QLineEdit {
+class CEdit : public WithEditMenu<QLineEdit> {
   Q_OBJECT
  public:
   // parent is a window of a screen or stands in one.
   CEdit(const QString& text, QWidget* parent);
-
- protected:
-  // Texts may be dropped here; files are the window's.
-  void dragEnterEvent(QDragEnterEvent* event) override;
-  void contextMenuEvent(QContextMenuEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-
- private:
-  void ShowMenu(QPoint at);
 };
 
 }  // namespace quill

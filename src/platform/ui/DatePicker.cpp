@@ -1,0 +1,125 @@
+#include "platform/ui/DatePicker.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QToolButton>
+
+#include "platform/CalendarLayout.h"
+#include "platform/Clock.h"
+#include "platform/Services.h"
+#include "platform/ui/CalendarDlg.h"
+#include "platform/ui/DateEdit.h"
+#include "platform/ui/InputCommit.h"
+#include "platform/ui/Screen.h"
+
+namespace quill {
+
+namespace {
+
+constexpr int kCheckSize = 13;
+constexpr int kCheckGap = 3;
+constexpr int kButtonWidth = 17;
+
+const CWindow* WindowAround(const QWidget* widget) {
+  while (widget && !qobject_cast<const CWindow*>(widget)) widget = widget->parentWidget();
+  return qobject_cast<const CWindow*>(widget);
+}
+
+}  // namespace
+
+CDatePicker::CDatePicker(NoneCheck none, QWidget* parent)
+    : QWidget(parent),
+      m_none(none),
+      m_check(new QCheckBox(this)),
+      m_edit(new CDateEdit(this)),
+      m_button(new QToolButton(this)) {
+  m_check->setAccessibleName(QStringLiteral("There is a date"));
+  m_check->setVisible(none == NoneCheck::Shown);
+  m_check->setChecked(true);
+  m_edit->setAccessibleName(QStringLiteral("Date"));
+  m_button->setAccessibleName(QStringLiteral("Calendar"));
+  m_button->setArrowType(Qt::DownArrow);
+  m_button->setFocusPolicy(Qt::NoFocus);
+  FollowCheck();
+  connect(m_edit, &QDateEdit::dateChanged, this, [this] { TellChanged(); });
+  connect(m_check, &QCheckBox::clicked, this, [this] {
+    FollowCheck();
+    TellChanged();
+  });
+  connect(m_button, &QToolButton::clicked, this, [this] { OpenCalendar(); });
+  connect(qApp, &QApplication::focusChanged, this, &CDatePicker::FocusMoved);
+}
+
+// The focus still moves while the parts go.
+CDatePicker::~CDatePicker() { disconnect(qApp, nullptr, this, nullptr); }
+
+void CDatePicker::SetDate(std::optional<QDate> date, QDate shownWhenNone) {
+  const QSignalBlocker blocker(m_edit);
+  m_edit->setDate(KeepInCalendar(date.value_or(shownWhenNone)));
+  m_check->setChecked(date || m_none == NoneCheck::Absent);
+  FollowCheck();
+}
+
+std::optional<QDate> CDatePicker::Date() const {
+  return m_check->isChecked() ? std::optional(m_edit->date()) : std::nullopt;
+}
+
+QDate CDatePicker::ShownDate() const { return m_edit->date(); }
+
+void CDatePicker::ChooseDate(QDate date) {
+  const auto before = Date();
+  SetDate(KeepInCalendar(date), {});
+  if (Date() != before) TellChanged();
+}
+
+void CDatePicker::SetChecked(bool checked) {
+  if (HasNoneCheck() && m_check->isChecked() != checked) m_check->click();
+}
+
+void CDatePicker::OpenCalendar() {
+  CScreen* const screen = ScreenAround(this);
+  if (!screen) return;
+  setFocus(Qt::MouseFocusReason);
+  CommitInput();
+  CCalendarDlg calendar(*screen, ShownDate(), g_services.Clock->Now().date());
+  if (calendar.DoModal() == kResultOK) ChooseDate(calendar.Date());
+}
+
+void CDatePicker::FollowCheck() {
+  m_edit->setEnabled(m_check->isChecked());
+  setFocusProxy(m_check->isChecked() ? static_cast<QWidget*>(m_edit) : m_check);
+}
+
+void CDatePicker::TellChanged() {
+  if (Changed) Changed();
+}
+
+bool CDatePicker::Holds(const QWidget* widget) const { return widget && isAncestorOf(widget); }
+
+// The calendar, a menu and another program hand the focus back.
+void CDatePicker::FocusMoved(const QWidget* before, const QWidget* now) {
+  if (!Holds(before) || Holds(now) || !now) return;
+  if (Left && WindowAround(now) == WindowAround(this)) Left();
+}
+
+void CDatePicker::keyPressEvent(QKeyEvent* event) {
+  const bool alt = event->modifiers().testFlag(Qt::AltModifier);
+  const bool opens = event->key() == Qt::Key_F4 || (alt && event->key() == Qt::Key_Down);
+  opens ? OpenCalendar() : QWidget::keyPressEvent(event);
+}
+
+void CDatePicker::paintEvent(QPaintEvent* event) {
+  QPainter(this).fillRect(event->rect(), palette().color(QPalette::Base));
+}
+
+void CDatePicker::resizeEvent(QResizeEvent*) {
+  const int left = HasNoneCheck() ? 1 + kCheckSize + kCheckGap : 0;
+  m_check->setGeometry(1, (height() - kCheckSize) / 2, kCheckSize, kCheckSize);
+  m_edit->setGeometry(left, 0, width() - left - kButtonWidth, height());
+  m_button->setGeometry(width() - kButtonWidth, 0, kButtonWidth, height());
+}
+
+}  // namespace quill

@@ -1,0 +1,22 @@
+// An editor of plain text with several lines, whose own menu opens inside the frame. Return begins
+// a new line, Tab leaves it, and of what is pasted only the text is taken.
+#pragma once
+
+#include <QPlainTextEdit>
+
+#include "platform/ui/EditMenu.h"
+
+namespace quill {
+
+class CMultiEdit : public WithEditMenu<QPlainTextEdit> {
+  Q_OBJECT
+ public:
+  // parent is a window of a screen or stands in one.
+  CMultiEdit(const QString& text, QWidget* parent);
+
+ protected:
+  bool canInsertFromMimeData(const QMimeData* source) const override;
+  void insertFromMimeData(const QMimeData* source) override;
+};
+
+}  // namespace quill
