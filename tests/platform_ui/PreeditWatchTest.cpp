@@ -15,6 +15,8 @@
 namespace quill {
 namespace {
 
+constexpr QPoint kOnFrame{200, 200};  // where nothing takes the focus
+
 void SendInput(QWidget& editor, const QString& preedit, const QString& commit = {}) {
   QInputMethodEvent event(preedit, {});
   event.setCommitString(commit);
@@ -91,15 +93,20 @@ TYPED_TEST(PreeditWatchTest, KeepsItWhenATapMovesTheCaret) {
   EXPECT_KEPT;
 }
 
-TYPED_TEST(PreeditWatchTest, KeepsItWhenAPenTapsWhatTakesNoFocus) {
-  this->m_input.TabletPress({100, 10});
-  this->m_input.TabletRelease({100, 10});
+TYPED_TEST(PreeditWatchTest, KeepsItWhenAPenTouchesWhatTakesNoFocus) {
+  this->m_input.TabletPress(kOnFrame);
   EXPECT_KEPT;
 }
 
-TYPED_TEST(PreeditWatchTest, KeepsItWhenAFingerTapsWhatTakesNoFocus) {
-  this->m_input.TouchPress({100, 10});
-  this->m_input.TouchRelease({100, 10});
+TYPED_TEST(PreeditWatchTest, KeepsItWhenAFingerTouchesWhatTakesNoFocus) {
+  const QPoint onTitle = kTitleBarArea.center();  // where touches do not become presses of a mouse
+  this->m_input.TouchPress(onTitle);
+  EXPECT_KEPT;
+  this->m_input.TouchRelease(onTitle);
+}
+
+TYPED_TEST(PreeditWatchTest, KeepsItWhenASecondPressFollowsQuickly) {
+  this->m_input.PressAgain(kOnFrame);
   EXPECT_KEPT;
 }
 

@@ -37,7 +37,6 @@ void PreeditWatch::Commit() {
 bool PreeditWatch::EndsComposing(const QObject* watched, const QEvent& event) const {
   switch (event.type()) {
     case QEvent::FocusAboutToChange:
-    case QEvent::FocusOut:
     case QEvent::Hide:
       return watched == m_editor;
     case QEvent::KeyPress:
