@@ -27,7 +27,7 @@ OperationTable AllOperations() {
   Append(table, DeviceOperations());
   Append(table, FrameOperations());
   Append(table, SettingsOperations());
-  Append(table, SheetOperations());
+  Append(table, RecordOperations());
   return table;
 }
 

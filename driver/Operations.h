@@ -53,7 +53,7 @@ OperationTable AppointmentOperations();
 OperationTable DeviceOperations();
 OperationTable FrameOperations();
 OperationTable SettingsOperations();
-OperationTable SheetOperations();
+OperationTable RecordOperations();
 
 // The answer of the operation with this name; unknown ones are refused.
 Answer RunOperation(const OperationTable& table, const Request& request, OperationContext& context);

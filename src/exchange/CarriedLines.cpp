@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "exchange/CardFields.h"
+#include "exchange/CardMedia.h"
 
 namespace quill {
 
@@ -15,53 +16,9 @@ namespace {
 // Properties that hold one text whatever marks are in it, though 2.1 does not mark them.
 constexpr std::array<QStringView, 5> kWholeTexts{u"FN", u"LABEL", u"NOTE", u"ROLE", u"TITLE"};
 
-// Bytes whose kind the TYPE says before 4.0 and the media type of the "data:" URI in 4.0.
-struct MediaRow {
-  QStringView Property;
-  QStringView Media;
-};
-constexpr std::array kMedia{MediaRow{u"PHOTO", u"image/"}, MediaRow{u"LOGO", u"image/"},
-                            MediaRow{u"SOUND", u"audio/"}, MediaRow{u"KEY", u"application/"}};
-constexpr QStringView kUnknownMedia = u"application/octet-stream";
-
-struct MediaBytes {
-  QByteArray Base64;
-  QString MediaType;
-};
-
 bool IsMark(const CardProperty& property, QStringView name) {
   return property.Name == name &&
          property.Value.trimmed().compare(u"VCARD", Qt::CaseInsensitive) == 0;
-}
-
-QStringView MediaOf(const CardProperty& property) {
-  for (const MediaRow& row : kMedia) {
-    if (row.Property == property.Name) return row.Media;
-  }
-  return {};
-}
-
-// What the bytes are by the property's types; there may be words of other meaning among them.
-QString MediaTypeOf(const CardProperty& property) {
-  const QStringView media = MediaOf(property);
-  QStringList types = TypesOf(property);
-  types.removeIf(
-      [](const QString& type) { return type == u"PREF" || type == u"HOME" || type == u"WORK"; });
-  if (media.isEmpty() || types.isEmpty()) return kUnknownMedia.toString();
-  return media.toString() + types.first().toLower();
-}
-
-std::optional<MediaBytes> BytesIn(const CardProperty& property) {
-  QString text = property.Value;
-  text.removeIf([](QChar c) { return c.isSpace(); });
-  if (property.Encoding == CardEncoding::Base64)
-    return MediaBytes{text.toLatin1(), MediaTypeOf(property)};
-  const qsizetype comma = text.indexOf(u',');
-  QString head = text.left(comma).remove(u'\\');
-  const bool isData = comma > 0 && head.startsWith(u"data:", Qt::CaseInsensitive) &&
-                      head.endsWith(u";base64", Qt::CaseInsensitive);
-  if (!isData) return std::nullopt;
-  return MediaBytes{text.sliced(comma + 1).toLatin1(), head.sliced(5).chopped(7)};
 }
 
 // "NAME" or "NAME=VALUE" taken apart; a bare word has no name.
@@ -122,7 +79,7 @@ CardHeader HeaderOf(const CardProperty& property, CardVersion version) {
 }
 
 // For bytes: without what says that they are a URI, and with the type only where it belongs.
-CardHeader MediaHeaderOf(const CardProperty& property, const MediaBytes& bytes,
+CardHeader MediaHeaderOf(const CardProperty& property, const CardMedia& bytes,
                          CardVersion version) {
   CardHeader header = HeaderOf(property, version);
   const QStringView media = MediaOf(property);
@@ -189,7 +146,7 @@ QString NestedText(CarriedIterator from, CarriedIterator to) {
 }
 
 QByteArray WriteOne(const CardProperty& property, CardVersion version) {
-  if (const auto bytes = BytesIn(property)) {
+  if (const auto bytes = MediaIn(property)) {
     return Base64Lines(MediaHeaderOf(property, *bytes, version), bytes->Base64, bytes->MediaType,
                        version);
   }

@@ -8,6 +8,7 @@
 #include "editor/SheetScrolling.h"
 #include "editor/ui/EditField.h"
 #include "platform/ui/PaintedWindow.h"
+#include "platform/ui/Window.h"
 
 class QLineEdit;
 class QPlainTextEdit;

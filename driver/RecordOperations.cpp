@@ -64,6 +64,6 @@ Answer Card(const QJsonObject&, OperationContext&) {
 
 }  // namespace
 
-OperationTable SheetOperations() { return {{u"rows", Rows}, {u"parts", Parts}, {u"card", Card}}; }
+OperationTable RecordOperations() { return {{u"rows", Rows}, {u"parts", Parts}, {u"card", Card}}; }
 
 }  // namespace quill::driver
