@@ -7,7 +7,9 @@
 #include <QPlainTextEdit>
 
 #include "driver/Arguments.h"
+#include "platform/CalendarLayout.h"
 #include "platform/ui/CheckList.h"
+#include "platform/ui/DatePicker.h"
 
 namespace quill::driver {
 
@@ -45,7 +47,25 @@ Change ChangeIndex(QWidget& control, int index) {
   };
 }
 
+Change ChangePickerCheck(CDatePicker& picker, bool checked) {
+  if (!picker.HasNoneCheck()) return std::nullopt;
+  return [&picker, checked] {
+    picker.setFocus(Qt::MouseFocusReason);
+    picker.SetChecked(checked);
+  };
+}
+
+Change ChangePickerDate(CDatePicker& picker, QDate date) {
+  if (date != KeepInCalendar(date)) return std::nullopt;
+  return [&picker, date] {
+    picker.setFocus(Qt::MouseFocusReason);
+    picker.ChooseDate(date);
+  };
+}
+
 Change ChangeChecked(QWidget& control, bool checked) {
+  if (auto* picker = qobject_cast<CDatePicker*>(&control))
+    return ChangePickerCheck(*picker, checked);
   auto* button = qobject_cast<QAbstractButton*>(&control);
   if (button == nullptr || !button->isCheckable()) return std::nullopt;
   return [button, checked] {
@@ -66,10 +86,17 @@ Change ChangeListItem(QWidget& control, int index, bool checked) {
 }
 
 Change ChangeDate(QWidget& control, const QString& text) {
-  auto* edit = qobject_cast<QDateTimeEdit*>(&control);
   const QDate date = QDate::fromString(text, Qt::ISODate);
-  if (edit == nullptr || !date.isValid()) return std::nullopt;
+  if (!date.isValid()) return std::nullopt;
+  if (auto* picker = qobject_cast<CDatePicker*>(&control)) return ChangePickerDate(*picker, date);
+  auto* edit = qobject_cast<QDateTimeEdit*>(&control);
+  if (edit == nullptr) return std::nullopt;
   return [edit, date] { edit->setDate(date); };
+}
+
+Change ClearDate(QWidget& control) {
+  auto* picker = qobject_cast<CDatePicker*>(&control);
+  return picker ? ChangePickerCheck(*picker, false) : std::nullopt;
 }
 
 Change ChangeTime(QWidget& control, const QString& text) {
@@ -91,6 +118,7 @@ std::optional<std::function<void()>> PrepareChange(QWidget& control, const QJson
   if (index && checked) return ChangeListItem(control, *index, *checked);
   if (index) return ChangeIndex(control, *index);
   if (checked) return ChangeChecked(control, *checked);
+  if (arguments.value(u"date").isNull()) return ClearDate(control);
   if (date) return ChangeDate(control, *date);
   if (time) return ChangeTime(control, *time);
   return std::nullopt;

@@ -14,6 +14,7 @@
 #include "driver/ClassName.h"
 #include "driver/Geometry.h"
 #include "platform/ui/CheckList.h"
+#include "platform/ui/DatePicker.h"
 
 namespace quill::driver {
 
@@ -53,6 +54,12 @@ void AddDateAndTime(QJsonObject& object, const QDateTimeEdit& edit) {
     object.insert(u"time", edit.time().toString(QStringLiteral("HH:mm")));
 }
 
+// The day is the one that is shown, also while there is none.
+void AddPickedDate(QJsonObject& object, const CDatePicker& picker) {
+  object.insert(u"date", picker.ShownDate().toString(Qt::ISODate));
+  if (picker.HasNoneCheck()) object.insert(u"checked", picker.Date().has_value());
+}
+
 void AddRange(QJsonObject& object, const QAbstractSlider& slider) {
   object.insert(u"min", slider.minimum());
   object.insert(u"max", slider.maximum());
@@ -74,6 +81,8 @@ QJsonObject ControlJson(int id, const QWidget& control, const QRect& place) {
   if (const auto* list = qobject_cast<const CCheckList*>(&control)) AddCheckList(object, *list);
   if (const auto* edit = qobject_cast<const QDateTimeEdit*>(&control))
     AddDateAndTime(object, *edit);
+  if (const auto* picker = qobject_cast<const CDatePicker*>(&control))
+    AddPickedDate(object, *picker);
   if (const auto* slider = qobject_cast<const QAbstractSlider*>(&control))
     AddRange(object, *slider);
   return object;

@@ -20,6 +20,7 @@ OperationTable AllOperations() {
   Append(table, PopupOperations());
   Append(table, WindowOperations());
   Append(table, ControlOperations());
+  Append(table, SheetOperations());
   Append(table, PaintOperations());
   Append(table, ListOperations());
   Append(table, StoreOperations());

@@ -12,6 +12,7 @@
 #include "platform/ui/Dialog.h"
 #include "platform/ui/MenuPopup.h"
 #include "platform/ui/Screen.h"
+#include "platform/ui/Sheet.h"
 
 namespace quill::driver {
 
@@ -42,6 +43,11 @@ std::optional<Target> FindTop() {
   return ClientOf(*top);
 }
 
+std::optional<Target> FindPage() {
+  const CSheet* sheet = FindSheet();
+  return Whole(sheet ? sheet->ActivePage() : nullptr);
+}
+
 }  // namespace
 
 CScreen* FindScreen() {
@@ -62,16 +68,26 @@ CWindow* FindTopmost() {
 }
 
 CRecordRowList* FindRecordRows() {
-  const CSheetPage* page = FindPage();
+  const CSheet* sheet = FindSheet();
+  const CSheetPage* page = sheet ? sheet->ActivePage() : nullptr;
   return page ? page->findChild<CRecordRowList*>() : nullptr;
 }
 
 CPartEditor* FindPartEditor() {
-  const CSheetPage* page = FindPage();
-  if (page == nullptr) return nullptr;
-  for (CPartEditor* editor : page->findChildren<CPartEditor*>())
+  const CSheet* sheet = FindSheet();
+  if (sheet == nullptr) return nullptr;
+  for (CPartEditor* editor : sheet->findChildren<CPartEditor*>())
     if (editor->isVisible()) return editor;
   return nullptr;
+}
+
+CSheet* FindSheet() {
+  const CScreen* screen = FindScreen();
+  if (screen == nullptr) return nullptr;
+  CSheet* sheet = nullptr;
+  for (CWindow* window : screen->Windows())
+    if (auto* found = qobject_cast<CSheet*>(window)) sheet = found;
+  return sheet;
 }
 
 CMenuPopup* FindPopup() {
@@ -92,6 +108,7 @@ std::optional<Target> FindTarget(const QJsonValue& on) {
   if (name == u"view") return Whole(FindView());
   if (name == u"list") return Whole(FindList());
   if (name == u"top") return FindTop();
+  if (name == u"page") return FindPage();
   if (name == u"rows") return Whole(FindRecordRows());
   if (name == u"parts") return Whole(FindPartEditor());
   return std::nullopt;

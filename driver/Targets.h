@@ -18,6 +18,7 @@ class CMenuPopup;
 class CPartEditor;
 class CRecordRowList;
 class CScreen;
+class CSheet;
 class CWindow;
 }  // namespace quill
 
@@ -32,6 +33,8 @@ CWindow* FindTopmost();
 // The row list of the topmost sheet's page, and the part editor that is open over it.
 CRecordRowList* FindRecordRows();
 CPartEditor* FindPartEditor();
+// The uppermost property sheet, also below a dialog.
+CSheet* FindSheet();
 // The popup menu that was opened first, when submenus of it are open.
 CMenuPopup* FindPopup();
 
