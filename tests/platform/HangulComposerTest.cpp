@@ -2,8 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QStringList>
+
 #include <ostream>
-#include <vector>
 
 namespace quill {
 namespace {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QStringList>
+
 #include <algorithm>
 
 #include "resources/KeyPictures.h"

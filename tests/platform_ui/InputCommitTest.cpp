@@ -1,5 +1,6 @@
 #include "platform/ui/InputCommit.h"
 
+#include <QCoreApplication>
 #include <QInputMethodEvent>
 
 #include "platform/ui/Edit.h"
