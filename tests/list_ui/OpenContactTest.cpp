@@ -1,40 +1,58 @@
-// What a tap on a contact shows.
+// What a tap on a contact opens.
+#include "SheetSteps.h"
 #include "ViewFixture.h"
+#include "editor/CardState.h"
 #include "list/Selection.h"
-#include "support/ScriptedPrompt.h"
 
 namespace quill {
 namespace {
 
 class OpenContactTest : public test::ViewFixture {
  protected:
-  void SetUp() override {
-    g_services.Prompt = &m_prompt;
-    Open({QStringLiteral("김철수"), QStringLiteral("Adams")});
-  }
-
-  test::ScriptedPrompt m_prompt;
+  void SetUp() override { Open({QStringLiteral("김철수"), QStringLiteral("Adams")}); }
+  Oid OidAt(int row) const { return g_list.Rows[static_cast<std::size_t>(row)].Oid; }
 };
 
-TEST_F(OpenContactTest, ATapShowsHowToReachTheContact) {
-  m_prompt.Expect(PromptAnswer::OK);
+TEST_F(OpenContactTest, ATapOpensTheContactsSheet) {
+  test::SheetSteps sheet(*m_screen, [&](CEditRecordSheet& open) {
+    EXPECT_EQ(open.Caption(), QStringLiteral("Edit"));
+    EXPECT_EQ(open.Record().Oid, OidAt(1));
+    m_input.Key(Qt::Key_Escape);
+  });
   m_input.Tap(OnRow(1));
-  ASSERT_EQ(m_prompt.Shown().size(), 1U);
-  EXPECT_EQ(m_prompt.Shown()[0].Text, QStringLiteral("김철수\n(No contact information)"));
-  EXPECT_EQ(m_prompt.Shown()[0].Caption, kApplicationTitle.toString());
 }
 
-TEST_F(OpenContactTest, ADoubleTapShowsItOnlyOnceAtATime) {
-  m_prompt.Expect(PromptAnswer::OK);
+TEST_F(OpenContactTest, WhatOKWritesIsInTheList) {
+  test::SheetSteps sheet(*m_screen, [&](CEditRecordSheet& open) {
+    open.ActivePage()->findChild<CRecordRowList*>()->StartEdit(4);
+    m_input.Type(QStringLiteral("010-1"));
+    open.OnOK();
+  });
   m_input.Tap(OnRow(0));
-  m_input.PressAgain(OnRow(0));
-  EXPECT_EQ(m_prompt.Shown().size(), 1U);
+  EXPECT_EQ(g_list.Rows[0].Text, QStringLiteral("010-1"));
 }
 
-TEST_F(OpenContactTest, AContactThatIsGoneShowsNothing) {
-  ASSERT_TRUE(m_store.Contacts()->Remove(g_list.Rows[0].Oid));
+TEST_F(OpenContactTest, CancelWritesNothing) {
+  test::SheetSteps sheet(*m_screen, [&](CEditRecordSheet& open) {
+    open.ActivePage()->findChild<CRecordRowList*>()->StartEdit(4);
+    m_input.Type(QStringLiteral("010-1"));
+    m_input.Key(Qt::Key_Escape);
+  });
   m_input.Tap(OnRow(0));
-  EXPECT_TRUE(m_prompt.Shown().empty());
+  EXPECT_EQ(g_list.Rows[0].Text, QString());
+}
+
+TEST_F(OpenContactTest, AContactThatIsGoneOpensAnEmptySheetWithoutForeignInk) {
+  const Oid gone = OidAt(0);
+  ASSERT_TRUE(m_store.Contacts()->Remove(gone));
+  g_contactInk.Bytes = "of another";
+  test::SheetSteps sheet(*m_screen, [&](CEditRecordSheet& open) {
+    EXPECT_EQ(open.Record().Oid, gone);
+    EXPECT_EQ(open.Record().FileAs, QString());
+    EXPECT_EQ(g_contactInk.Count(), 0);
+    m_input.Key(Qt::Key_Escape);
+  });
+  m_input.Tap(OnRow(0));
 }
 
 TEST_F(OpenContactTest, AMemosPositionIsNotReadAsAContact) {
@@ -43,16 +61,94 @@ TEST_F(OpenContactTest, AMemosPositionIsNotReadAsAContact) {
   g_list.CurrentRow = 1;
   g_list.SelectedKeys = {1};
   m_input.Key(Qt::Key_Return);
-  EXPECT_TRUE(m_prompt.Shown().empty());
+  EXPECT_TRUE(m_screen->IsIdle());
 }
 
 TEST_F(OpenContactTest, AssistiveTechnologyOpensARowByPressingIt) {
-  m_prompt.Expect(PromptAnswer::OK);
-  List().ActivateRow(0);
-  EXPECT_EQ(m_prompt.Shown()[0].Text.section(u'\n', 0, 0), QStringLiteral("Adams"));
+  {
+    test::SheetSteps sheet(*m_screen, [&](CEditRecordSheet& open) {
+      EXPECT_EQ(open.Record().FileAs, QStringLiteral("Adams"));
+      m_input.Key(Qt::Key_Escape);
+    });
+    List().ActivateRow(0);
+  }
   EXPECT_EQ(g_list.CurrentRow, 0);
   List().ActivateRow(2);  // the line below the last contact
-  EXPECT_EQ(m_prompt.Shown().size(), 1U);
+}
+
+TEST_F(OpenContactTest, NewOpensAnEmptySheetThatMakesAContact) {
+  test::SheetSteps sheet(*m_screen, [&](CEditRecordSheet& open) {
+    EXPECT_EQ(open.Caption(), QStringLiteral("New"));
+    EXPECT_EQ(open.Record().Oid, 0);
+    open.ActivePage()->findChild<CRecordRowList*>()->StartEdit(3);
+    m_input.Type(QStringLiteral("Zoo"));
+    open.OnOK();
+  });
+  EXPECT_EQ(m_frame->RunCommand(ID_FILE_NEW), CommandResult::Done);
+  EXPECT_TRUE(ShownNames().contains(QStringLiteral("Zoo")));
+}
+
+class SummaryCardTest : public OpenContactTest {
+ protected:
+  void ShowCard(int row) {
+    m_input.Tap(OnRow(row, 200));
+    ASSERT_EQ(g_card.Contact, OidAt(row));
+  }
+};
+
+TEST_F(SummaryCardTest, ATapOnTheIconStripShowsTheCardOfTheContact) {
+  ShowCard(1);
+  EXPECT_EQ(m_screen->Windows().back()->Kind(), WindowKind::Card);
+  EXPECT_EQ(m_screen->Windows().back()->geometry(), g_card.Place);
+  EXPECT_TRUE(m_screen->IsIdle()) << "a card keeps nobody waiting";
+}
+
+TEST_F(SummaryCardTest, TheRightArrowKeyShowsItForTheSelectedRow) {
+  SelectRow(g_list, 1);
+  View().FocusList();
+  m_input.Key(Qt::Key_Right);
+  EXPECT_EQ(g_card.Contact, OidAt(1));
+}
+
+TEST_F(SummaryCardTest, TheNextPressTakesItAwayAndGoesOn) {
+  ShowCard(1);
+  m_input.Press(OnRow(0));
+  EXPECT_EQ(g_card.Contact, 0);
+  EXPECT_EQ(g_list.SelectedKeys, std::vector<int>{OidAt(0)});
+  m_input.Release(OnRow(0, 200));
+}
+
+TEST_F(SummaryCardTest, AKeyTakesItAway) {
+  ShowCard(1);
+  m_input.Key(Qt::Key_Shift);
+  EXPECT_EQ(g_card.Contact, 0);
+}
+
+TEST_F(SummaryCardTest, ARebuildTakesItAway) {
+  ShowCard(1);
+  View().Rebuild();
+  EXPECT_EQ(g_card.Contact, 0);
+  EXPECT_EQ(m_screen->Windows().size(), 1U);
+}
+
+TEST_F(SummaryCardTest, AnotherModeTakesItAway) {
+  ShowCard(1);
+  View().ShowMode(ViewMode::ByCompany);
+  EXPECT_EQ(g_card.Contact, 0);
+}
+
+TEST_F(SummaryCardTest, ADoubleTapOverItOpensNothing) {
+  ShowCard(1);
+  m_input.PressAgain(OnRow(1, 200));
+  m_input.Release(OnRow(1, 200));
+  EXPECT_EQ(g_card.Contact, OidAt(1)) << "the second tap shows it again";
+}
+
+TEST_F(SummaryCardTest, IsNotShownForAContactThatIsGone) {
+  ASSERT_TRUE(m_store.Contacts()->Remove(OidAt(0)));
+  m_input.Tap(OnRow(0, 200));
+  EXPECT_EQ(g_card.Contact, 0);
+  EXPECT_EQ(m_screen->Windows().size(), 1U);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // What other programs ask of the list.
 #include <QCoreApplication>
 
+#include "SheetSteps.h"
 #include "ViewFixture.h"
 #include "support/ScriptedPrompt.h"
 
@@ -13,11 +14,13 @@ class RequestTest : public test::ViewFixture {
     g_services.Prompt = &m_prompt;
     Open({QStringLiteral("Kim"), QStringLiteral("Lee")});
   }
-  QStringList ShownTexts() const {
-    QStringList texts;
-    for (const PromptMessage& message : m_prompt.Shown())
-      texts.append(message.Text.section(u'\n', 0, 0));
-    return texts;
+  // Only now a sheet comes, and it is this contact's.
+  void AdvanceToSheetOf(const QString& name, int milliseconds) {
+    test::SheetSteps sheet(*m_screen, [&](CEditRecordSheet& open) {
+      EXPECT_EQ(open.Record().FileAs, name);
+      m_input.Key(Qt::Key_Escape);
+    });
+    m_timers.Advance(milliseconds);
   }
 
   test::ScriptedPrompt m_prompt;
@@ -26,55 +29,69 @@ class RequestTest : public test::ViewFixture {
 TEST_F(RequestTest, AContactIsShownATenthOfASecondLater) {
   EXPECT_TRUE(View().OnCopyData(1, QStringLiteral("Lee")));
   m_timers.Advance(99);
-  EXPECT_EQ(ShownTexts(), QStringList());
-  m_prompt.Expect(PromptAnswer::OK);
-  m_timers.Advance(1);
-  EXPECT_EQ(ShownTexts(), QStringList(QStringLiteral("Lee")));
+  AdvanceToSheetOf(QStringLiteral("Lee"), 1);
   m_timers.Advance(1000);
-  EXPECT_EQ(m_prompt.Shown().size(), 1U);
 }
 
 TEST_F(RequestTest, OnlyTheLatestIsShown) {
   View().OnCopyData(1, QStringLiteral("Lee"));
   View().OnCopyData(4, QStringLiteral("Kim"));
-  m_prompt.Expect(PromptAnswer::OK);
+  AdvanceToSheetOf(QStringLiteral("Kim"), 100);
   m_timers.Advance(1000);
-  EXPECT_EQ(ShownTexts(), QStringList(QStringLiteral("Kim")));
 }
 
 TEST_F(RequestTest, AContactThatMovedMeanwhileIsStillTheOneAskedFor) {
   View().OnCopyData(1, QStringLiteral("Lee"));
   Add(QStringLiteral("Adams"));
-  m_prompt.Expect(PromptAnswer::OK);
-  m_timers.Advance(100);
-  EXPECT_EQ(ShownTexts(), QStringList(QStringLiteral("Lee")));
+  AdvanceToSheetOf(QStringLiteral("Lee"), 100);
 }
 
 TEST_F(RequestTest, AWindowThatIsOpenIsWaitedFor) {
-  m_prompt.Expect(PromptAnswer::OK);
   {
     const test::ViewFrame other(*m_screen);  // any window above the frame
     View().OnCopyData(1, QStringLiteral("Lee"));
     m_timers.Advance(1000);
-    EXPECT_EQ(ShownTexts(), QStringList());
   }
+  AdvanceToSheetOf(QStringLiteral("Lee"), 100);
+}
+
+TEST_F(RequestTest, ANewContactHoldsTheText) {
+  EXPECT_TRUE(View().OnCopyData(2, QStringLiteral("010-1234")));
+  test::SheetSteps sheet(*m_screen, [&](CEditRecordSheet& open) {
+    EXPECT_EQ(open.Caption(), QStringLiteral("New"));
+    EXPECT_EQ(RowsOf(open.Record(), RowSet::Basic)[1].Value, QStringLiteral("010-1234"));
+    m_input.Key(Qt::Key_Escape);
+  });
   m_timers.Advance(100);
-  EXPECT_EQ(ShownTexts(), QStringList(QStringLiteral("Lee")));
+}
+
+TEST_F(RequestTest, TheNextNewContactIsEmptyAgain) {
+  View().OnCopyData(2, QStringLiteral("010-1234"));
+  {
+    test::SheetSteps sheet(*m_screen, [&](CEditRecordSheet&) { m_input.Key(Qt::Key_Escape); });
+    m_timers.Advance(100);
+  }
+  test::SheetSteps sheet(*m_screen, [&](CEditRecordSheet& open) {
+    EXPECT_EQ(RowsOf(open.Record(), RowSet::Basic)[1].Value, QString());
+    m_input.Key(Qt::Key_Escape);
+  });
+  m_frame->RunCommand(ID_FILE_NEW);
 }
 
 TEST_F(RequestTest, ANameThatNobodyHasIsSaidOnceTheAnswerIsGiven) {
   EXPECT_FALSE(View().OnCopyData(1, QStringLiteral("Nobody")));
-  EXPECT_EQ(ShownTexts(), QStringList());
+  EXPECT_TRUE(m_prompt.Shown().empty());
   m_prompt.Expect(PromptAnswer::OK);
   QCoreApplication::processEvents();
-  EXPECT_EQ(ShownTexts(), QStringList(QStringLiteral("Related name not found.")));
+  ASSERT_EQ(m_prompt.Shown().size(), 1U);
+  EXPECT_EQ(m_prompt.Shown()[0].Text, QStringLiteral("Related name not found."));
 }
 
 TEST_F(RequestTest, OtherKindsAreIgnored) {
   EXPECT_FALSE(View().OnCopyData(3, QStringLiteral("Kim")));
   QCoreApplication::processEvents();
   m_timers.Advance(1000);
-  EXPECT_EQ(ShownTexts(), QStringList());
+  EXPECT_TRUE(m_prompt.Shown().empty());
 }
 
 }  // namespace

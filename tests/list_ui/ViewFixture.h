@@ -7,6 +7,7 @@
 
 #include <memory>
 
+#include "editor/SheetState.h"
 #include "list/CategoryMenu.h"
 #include "list/ListState.h"
 #include "list/PendingRequest.h"
@@ -111,6 +112,8 @@ class ViewFixture : public ScreenFixture {
     g_pendingRequest = {};
     g_memo = {};
     g_settings = {};
+    g_sheet = {};
+    g_contactInk = {};
   }
 };
 
