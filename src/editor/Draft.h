@@ -29,7 +29,7 @@ struct Draft {
 // Returns its number, 0 when it could not be kept.
 int SaveDraft(const Draft& draft);
 
-// The one that was first kept last.
+// The one of the greatest number, which is the latest.
 std::optional<Draft> LoadDraft();
 
 // True when there is none of this number afterwards.

@@ -10,7 +10,7 @@ namespace {
 
 QString FirstFilled(const ContactRecord& record, RowSet parts) {
   for (const RowRule& rule : RulesOf(parts))
-    if (!record[*rule.Field].isEmpty()) return record[*rule.Field];
+    if (rule.Field && !record[*rule.Field].isEmpty()) return record[*rule.Field];
   return {};
 }
 
@@ -36,7 +36,7 @@ bool GivesBackItsField(const RowRule& rule) {
 
 void SetFlags(const ContactRecord& record, RowSet set, PhoneFlags& flags) {
   for (const RowRule& rule : RulesOf(set))
-    if (rule.Flag) flags[IndexOf(*rule.Flag)] = !record[*rule.Field].isEmpty();
+    if (rule.Flag && rule.Field) flags[IndexOf(*rule.Flag)] = !record[*rule.Field].isEmpty();
 }
 
 }  // namespace
@@ -52,8 +52,9 @@ void TakeRows(std::span<const RecordRow> rows, RowSet set, const QString& areaCo
               ContactRecord& record) {
   const std::span<const RowRule> rules = RulesOf(set);
   for (std::size_t i = 0; i < std::min(rows.size(), rules.size()); ++i) {
-    if (GivesBackItsField(rules[i]))
-      record[*rules[i].Field] = TextToKeep(rules[i], rows[i].Value, areaCodePrefix);
+    const RowRule& rule = rules[i];
+    if (rule.Field && GivesBackItsField(rule))
+      record[*rule.Field] = TextToKeep(rule, rows[i].Value, areaCodePrefix);
   }
 }
 

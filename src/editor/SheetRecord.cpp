@@ -84,9 +84,10 @@ void SumUpParts(SheetRecord& sheet, RowSet page) {
   const std::span<const RowRule> rules = RulesOf(page);
   std::vector<RecordRow>& rows = RowsOf(sheet, page);
   for (std::size_t i = 0; i < rows.size(); ++i) {
-    if (!rules[i].Parts) continue;
-    const std::vector<RecordRow>& parts = RowsOf(sheet, *rules[i].Parts);
-    rows[i].Value = rules[i].Kind == RowKind::Name ? NameText(parts) : AddressText(parts);
+    const RowRule& rule = rules[i];
+    if (!rule.Parts) continue;
+    const std::vector<RecordRow>& parts = RowsOf(sheet, *rule.Parts);
+    rows[i].Value = rule.Kind == RowKind::Name ? NameText(parts) : AddressText(parts);
   }
 }
 
