@@ -67,20 +67,6 @@ CWindow* FindTopmost() {
   return screen ? screen->Topmost() : nullptr;
 }
 
-CRecordRowList* FindRecordRows() {
-  const CSheet* sheet = FindSheet();
-  const CSheetPage* page = sheet ? sheet->ActivePage() : nullptr;
-  return page ? page->findChild<CRecordRowList*>() : nullptr;
-}
-
-CPartEditor* FindPartEditor() {
-  const CSheet* sheet = FindSheet();
-  if (sheet == nullptr) return nullptr;
-  for (CPartEditor* editor : sheet->findChildren<CPartEditor*>())
-    if (editor->isVisible()) return editor;
-  return nullptr;
-}
-
 CSheet* FindSheet() {
   const CScreen* screen = FindScreen();
   if (screen == nullptr) return nullptr;
@@ -109,8 +95,6 @@ std::optional<Target> FindTarget(const QJsonValue& on) {
   if (name == u"list") return Whole(FindList());
   if (name == u"top") return FindTop();
   if (name == u"page") return FindPage();
-  if (name == u"rows") return Whole(FindRecordRows());
-  if (name == u"parts") return Whole(FindPartEditor());
   return std::nullopt;
 }
 

@@ -30,9 +30,6 @@ QWidget* FindView();
 CContactListCtrl* FindList();
 // The window that commands, keys and controls mean.
 CWindow* FindTopmost();
-// The row list of the topmost sheet's page, and the part editor that is open over it.
-CRecordRowList* FindRecordRows();
-CPartEditor* FindPartEditor();
 // The uppermost property sheet, also below a dialog.
 CSheet* FindSheet();
 // The popup menu that was opened first, when submenus of it are open.

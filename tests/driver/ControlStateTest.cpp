@@ -5,6 +5,7 @@
 #include <QLineEdit>
 
 #include "platform/ui/CheckList.h"
+#include "platform/ui/DatePicker.h"
 #include "platform_ui/SampleWindows.h"
 #include "platform_ui/ScreenFixture.h"
 
@@ -32,6 +33,26 @@ TEST_F(ControlStateTest, ACheckListGivesItsItemsAndTheCurrentOne) {
   list.SetCurrent(1);
   EXPECT_EQ(Value(list, u"index").toInt(), 1);
   EXPECT_EQ(Value(list, u"class").toString(), QStringLiteral("CheckList"));
+}
+
+TEST_F(ControlStateTest, ADateGivesTheDayItShowsAndWhetherThereIsOne) {
+  CDatePicker date(NoneCheck::Shown, &m_frame);
+  date.SetDate(std::nullopt, {2004, 9, 15});
+  EXPECT_EQ(Value(date, u"date").toString(), QStringLiteral("2004-09-15"));
+  EXPECT_EQ(Value(date, u"checked"), QJsonValue(false));
+  date.SetDate(QDate(2001, 2, 3), {});
+  EXPECT_EQ(Value(date, u"date").toString(), QStringLiteral("2001-02-03"));
+  EXPECT_EQ(Value(date, u"checked"), QJsonValue(true));
+  EXPECT_EQ(Value(date, u"class").toString(), QStringLiteral("DatePicker"));
+}
+
+TEST_F(ControlStateTest, ADateThatIsAlwaysThereHasNoCheck) {
+  const QJsonObject plain = [this] {
+    CDatePicker date(NoneCheck::Absent, &m_frame);
+    return ControlJson(1000, date, date.geometry());
+  }();
+  EXPECT_TRUE(plain.contains(u"date"));
+  EXPECT_FALSE(plain.contains(u"checked"));
 }
 
 TEST_F(ControlStateTest, AnEditorHasATextAndNoItems) {

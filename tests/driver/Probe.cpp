@@ -1,5 +1,6 @@
 // The driver with operations of its own that look deeper into a running shell: what assistive
-// technology is told, how many widgets there are, and values of the registry.
+// technology is told, how many widgets there are, and values of the registry; and one that opens a
+// sample sheet.
 #include <QAccessible>
 #include <QApplication>
 #include <QJsonArray>
@@ -7,11 +8,15 @@
 #include "driver/Arguments.h"
 #include "driver/Geometry.h"
 #include "driver/Session.h"
+#include "driver/Steps.h"
 #include "driver/Targets.h"
 #include "platform/Clock.h"
 #include "platform/RegistryStore.h"
 #include "platform/Services.h"
+#include "platform/ui/DatePicker.h"
+#include "platform/ui/MultiEdit.h"
 #include "platform/ui/Screen.h"
+#include "platform_ui/SampleWindows.h"
 
 using namespace quill;
 using namespace quill::driver;
@@ -55,6 +60,34 @@ Answer TellTime(const QJsonObject&, OperationContext&) {
   return Result(u"clock", g_services.Clock->Now().toString(Qt::ISODate));
 }
 
+constexpr int kDate = 301;
+constexpr int kPlainDate = 302;
+constexpr int kLines = 303;
+
+template <class Control>
+void Place(CSheetPage& page, int id, Control& control) {
+  control.setGeometry(10, 60 + 20 * (id - kDate), 140, id == kLines ? 47 : 17);
+  page.AddControl(id, &control);
+}
+
+// On its second page: a date that may be none, one that is always there, an editor of several
+// lines.
+Answer OpenSheet(const QJsonObject&, OperationContext& context) {
+  context.Steps.Add([] {
+    quill::test::SampleSheet sheet(*FindScreen());
+    CDatePicker date(NoneCheck::Shown, &sheet.Two);
+    CDatePicker plainDate(NoneCheck::Absent, &sheet.Two);
+    CMultiEdit lines({}, &sheet.Two);
+    Place(sheet.Two, kDate, date);
+    Place(sheet.Two, kPlainDate, plainDate);
+    Place(sheet.Two, kLines, lines);
+    date.SetDate(std::nullopt, {2004, 9, 15});
+    plainDate.SetDate(std::nullopt, {2004, 9, 16});
+    sheet.DoModal();
+  });
+  return Done();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -64,5 +97,6 @@ int main(int argc, char** argv) {
   operations.push_back({u"remember", Remember});
   operations.push_back({u"recall", Recall});
   operations.push_back({u"clock", TellTime});
+  operations.push_back({u"open-sheet", OpenSheet});
   return RunSession(operations, argc, argv);
 }
