@@ -76,6 +76,20 @@ CSheet* FindSheet() {
   return sheet;
 }
 
+CRecordRowList* FindRecordRows() {
+  const CSheet* sheet = FindSheet();
+  const CSheetPage* page = sheet ? sheet->ActivePage() : nullptr;
+  return page ? page->findChild<CRecordRowList*>() : nullptr;
+}
+
+CPartEditor* FindPartEditor() {
+  const CSheet* sheet = FindSheet();
+  if (sheet == nullptr) return nullptr;
+  for (CPartEditor* editor : sheet->findChildren<CPartEditor*>())
+    if (editor->isVisible()) return editor;
+  return nullptr;
+}
+
 CMenuPopup* FindPopup() {
   const CScreen* screen = FindScreen();
   return screen ? screen->Popup() : nullptr;
@@ -95,6 +109,8 @@ std::optional<Target> FindTarget(const QJsonValue& on) {
   if (name == u"list") return Whole(FindList());
   if (name == u"top") return FindTop();
   if (name == u"page") return FindPage();
+  if (name == u"rows") return Whole(FindRecordRows());
+  if (name == u"parts") return Whole(FindPartEditor());
   return std::nullopt;
 }
 

@@ -77,6 +77,9 @@ QString MeaningOf(const CardParameter& parameter) {
 QString MeaningOf(const CarriedLine& line) {
   const auto property = ParseProperty(line.Text.toUtf8(), {});
   if (!property) return line.Text;
+  // Bytes are the same bytes, whatever is said of them: every version says it in its own way.
+  if (const QByteArray bytes = BytesOf(*property); !bytes.isEmpty())
+    return property->Name + u':' + QString::fromLatin1(bytes.toBase64());
   QStringList parameters = TypesOf(*property);
   for (const CardParameter& parameter : property->Parameters) {
     const bool isForm =
