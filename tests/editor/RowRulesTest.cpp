@@ -1,5 +1,7 @@
 #include "editor/RowRules.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 #include <set>
