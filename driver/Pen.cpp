@@ -36,8 +36,9 @@ void Pen::Press(QPointF at) {
   SendMouse(QEvent::MouseButtonPress, at, Qt::LeftButton);
 }
 
+// As a press too, without which the window system would bring its release to nobody.
 void Pen::PressAgain(QPointF at) {
-  m_down = true;
+  Press(at);
   SendMouse(QEvent::MouseButtonDblClick, at, Qt::LeftButton);
 }
 

@@ -32,6 +32,9 @@ CContactListCtrl* FindList();
 CWindow* FindTopmost();
 // The uppermost property sheet, also below a dialog.
 CSheet* FindSheet();
+// The row list of the uppermost sheet's page, and the part editor that is open over it.
+CRecordRowList* FindRecordRows();
+CPartEditor* FindPartEditor();
 // The popup menu that was opened first, when submenus of it are open.
 CMenuPopup* FindPopup();
 

@@ -132,9 +132,10 @@ MenuItem CScreen::InputPanelButton() const {
 }
 
 void CScreen::ShowShellMenu(QPoint at) {
+  if (!m_shellCommands) return;
   const CWindow* const window = Topmost();
   CommandRoute route = window ? window->Route() : CommandRoute();
-  if (m_shellCommands) route.Add(*m_shellCommands);
+  route.Add(*m_shellCommands);
   std::vector<MenuItem> items;
   if (window) items = BuildMenuItems(window->TitleMenu(), route);
   if (!items.empty()) items.push_back({.Separator = true});
