@@ -11,6 +11,7 @@
 
 #include "app/InstanceLock.h"
 #include "platform/DesktopRecoveryFiles.h"
+#include "app/RequestChannel.h"
 
 namespace quill {
 namespace {
@@ -91,10 +92,14 @@ QString SampleHome(const QProcessEnvironment& environment) {
 }
 
 DeviceRoots DeviceRootsOf(const Places& places) {
-  return {.Device = places.DeviceFolder,
-          .MyDocuments = places.DocumentsFolder,
-          .Own = {places.StoreFile, places.SettingsFile, InstanceLockFile(places.StateFolder),
-                  places.StateFolder + u'/' + kRecoveryPrefix.toString()}};
+  DeviceRoots roots{
+      .Device = places.DeviceFolder,
+      .MyDocuments = places.DocumentsFolder,
+      .Own = {places.StoreFile, places.SettingsFile, InstanceLockFile(places.StateFolder),
+              places.StateFolder + u'/' + kRecoveryPrefix.toString()}};
+  for (const QString& folder : {places.StateFolder, places.RuntimeFolder})
+    if (!folder.isEmpty()) roots.Own.append(folder + u'/' + RequestSocketName(places));
+  return roots;
 }
 
 QString MakeFolders(const Places& places) {

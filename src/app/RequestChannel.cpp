@@ -22,15 +22,6 @@ Q_LOGGING_CATEGORY(logRequests, "quill.requests")
 constexpr qsizetype kPathLimit = 107 - 9;
 constexpr auto kRetryPause = std::chrono::milliseconds(25);
 
-QString SocketName(const Places& places) {
-  // A home that is reached by two paths is one home.
-  const QString canonical = QFileInfo(places.StateFolder).canonicalFilePath();
-  const QString& folder = canonical.isEmpty() ? places.StateFolder : canonical;
-  const QByteArray hash =
-      QCryptographicHash::hash(folder.toUtf8(), QCryptographicHash::Sha256).first(8).toHex();
-  return QStringLiteral("quill-%1.sock").arg(QString::fromLatin1(hash));
-}
-
 // A folder that only this user can have made what it is: others' folders are not to be trusted with
 // the requests.
 QString ShortFolder() {
@@ -59,8 +50,17 @@ RequestOutcome TryOnce(const QString& socket, const QByteArray& line, QDeadlineT
 
 }  // namespace
 
+QString RequestSocketName(const Places& places) {
+  // A home that is reached by two paths is one home.
+  const QString canonical = QFileInfo(places.StateFolder).canonicalFilePath();
+  const QString& folder = canonical.isEmpty() ? places.StateFolder : canonical;
+  const QByteArray hash =
+      QCryptographicHash::hash(folder.toUtf8(), QCryptographicHash::Sha256).first(8).toHex();
+  return QStringLiteral("quill-%1.sock").arg(QString::fromLatin1(hash));
+}
+
 QString RequestSocket(const Places& places) {
-  const QString name = SocketName(places);
+  const QString name = RequestSocketName(places);
   const QString folder = places.RuntimeFolder.isEmpty() ? places.StateFolder : places.RuntimeFolder;
   const QString path = folder + u'/' + name;
   if (QFile::encodeName(path).size() <= kPathLimit) return path;

@@ -18,6 +18,8 @@ namespace quill {
 // the state folder when there is none. When that is too long for a socket address it lies in a
 // folder of this user's below the temporary one.
 QString RequestSocket(const Places& places);
+// Its name without the folder.
+QString RequestSocketName(const Places& places);
 
 // Needs an event loop. Only the process that holds the instance lock may listen.
 class RequestChannel {

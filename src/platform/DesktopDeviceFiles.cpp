@@ -6,7 +6,6 @@
 #include <QFileInfo>
 #include <QLoggingCategory>
 
-#include <algorithm>
 #include <cerrno>
 #include <utility>
 
@@ -86,12 +85,7 @@ QString DesktopDeviceFiles::Locate(const QStringList& parts) const {
   QString file = RootOf(parts);
   for (const QString& part : parts.mid(IsBelowMyDocuments(parts) ? 1 : 0))
     file = FollowCase(file, part);
-  return IsOwn(file) ? QString() : file;
-}
-
-bool DesktopDeviceFiles::IsOwn(const QString& file) const {
-  return std::any_of(m_roots.Own.begin(), m_roots.Own.end(),
-                     [&](const QString& own) { return file.startsWith(own, Qt::CaseInsensitive); });
+  return DeviceReach(m_roots).Includes(file) ? file : QString();
 }
 
 QString DesktopDeviceFiles::FileAt(const QString& path) const {
@@ -130,13 +124,16 @@ QStringList DesktopDeviceFiles::Find(const QString& pattern) const {
   if (folder.isEmpty()) Refuse("listing", pattern, NotReachable());
   if (!QFileInfo(folder).isDir()) return {};  // a folder that is not there is an empty one
   const QStringView names = QStringView(pattern).mid(folderEnd);
+  const QString real = RealPath(folder);
+  const DeviceReach reach(m_roots);
   QStringList found;
   QDirIterator entries(folder, QDir::Files | QDir::Hidden);
   while (entries.hasNext()) {
     entries.next();
     const QString name = entries.fileName();
     // A name with a separator in it could not be reached by a path.
-    if (MatchesPattern(name, names) && !name.contains(u'\\')) found.append(name);
+    if (!MatchesPattern(name, names) || name.contains(u'\\')) continue;
+    if (reach.IncludesIn(real, entries.fileInfo())) found.append(name);
   }
   return found;
 }
@@ -152,8 +149,9 @@ std::optional<QByteArray> DesktopDeviceFiles::ReadWhole(const QString& path) con
 }
 
 bool DesktopDeviceFiles::WriteWhole(const QString& path, const QByteArray& content) {
-  const QString place = PlaceFor(path);
-  if (place.isEmpty()) return Refuse("writing", path, NotReachable());
+  const QString place = RealPath(PlaceFor(path));
+  const bool isTaken = QFileInfo::exists(place) && !QFileInfo(place).isFile();
+  if (place.isEmpty() || isTaken) return Refuse("writing", path, NotReachable());
   const QString problem = WriteWholeFile(place, content);
   return problem.isEmpty() || Refuse("writing", path, problem);
 }

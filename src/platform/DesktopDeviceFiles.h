@@ -2,21 +2,13 @@
 //
 // A name is looked for as it is written, then without case. What is new must have a name that the
 // device allows (IsDeviceName); files that are there already are taken whatever their names.
-// Paths never lead out of the roots; symbolic links that the user has set below them do count.
+// Nothing but what DeviceReach includes is listed, read, made or changed, whatever a path says.
 #pragma once
 
 #include "platform/DeviceFiles.h"
+#include "platform/DeviceRoots.h"
 
 namespace quill {
-
-// Absolute folders; they need not exist before something is made in them.
-struct DeviceRoots {
-  QString Device;       // "\" and what is not below My Documents
-  QString MyDocuments;  // "\My Documents"
-  // Files of the program itself that lie in Device: neither they nor names that begin like them,
-  // such as their journals, are reachable.
-  QStringList Own = {};
-};
 
 class DesktopDeviceFiles : public DeviceFiles {
  public:
@@ -38,7 +30,6 @@ class DesktopDeviceFiles : public DeviceFiles {
   // for what may be made: its root is there then, as on a device, and its name is allowed.
   QString FileAt(const QString& path) const;
   QString PlaceFor(const QString& path) const;
-  bool IsOwn(const QString& file) const;
 
   DeviceRoots m_roots;
 };

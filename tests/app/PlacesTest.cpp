@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include "app/RequestChannel.h"
+
 namespace quill {
 namespace {
 
@@ -32,11 +34,16 @@ TEST(Places, AHomeHoldsEverything) {
 }
 
 TEST(Places, AHomesOwnFilesAreNotTheDevices) {
-  const DeviceRoots roots = DeviceRootsOf(HomePlaces(u"/tmp/home"_qs, {}));
+  const Places places =
+      HomePlaces(u"/tmp/home"_qs, Environment({{u"XDG_RUNTIME_DIR"_qs, u"/r"_qs}}));
+  const DeviceRoots roots = DeviceRootsOf(places);
   EXPECT_EQ(roots.Device, u"/tmp/home"_qs);
   EXPECT_EQ(roots.MyDocuments, u"/tmp/home/My Documents"_qs);
-  EXPECT_EQ(roots.Own, QStringList({u"/tmp/home/store.db"_qs, u"/tmp/home/settings.json"_qs,
-                                    u"/tmp/home/quill.lock"_qs, u"/tmp/home/recovery-"_qs}));
+  EXPECT_EQ(roots.Own,
+            QStringList({u"/tmp/home/store.db"_qs, u"/tmp/home/settings.json"_qs,
+                         u"/tmp/home/quill.lock"_qs, u"/tmp/home/recovery-"_qs,
+                         u"/tmp/home/"_qs + RequestSocketName(places),
+                         u"/r/"_qs + RequestSocketName(places)}));
 }
 
 TEST(Places, AUsersDeviceFilesLieBesideTheStore) {

@@ -326,3 +326,18 @@ TEST_F(CommandScript, ARequestWaitsUntilTheOpenDialogHasClosed) {
   driver.Do(R"({"op":"wait","ms":300})");
   EXPECT_NE(driver.Result(R"({"op":"message"})", u"message"), QJsonValue());
 }
+
+TEST_F(CommandScript, AMemoIsNotCopiedThroughALinkOntoTheStore) {
+  AddMemos({QStringLiteral("a.pwi")});
+  ASSERT_TRUE(QFile::link(QStringLiteral("../../store.db"), MemoFile(QStringLiteral("b.pwi"))));
+  ReadyDriver driver(Arguments());
+  PutPeople(driver);
+  RunCommand(driver, kByMemo);
+  EXPECT_EQ(Memos(driver), QStringList(QStringLiteral("a.pwi")));
+  driver.Do(R"({"op":"hold","on":"list","x":20,"y":8})");
+  driver.Do(R"({"op":"choose","id":32828})");
+  driver.Do(R"({"op":"set","id":1017,"text":"\\My Documents\\Fennick\\b.pwi"})");
+  driver.Do(R"({"op":"ok"})");
+  RunCommand(driver, kByName);
+  EXPECT_EQ(List(driver)[u"total"], 3);
+}

@@ -203,6 +203,75 @@ TEST_F(DesktopDeviceFilesTest, TheProgramsOwnFilesAreNotReachable) {
   EXPECT_EQ(ContentOnDisk(u"store.db"_qs), "ink");
 }
 
+// Links that lead out of the home or to its store: a folder's, a file's, and one to nothing yet.
+class DeviceFilesWithLinks : public DesktopDeviceFilesTest {
+ protected:
+  void SetUp() override {
+    PutOnDisk(u"store.db"_qs, "store");
+    PutOnDisk(u"My Documents/A.pwi"_qs, "memo");
+    ASSERT_TRUE(QFile::link(m_outside.path(), OnDisk(u"My Documents/out"_qs)));
+    ASSERT_TRUE(QFile::link(u"../store.db"_qs, OnDisk(u"My Documents/own.pwi"_qs)));
+    ASSERT_TRUE(QFile::link(m_outside.filePath(u"new"_qs), OnDisk(u"My Documents/new.pwi"_qs)));
+    ASSERT_TRUE(QFile::link(u".."_qs, OnDisk(u"My Documents/up"_qs)));
+    QFile secret(m_outside.filePath(u"secret.pwi"_qs));
+    ASSERT_TRUE(secret.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(QFile::link(secret.fileName(), OnDisk(u"My Documents/secret.pwi"_qs)));
+  }
+  QStringList NamesOutside() const { return QDir(m_outside.path()).entryList(QDir::Files); }
+
+  QTemporaryDir m_outside;
+};
+
+class LinkThatLeadsOut : public DeviceFilesWithLinks,
+                         public testing::WithParamInterface<QString> {};
+
+TEST_P(LinkThatLeadsOut, IsFollowedByNothing) {
+  const QString memo = u"\\My Documents\\A.pwi"_qs;
+  EXPECT_FALSE(m_files.Exists(GetParam()));
+  EXPECT_EQ(m_files.ReadWhole(GetParam()), std::nullopt);
+  EXPECT_FALSE(m_files.WriteWhole(GetParam(), "new"));
+  EXPECT_FALSE(m_files.Copy(memo, GetParam()));
+  EXPECT_FALSE(m_files.Move(memo, GetParam()));
+  EXPECT_FALSE(m_files.Move(GetParam(), u"\\My Documents\\B.pwi"_qs));
+  EXPECT_FALSE(m_files.Remove(GetParam()));
+  EXPECT_EQ(m_files.CreateFolder(GetParam()), kDeviceInvalidName);
+  EXPECT_EQ(ContentOnDisk(u"store.db"_qs), "store");
+  EXPECT_EQ(ContentOnDisk(u"My Documents/A.pwi"_qs), "memo");
+  EXPECT_EQ(NamesOutside(), QStringList(u"secret.pwi"_qs));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Paths, LinkThatLeadsOut,
+    testing::Values(u"\\My Documents\\out\\secret.pwi"_qs, u"\\My Documents\\OUT\\B.pwi"_qs,
+                    u"\\My Documents\\secret.pwi"_qs, u"\\My Documents\\new.pwi"_qs,
+                    u"\\My Documents\\own.pwi"_qs, u"\\My Documents\\up\\store.db"_qs,
+                    u"\\My Documents\\up\\store.db-wal"_qs));
+
+TEST_F(DeviceFilesWithLinks, FindListsNothingThatALinkLeadsOutTo) {
+  EXPECT_EQ(m_files.Find(u"\\My Documents\\*.pwi"_qs), QStringList(u"A.pwi"_qs));
+  EXPECT_EQ(m_files.Find(u"\\My Documents\\out\\*"_qs), QStringList());
+  EXPECT_EQ(m_files.Find(u"\\My Documents\\up\\*"_qs), QStringList()) << "the store";
+}
+
+TEST_F(DeviceFilesWithLinks, ALinkThatStaysBelowTheRootsIsUsed) {
+  PutOnDisk(u"Below/B.pwi"_qs, "b");
+  ASSERT_TRUE(QFile::link(u"../Below"_qs, OnDisk(u"My Documents/below"_qs)));
+  ASSERT_TRUE(QFile::link(u"../Below/B.pwi"_qs, OnDisk(u"My Documents/B.pwi"_qs)));
+  EXPECT_EQ(m_files.Find(u"\\My Documents\\below\\*"_qs), QStringList(u"B.pwi"_qs));
+  EXPECT_TRUE(m_files.WriteWhole(u"\\My Documents\\B.pwi"_qs, "new"));
+  EXPECT_EQ(ContentOnDisk(u"Below/B.pwi"_qs), "new");
+  EXPECT_TRUE(m_files.Remove(u"\\My Documents\\B.pwi"_qs));
+  EXPECT_EQ(ContentOnDisk(u"Below/B.pwi"_qs), "new") << "the link goes, not the file";
+}
+
+TEST_F(DesktopDeviceFilesTest, WritingTakesThePlaceOfNothingButAFile) {
+  ASSERT_TRUE(QDir().mkpath(OnDisk(u"My Documents"_qs)));
+  const QByteArray pipe = QFile::encodeName(OnDisk(u"My Documents/pipe"_qs));
+  ASSERT_EQ(::mkfifo(pipe.constData(), 0600), 0);
+  EXPECT_FALSE(m_files.WriteWhole(u"\\My Documents\\pipe"_qs, "memo"));
+  EXPECT_FALSE(QFileInfo(OnDisk(u"My Documents/pipe"_qs)).isFile());
+}
+
 TEST_F(DesktopDeviceFilesTest, AFileIsRemovedOnce) {
   PutOnDisk(u"My Documents/A.pwi"_qs);
   EXPECT_TRUE(m_files.Remove(u"\\My Documents\\a.pwi"_qs));
