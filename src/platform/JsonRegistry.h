@@ -1,8 +1,8 @@
 // The registry on a desktop: one JSON file (RegistryJson.h), written anew as a whole at each
 // change.
 //
-// A file that cannot be understood is renamed to NAME.damaged, NAME.damaged-2, ... and the registry
-// begins empty. A file that can be neither read nor renamed stays, and every change fails.
+// A file that cannot be understood is renamed to NAME.bad, NAME.bad-2, ... and the registry begins
+// empty. A file that can be neither read nor renamed stays, and every change fails.
 #pragma once
 
 #include "platform/RegistryJson.h"

@@ -35,9 +35,9 @@ QString WriteWholeFile(const QString& file, const QByteArray& content) {
 }
 
 QString SetFileAside(const QString& file) {
-  QString aside = file + QStringLiteral(".damaged");
+  QString aside = file + QStringLiteral(".bad");
   for (int number = 2; QFileInfo::exists(aside); ++number)
-    aside = file + QStringLiteral(".damaged-%1").arg(number);
+    aside = file + QStringLiteral(".bad-%1").arg(number);
   return QFile::rename(file, aside) ? aside : QString();
 }
 

@@ -125,7 +125,7 @@ TEST_F(JsonRegistryTest, ADamagedFileIsKeptAsideAndTheRegistryBeginsEmpty) {
   WriteFile("{ damaged");
   JsonRegistry registry(File());
   EXPECT_EQ(registry.Create(kKey), RegistryKeyState::Created);
-  EXPECT_EQ(ContentOf(File() + QStringLiteral(".damaged")), QByteArray("{ damaged"));
+  EXPECT_EQ(ContentOf(File() + QStringLiteral(".bad")), QByteArray("{ damaged"));
 }
 
 TEST_F(JsonRegistryTest, ASecondDamagedFileDoesNotReplaceTheFirst) {
@@ -133,8 +133,8 @@ TEST_F(JsonRegistryTest, ASecondDamagedFileDoesNotReplaceTheFirst) {
   const JsonRegistry once(File());
   WriteFile("second");
   const JsonRegistry twice(File());
-  EXPECT_EQ(ContentOf(File() + QStringLiteral(".damaged")), QByteArray("first"));
-  EXPECT_EQ(ContentOf(File() + QStringLiteral(".damaged-2")), QByteArray("second"));
+  EXPECT_EQ(ContentOf(File() + QStringLiteral(".bad")), QByteArray("first"));
+  EXPECT_EQ(ContentOf(File() + QStringLiteral(".bad-2")), QByteArray("second"));
 }
 
 TEST_F(JsonRegistryTest, AFailedWriteKeepsTheOldValueAndLeavesNothingBehind) {
