@@ -58,8 +58,6 @@ bool JsonRegistry::PutText(const QString& key, const QString& name, const QByteA
 }
 
 bool JsonRegistry::Put(const QString& key, const QString& name, const RegistryValue& value) {
-  const RegistryValue* old = Find(key, name);
-  if (old && *old == value) return true;
   RegistryKeys keys = m_keys;
   RegistryValueIn(RegistryKeyIn(keys, key), name) = value;
   return Replace(std::move(keys));

@@ -1,5 +1,5 @@
-// The registry on a desktop: one JSON file (RegistryJson.h), written anew as a whole at each
-// change.
+// The registry on a desktop: one JSON file (RegistryJson.h), written anew as a whole with each
+// value that is put, also when it is the one that was there.
 //
 // A file that cannot be understood is renamed to NAME.bad, NAME.bad-2, ... and the registry begins
 // empty. A file that can be neither read nor renamed stays, and every change fails.

@@ -157,11 +157,23 @@ TEST_F(JsonRegistryTest, AFileThatCannotBeReadIsNeverWrittenOver) {
   EXPECT_TRUE(QDir(File() + QStringLiteral("/inner")).exists());
 }
 
-TEST_F(JsonRegistryTest, PuttingTheSameValueAgainDoesNotWriteTheFile) {
+TEST_F(JsonRegistryTest, PuttingTheSameValueAgainWritesTheFileThatVanished) {
   JsonRegistry registry(File());
   ASSERT_TRUE(registry.PutNumber(kKey, kNumber, 1));
+  ASSERT_TRUE(registry.PutText(kKey, kText, "ab"));
   ASSERT_TRUE(QFile::remove(File()));
   EXPECT_TRUE(registry.PutNumber(kKey, kNumber, 1));
+  EXPECT_EQ(JsonRegistry(File()).QueryNumber(kKey, kNumber), 1U);
+  ASSERT_TRUE(QFile::remove(File()));
+  EXPECT_TRUE(registry.PutText(kKey, kText, "ab"));
+  EXPECT_TRUE(QFile::exists(File()));
+}
+
+TEST_F(JsonRegistryTest, OpeningAKeyThatIsThereWritesNothing) {
+  ASSERT_TRUE(JsonRegistry(File()).PutNumber(kKey, kNumber, 1));
+  JsonRegistry registry(File());
+  ASSERT_TRUE(QFile::remove(File()));
+  EXPECT_EQ(registry.Create(kKey), RegistryKeyState::Opened);
   EXPECT_FALSE(QFile::exists(File()));
 }
 
