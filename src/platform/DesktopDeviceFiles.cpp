@@ -101,6 +101,10 @@ QString DesktopDeviceFiles::PlaceFor(const QString& path) const {
   return IsDeviceName(parts->last()) || QFileInfo::exists(file) ? file : QString();
 }
 
+QString DesktopDeviceFiles::FilePlaceFor(const QString& path) const {
+  return path.endsWith(u'\\') ? QString() : PlaceFor(path);
+}
+
 int DesktopDeviceFiles::CreateFolder(const QString& path) {
   const QString folder = PlaceFor(path);
   if (folder.isEmpty()) {
@@ -149,7 +153,7 @@ std::optional<QByteArray> DesktopDeviceFiles::ReadWhole(const QString& path) con
 }
 
 bool DesktopDeviceFiles::WriteWhole(const QString& path, const QByteArray& content) {
-  const QString place = RealPath(PlaceFor(path));
+  const QString place = RealPath(FilePlaceFor(path));
   const bool isTaken = QFileInfo::exists(place) && !QFileInfo(place).isFile();
   if (place.isEmpty() || isTaken) return Refuse("writing", path, NotReachable());
   const QString problem = WriteWholeFile(place, content);
@@ -164,7 +168,7 @@ bool DesktopDeviceFiles::Remove(const QString& path) {
 
 bool DesktopDeviceFiles::Move(const QString& from, const QString& to) {
   const QString source = FileAt(from);
-  QString target = PlaceFor(to);
+  QString target = FilePlaceFor(to);
   if (target.isEmpty() || !QFileInfo(source).isFile())
     return Refuse("moving", from + QStringLiteral(" to ") + to, NotReachable());
   // The same name in other letters: only its spelling changes.

@@ -30,6 +30,8 @@ class DesktopDeviceFiles : public DeviceFiles {
   // for what may be made: its root is there then, as on a device, and its name is allowed.
   QString FileAt(const QString& path) const;
   QString PlaceFor(const QString& path) const;
+  // The same for a file, whose path does not end as a folder's may.
+  QString FilePlaceFor(const QString& path) const;
 
   DeviceRoots m_roots;
 };

@@ -166,7 +166,8 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(u""_qs, u"\\"_qs, u"\\My Documents\\A/B.pwi"_qs, u"\\My Documents\\A:B.pwi"_qs,
                     u"\\My Documents\\A*.pwi"_qs, u"\\My Documents\\..\\A.pwi"_qs,
                     u"\\My Documents\\Missing\\A.pwi"_qs, u"\\My Documents\\Folder"_qs,
-                    u"\\store.db"_qs, u"\\Store.DB-wal"_qs, u"/A.pwi"_qs));
+                    u"\\store.db"_qs, u"\\Store.DB-wal"_qs, u"/A.pwi"_qs,
+                    u"\\My Documents\\B.pwi\\"_qs));
 
 TEST_F(DesktopDeviceFilesTest, AFileWithANameThatTheDeviceForbidsIsStillUsed) {
   PutOnDisk(u"My Documents/a:b.pwi"_qs, "memo");
