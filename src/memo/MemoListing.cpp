@@ -56,6 +56,8 @@ QStringList MemosInRange(const MemoState& memo, QStringView lower, QStringView u
 }
 
 QStringList MemosWithPrefix(const MemoState& memo, const QString& prefix) {
+  // It would be another folder's files that are found, under names that this folder may have too.
+  if (prefix.contains(u'\\')) return {};
   return Sorted(g_services.Files->Find(MemoPath(memo, prefix + QStringLiteral("*.pwi"))));
 }
 

@@ -20,8 +20,8 @@ QStringList AllMemos(const MemoState& memo);
 QStringList MemosInRange(const MemoState& memo, QStringView lower, QStringView upper);
 
 // The names that begin with this text; "*" and "?" in it stand for other characters, as in any
-// pattern. The memos of a contact are those that begin with its name, so Kim has Kimberly's too:
-// intended.
+// pattern. No name has a separator in it, so a text with one matches none. The memos of a contact
+// are those that begin with its name, so Kim has Kimberly's too: intended.
 QStringList MemosWithPrefix(const MemoState& memo, const QString& prefix);
 
 // The name at a position of NameList, 0-based; nothing past its end.

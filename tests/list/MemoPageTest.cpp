@@ -43,6 +43,15 @@ TEST_F(MemoPage, ListsTheMemosAndNoContacts) {
   EXPECT_EQ(m_list.Rows[0], ListRow());
 }
 
+TEST_F(MemoPage, ASearchWithASeparatorListsNothingThatCouldBeDeletedByMistake) {
+  ASSERT_EQ(m_home.Files.CreateFolder(MemoPath(g_memo, u"AC"_qs)), 0);
+  Put({u"DC_1.pwi"_qs, u"AC\\DC_1.pwi"_qs});
+  SearchList(m_list, u"AC\\DC"_qs);
+  BuildPage(m_list);
+  EXPECT_EQ(g_memo.NameList, QStringList());
+  EXPECT_EQ(m_list.Total, 0);
+}
+
 TEST_F(MemoPage, ShowsNoMoreRowsThanAPageHas) {
   PutNumbered(20);
   BuildPage(m_list);

@@ -68,6 +68,13 @@ TEST_F(MemoListing, ANameThatNoFileCanHaveHasNoMemos) {
     EXPECT_EQ(MemosWithPrefix(m_memo, name), QStringList()) << name.toStdString();
 }
 
+TEST_F(MemoListing, ATextWithASeparatorMatchesNoMemoOfAnotherFolderEither) {
+  ASSERT_EQ(m_files.CreateFolder(MemoPath(m_memo, u"AC"_qs)), 0);
+  PutAll({u"DC_1.pwi"_qs, u"AC\\DC_1.pwi"_qs});
+  for (const QString& text : {u"AC\\DC"_qs, u"AC\\"_qs, u"\\"_qs, u"\\DC"_qs})
+    EXPECT_EQ(MemosWithPrefix(m_memo, text), QStringList()) << text.toStdString();
+}
+
 struct RangeCase {
   QString Lower;
   QString Upper;
