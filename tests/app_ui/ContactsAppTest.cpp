@@ -130,6 +130,21 @@ TEST_F(ContactsAppTest, TheScaleStaysWhileADialogIsOpen) {
   EXPECT_FALSE(end.Next.has_value());
 }
 
+TEST_F(ContactsAppTest, TheScaleStaysWhileThePenIsDown) {
+  const ShellEnd end = Run([this] {
+    return std::vector<Step>{[this] {
+                               test::ScreenInput(*m_screen).Press({120, 160});
+                             },
+                             Key(Qt::Key_Plus, Qt::ControlModifier),
+                             [this] { m_app->ToggleFullScreen(); },
+                             [this] {
+                               test::ScreenInput(*m_screen).Release({120, 160});
+                             },
+                             Closing()};
+  });
+  EXPECT_FALSE(end.Next.has_value());
+}
+
 TEST_F(ContactsAppTest, TheNextShellKnowsTheSettingsThoughTheyCannotBeStored) {
   ASSERT_TRUE(QDir(m_home.path()).mkdir(QStringLiteral("settings.json")));
   const ShellEnd end =

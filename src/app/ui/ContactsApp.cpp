@@ -167,14 +167,16 @@ std::optional<Scale> CContactsApp::SmallerScale() const {
   return IsFullScreen() || smaller == m_start.At ? std::nullopt : std::optional(smaller);
 }
 
+bool CContactsApp::MayLeave() const { return IsIdle() && !m_screen->IsPenDown(); }
+
 void CContactsApp::ChangeScale(Scale scale) {
-  if (!IsIdle()) return;
+  if (!MayLeave()) return;
   m_settings.WindowScale = scale;
   LeaveFor(scale);
 }
 
 void CContactsApp::ToggleFullScreen() {
-  if (!IsIdle()) return;
+  if (!MayLeave()) return;
   const bool fullScreen = !IsFullScreen();
   const QScreen* const screen = QGuiApplication::primaryScreen();
   const QSize whole = DesktopPixels(screen->size(), m_start.At);

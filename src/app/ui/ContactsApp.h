@@ -51,7 +51,7 @@ class CContactsApp {
   bool IsIdle() const;
 
   // What the shell's commands do. There may be no larger or smaller scale. A change ends the shell;
-  // unless all is idle nothing happens.
+  // unless all is idle and the pen is up nothing happens.
   std::optional<Scale> LargerScale() const;
   std::optional<Scale> SmallerScale() const;
   bool IsFullScreen() const;
@@ -65,6 +65,7 @@ class CContactsApp {
   Scale FittedScale() const;
   void InitInstance();
   void ShowMainWindow();
+  bool MayLeave() const;
   void LeaveFor(Scale next);
   void Leave(const ShellEnd& end);
   void AcceptDrops();

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/ScreenLayout.h"
+#include "platform/ui/PenWatch.h"
 #include "platform/ui/Window.h"
 
 namespace quill {
@@ -65,6 +66,8 @@ class CScreen : public QWidget {
   bool IsChromeUsable() const;
   // True when no other window and no popup is open: the only time at which the scale may change.
   bool IsIdle() const;
+  // True while a pen touches any window: nothing may open or change under it then.
+  bool IsPenDown() const { return m_penWatch.IsDown(); }
   // Ends popup and modal windows from the top with Cancel, then calls Closed.
   void CloseAll();
   bool IsClosing() const { return m_closing; }
@@ -91,6 +94,7 @@ class CScreen : public QWidget {
   PreeditWatch* m_preedit;
   CKeyPanel* m_keys;
   CMenuPopup* m_popup = nullptr;
+  PenWatch m_penWatch;
   CommandTarget m_screenCommands;
   const CommandTarget* m_shellCommands = nullptr;
   bool m_closing = false;
