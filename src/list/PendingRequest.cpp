@@ -32,10 +32,13 @@ RequestAnswer TakeRequest(PendingRequest& request, int kind, const QString& text
     default:
       return RequestAnswer::Ignored;
   }
-  const Oid contact = FindByName(text);
-  if (contact == 0) return RequestAnswer::NotFound;
-  request = {.Kind = asked, .Contact = contact};
-  return RequestAnswer::Kept;
+  request = {.Kind = asked, .Contact = FindByName(text)};
+  return NamesNobody(request) ? RequestAnswer::NotFound : RequestAnswer::Kept;
+}
+
+bool NamesNobody(const PendingRequest& request) {
+  const bool shows = request.Kind == PendingKind::Show || request.Kind == PendingKind::ShowAgain;
+  return shows && request.Contact == 0;
 }
 
 }  // namespace quill

@@ -20,20 +20,24 @@ enum class PendingKind {
 
 inline constexpr qsizetype kRequestTextLimit = 128;  // UTF-16 units; what is longer is cut
 
-// The latest request takes the place of an earlier one.
+// The latest request takes the place of an earlier one, also when it names nobody: then the user is
+// told so.
 struct PendingRequest {
   PendingKind Kind = PendingKind::None;
-  Oid Contact = 0;    // to be shown
+  Oid Contact = 0;    // to be shown; 0 when the text names nobody
   QString Text = {};  // of the new contact
 };
 extern PendingRequest g_pendingRequest;
 
 enum class RequestAnswer {
   Ignored,   // an unknown kind
-  NotFound,  // to be shown, but no contact is filed under exactly this text
+  NotFound,  // in request now, but no contact is filed under exactly this text
   Kept,      // in request now
 };
 // Of several contacts of one name the first in the store's order is meant.
 RequestAnswer TakeRequest(PendingRequest& request, int kind, const QString& text);
+
+// True for a request to show a contact that was not found.
+bool NamesNobody(const PendingRequest& request);
 
 }  // namespace quill

@@ -11,7 +11,7 @@ namespace quill {
 // not be done, as text for the log, or an empty string.
 QString WriteWholeFile(const QString& file, const QByteArray& content);
 
-// Renames the file to NAME.damaged, NAME.damaged-2, ..., whichever nothing is called yet. Returns
+// Renames the file to NAME.bad, NAME.bad-2, ..., whichever nothing is called yet. Returns
 // that name, or an empty string when it could not be done.
 QString SetFileAside(const QString& file);
 

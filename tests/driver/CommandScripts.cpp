@@ -1,5 +1,4 @@
-// View modes, categories, the commands on contacts and memos, the configuration and requests of
-// other programs, end to end.
+// View modes, categories, the commands on contacts and memos and the configuration, end to end.
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -286,45 +285,6 @@ TEST_F(CommandScript, DeleteAllInTheConfigurationKnowsNoFilter) {
   driver.Do(R"({"op":"ok"})");
   driver.Do(R"({"op":"cancel"})");
   EXPECT_TRUE(driver.Result(R"({"op":"contacts"})", u"contacts").toArray().isEmpty());
-}
-
-TEST_F(CommandScript, AnotherProgramsRequestShowsItsContact) {
-  ReadyDriver driver(Arguments());
-  PutPeople(driver);
-  EXPECT_EQ(driver.Result(R"({"op":"copydata","kind":1,"text":"박지성"})", u"copydata"), true);
-  driver.Do(R"({"op":"wait","ms":300})");
-  EXPECT_TRUE(driver.Result(R"({"op":"message"})", u"message")
-                  .toObject()[u"text"]
-                  .toString()
-                  .startsWith(QStringLiteral("박지성")));
-}
-
-TEST_F(CommandScript, ARequestOfSoManyBytesNamesWhatTheyHold) {
-  ReadyDriver driver(Arguments());
-  PutPeople(driver);
-  EXPECT_EQ(
-      driver.Result(R"({"op":"copydata","kind":4,"text":"Gray wolf","bytes":8})", u"copydata"),
-      true);
-}
-
-TEST_F(CommandScript, ARequestForNobodyIsSaid) {
-  ReadyDriver driver(Arguments());
-  EXPECT_EQ(driver.Result(R"({"op":"copydata","kind":1,"text":"Nobody"})", u"copydata"), false);
-  const QJsonObject message = driver.Result(R"({"op":"message"})", u"message").toObject();
-  EXPECT_EQ(message[u"text"], QStringLiteral("Related name not found."));
-  EXPECT_EQ(message[u"caption"], QStringLiteral("Quill (Quillbook)"));
-}
-
-TEST_F(CommandScript, ARequestWaitsUntilTheOpenDialogHasClosed) {
-  ReadyDriver driver(Arguments());
-  PutPeople(driver);
-  RunCommand(driver, "32830");
-  driver.Result(R"({"op":"copydata","kind":1,"text":"Gray"})", u"copydata");
-  driver.Do(R"({"op":"wait","ms":300})");
-  EXPECT_EQ(driver.Result(R"({"op":"message"})", u"message"), QJsonValue());
-  driver.Do(R"({"op":"cancel"})");
-  driver.Do(R"({"op":"wait","ms":300})");
-  EXPECT_NE(driver.Result(R"({"op":"message"})", u"message"), QJsonValue());
 }
 
 TEST_F(CommandScript, AMemoIsNotCopiedThroughALinkOntoTheStore) {

@@ -35,7 +35,7 @@ TEST_F(PendingRequestTest, OfTwoOfOneNameTheFirstInTheStoresOrderIsMeant) {
 TEST_F(PendingRequestTest, ABeginningOfANameIsNotFound) {
   Add(u"Kimberly"_qs);
   EXPECT_EQ(TakeRequest(m_request, 1, u"Kim"_qs), RequestAnswer::NotFound);
-  EXPECT_EQ(m_request.Kind, PendingKind::None);
+  EXPECT_TRUE(NamesNobody(m_request));
 }
 
 TEST_F(PendingRequestTest, QuotesInANameAreFound) {
@@ -44,15 +44,26 @@ TEST_F(PendingRequestTest, QuotesInANameAreFound) {
   EXPECT_EQ(m_request.Contact, oid);
 }
 
-TEST_F(PendingRequestTest, TheLatestTakesTheEarliersPlaceAndOneNotFoundDoesNot) {
+TEST_F(PendingRequestTest, TheLatestTakesTheEarliersPlaceAlsoWhenItNamesNobody) {
   const Oid kim = Add(u"Kim"_qs);
   const Oid lee = Add(u"Lee"_qs);
   TakeRequest(m_request, 1, u"Kim"_qs);
   TakeRequest(m_request, 1, u"Lee"_qs);
   EXPECT_EQ(m_request.Contact, lee);
-  TakeRequest(m_request, 1, u"Nobody"_qs);
-  EXPECT_EQ(m_request.Contact, lee);
   EXPECT_NE(kim, lee);
+  TakeRequest(m_request, 4, u"Nobody"_qs);
+  EXPECT_EQ(m_request.Kind, PendingKind::ShowAgain);
+  EXPECT_EQ(m_request.Contact, 0);
+  TakeRequest(m_request, 1, u"Kim"_qs);
+  EXPECT_EQ(m_request.Contact, kim);
+}
+
+TEST_F(PendingRequestTest, OnlyOneToShowWithoutAContactNamesNobody) {
+  EXPECT_FALSE(NamesNobody({}));
+  EXPECT_FALSE(NamesNobody({.Kind = PendingKind::New}));
+  EXPECT_FALSE(NamesNobody({.Kind = PendingKind::Show, .Contact = 1}));
+  EXPECT_TRUE(NamesNobody({.Kind = PendingKind::Show}));
+  EXPECT_TRUE(NamesNobody({.Kind = PendingKind::ShowAgain}));
 }
 
 TEST_F(PendingRequestTest, ANewContactKeepsItsTextAndNeedsNobodyOfThatName) {
@@ -80,7 +91,7 @@ class UnknownRequest : public PendingRequestTest, public testing::WithParamInter
 TEST_P(UnknownRequest, IsIgnored) {
   Add(u"Kim"_qs);
   EXPECT_EQ(TakeRequest(m_request, GetParam(), u"Kim"_qs), RequestAnswer::Ignored);
-  EXPECT_EQ(m_request.Contact, 0);
+  EXPECT_EQ(m_request.Kind, PendingKind::None);
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, UnknownRequest, testing::Values(-1, 0, 3, 5, 1000));

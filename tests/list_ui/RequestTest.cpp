@@ -87,6 +87,65 @@ TEST_F(RequestTest, ANameThatNobodyHasIsSaidOnceTheAnswerIsGiven) {
   EXPECT_EQ(m_prompt.Shown()[0].Text, QStringLiteral("Related name not found."));
 }
 
+TEST_F(RequestTest, ANameThatNobodyHasIsSaidOnceAfterTheOpenWindowHasClosed) {
+  {
+    const test::ViewFrame other(*m_screen);
+    EXPECT_FALSE(View().OnCopyData(1, QStringLiteral("Nobody")));
+    EXPECT_FALSE(View().OnCopyData(4, QStringLiteral("No one")));
+    QCoreApplication::processEvents();
+    m_timers.Advance(1000);
+    EXPECT_EQ(ShownTexts(), QStringList());
+  }
+  m_prompt.Expect(PromptAnswer::OK);
+  m_timers.Advance(1000);
+  EXPECT_EQ(ShownTexts(), QStringList(QStringLiteral("Related name not found.")));
+}
+
+TEST_F(RequestTest, AnEarlierRequestIsForgottenForOneThatNamesNobody) {
+  View().OnCopyData(1, QStringLiteral("Lee"));
+  View().OnCopyData(1, QStringLiteral("Nobody"));
+  m_prompt.Expect(PromptAnswer::OK);
+  QCoreApplication::processEvents();
+  m_timers.Advance(1000);
+  EXPECT_EQ(ShownTexts(), QStringList(QStringLiteral("Related name not found.")));
+}
+
+TEST_F(RequestTest, NobodyIsForgottenForALaterContactWhichComesAtItsOwnTime) {
+  View().OnCopyData(1, QStringLiteral("Nobody"));
+  View().OnCopyData(1, QStringLiteral("Lee"));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(ShownTexts(), QStringList());
+  m_prompt.Expect(PromptAnswer::OK);
+  m_timers.Advance(1000);
+  EXPECT_EQ(ShownTexts(), QStringList(QStringLiteral("Lee")));
+}
+
+TEST_F(RequestTest, NothingOpensUntilThePenIsUp) {
+  const QPoint margin = View().mapTo(m_screen, QPoint(0, 0));
+  std::size_t shown = 0;
+  for (const char* name : {"Lee", "Nobody"}) {
+    m_input.Press(margin);
+    View().OnCopyData(1, QString::fromLatin1(name));
+    QCoreApplication::processEvents();
+    m_timers.Advance(1000);
+    EXPECT_EQ(m_prompt.Shown().size(), shown) << name;
+    m_input.Release(margin);
+    m_prompt.Expect(PromptAnswer::OK);
+    m_timers.Advance(100);
+    EXPECT_EQ(m_prompt.Shown().size(), ++shown) << name;
+  }
+}
+
+TEST_F(RequestTest, ANewShellShowsWhatTheEarlierOneWasAskedFor) {
+  View().OnCopyData(1, QStringLiteral("Lee"));
+  m_frame.reset();
+  m_frame = std::make_unique<test::ViewFrame>(*m_screen);
+  View().ShowState();
+  m_prompt.Expect(PromptAnswer::OK);
+  m_timers.Advance(1000);
+  EXPECT_EQ(ShownTexts(), QStringList(QStringLiteral("Lee")));
+}
+
 TEST_F(RequestTest, OtherKindsAreIgnored) {
   EXPECT_FALSE(View().OnCopyData(3, QStringLiteral("Kim")));
   QCoreApplication::processEvents();

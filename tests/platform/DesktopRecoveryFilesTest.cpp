@@ -35,7 +35,7 @@ TEST_F(DesktopRecoveryFilesTest, AFileSetAsideIsKeptAndReadNoMore) {
   ASSERT_TRUE(m_files.Write(u"a.json"_qs, "damaged"));
   EXPECT_TRUE(m_files.SetAside(u"a.json"_qs));
   EXPECT_EQ(m_files.Read(u"a.json"_qs), std::nullopt);
-  EXPECT_EQ(Names(), QStringList(u"recovery-a.json.damaged"_qs));
+  EXPECT_EQ(Names(), QStringList(u"recovery-a.json.bad"_qs));
   EXPECT_TRUE(m_files.SetAside(u"a.json"_qs));
 }
 

@@ -41,9 +41,9 @@ TEST_F(WholeFile, AFileSetAsideTakesTheFirstNameThatIsFree) {
     ASSERT_EQ(WriteWholeFile(At(u"a"_qs), content), QString());
     EXPECT_NE(SetFileAside(At(u"a"_qs)), QString());
   }
-  EXPECT_EQ(Names(), QStringList({u"a.damaged"_qs, u"a.damaged-2"_qs, u"a.damaged-3"_qs}));
-  EXPECT_EQ(Content(u"a.damaged"_qs), "1");
-  EXPECT_EQ(Content(u"a.damaged-3"_qs), "3");
+  EXPECT_EQ(Names(), QStringList({u"a.bad"_qs, u"a.bad-2"_qs, u"a.bad-3"_qs}));
+  EXPECT_EQ(Content(u"a.bad"_qs), "1");
+  EXPECT_EQ(Content(u"a.bad-3"_qs), "3");
 }
 
 TEST_F(WholeFile, WhatIsNotThereCannotBeSetAside) {

@@ -121,6 +121,7 @@ void CContactsView::OnInitialUpdate(StoreProvider& provider) {
 void CContactsView::ShowState() {
   m_searchEdit->setText(g_list.SearchEntry);
   g_list.RebuildDue ? Rebuild() : ShowPage();
+  WaitForPending();  // a request may have come to the shell before
 }
 
 CommandRoute CContactsView::Route() const {
@@ -158,24 +159,40 @@ void CContactsView::ShowWaiting(bool waiting) {
 
 bool CContactsView::OnCopyData(int kind, const QString& text) {
   const RequestAnswer answer = TakeRequest(g_pendingRequest, kind, text);
-  if (answer == RequestAnswer::Kept)
-    g_services.Timers->Set(*this, kRequestTimer, kRequestMilliseconds);
-  // Whoever asks must not wait for a message box.
+  if (answer != RequestAnswer::Ignored) WaitForPending();
+  // Said as soon as may be, but whoever asks must not wait for the message box.
   if (answer == RequestAnswer::NotFound)
     QMetaObject::invokeMethod(
-        this, [] { g_services.Prompt->Show({.Text = QStringLiteral("Related name not found.")}); },
+        this,
+        [this] {
+          if (NamesNobody(g_pendingRequest)) OpenPending();
+        },
         Qt::QueuedConnection);
   return answer == RequestAnswer::Kept;
 }
 
+void CContactsView::WaitForPending() {
+  if (g_pendingRequest.Kind != PendingKind::None)
+    g_services.Timers->Set(*this, kRequestTimer, kRequestMilliseconds);
+}
+
 void CContactsView::OpenPending() {
   const CScreen* const screen = ScreenAround(this);
-  if (screen && !screen->IsIdle()) return;  // the timer goes on until what is open has closed
+  // The timer goes on until what is open has closed and the pen is up.
+  if (screen && (!screen->IsIdle() || screen->IsPenDown())) return;
   g_services.Timers->Kill(*this, kRequestTimer);
-  const PendingRequest request = std::exchange(g_pendingRequest, {});
-  if (request.Kind != PendingKind::New) return EditContact(*this, request.Contact);
-  g_sheet.SeedText = request.Text;
-  MakeNewContact(*this);
+  ShowRequest(std::exchange(g_pendingRequest, {}));
+}
+
+void CContactsView::ShowRequest(const PendingRequest& request) {
+  if (request.Kind == PendingKind::New) {
+    g_sheet.SeedText = request.Text;
+    MakeNewContact(*this);
+  } else if (NamesNobody(request)) {
+    g_services.Prompt->Show({.Text = QStringLiteral("Related name not found.")});
+  } else {
+    EditContact(*this, request.Contact);
+  }
 }
 
 void CContactsView::Rebuild() {

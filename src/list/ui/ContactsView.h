@@ -8,6 +8,7 @@
 
 #include "list/KeyMoves.h"
 #include "list/ListState.h"
+#include "list/PendingRequest.h"
 #include "list/Scrolling.h"
 #include "platform/CommandTarget.h"
 #include "platform/Timers.h"
@@ -43,7 +44,8 @@ class CContactsView : public QWidget, public TimerTarget {
   // the list half a second after the last notice.
   void OnStoreNotice(int first, int second);
   // A request by another program. True when it will be shown: as soon as no dialog and no menu is
-  // open.
+  // open and the pen is up. That nobody has the name asked for is said then, too, unless another
+  // request has come meanwhile.
   bool OnCopyData(int kind, const QString& text);
   void OnTimer(int id) override;
 
@@ -69,7 +71,9 @@ class CContactsView : public QWidget, public TimerTarget {
   void Scroll(ScrollRequest request, int thumb);
   void MoveRow(KeyMove move);
   void OpenRow(int row);
+  void WaitForPending();
   void OpenPending();
+  void ShowRequest(const PendingRequest& request);
   void ShowCard(int row, QPoint at);
   void DismissCard();
   void ShowRowPopup(int row, QPoint at);
