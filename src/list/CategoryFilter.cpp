@@ -23,6 +23,18 @@ void DropCategory(ListState& list) {
   list.CategoryName = kShowAllCategories.toString();
   list.CategoryCount = 1;
 }
+void FollowCategory(ListState& list, const QString& from, const QString& to) {
+  QStringList names = list.CategoryName.split(u',');
+  if (!names.contains(from)) return;
+  if (to.isEmpty()) {
+    names.removeAll(from);
+    list.CategoryCount = static_cast<int>(names.size());
+  }
+  std::ranges::replace(names, from, to);
+  list.CategoryName = names.join(u',');
+  if (names.isEmpty()) DropCategory(list);
+}
+
 
 QString CategoryToMatch(const ListState& list) {
   return list.CategoryName == kNoCategories ? QString() : list.CategoryName;

@@ -174,6 +174,29 @@ TEST_F(CommandScript, CancellingTheChoiceOfSeveralLeavesTheListAsItWas) {
   }
 }
 
+TEST_F(CommandScript, TheFilterFollowsACategoryThatIsRenamedOrRemoved) {
+  ReadyDriver driver(Arguments());
+  driver.Result(R"({"op":"categories","names":["Family","Work"],"quiet":true})", u"categories");
+  PutPeople(driver);
+  RunCommand(driver, "107");
+  driver.Do(R"({"op":"tap","on":"view","x":190,"y":12})");
+  driver.Do(R"({"op":"choose","id":109})");
+  RunCommand(driver, "111");
+  driver.Do(R"({"op":"tap","on":1000,"x":60,"y":30})");
+  driver.Do(R"({"op":"set","id":1001,"text":"Job"})");
+  driver.Do(R"({"op":"click","id":1003})");
+  driver.Do(R"({"op":"cancel"})");
+  EXPECT_EQ(List(driver)[u"category"], QStringLiteral("Job"));
+  EXPECT_EQ(Names(driver), QStringList(QStringLiteral("Adams")));
+  RunCommand(driver, "111");
+  driver.Do(R"({"op":"tap","on":1000,"x":60,"y":30})");
+  driver.Do(R"({"op":"click","id":1004})");
+  driver.Do(R"({"op":"answer","button":"Yes"})");
+  driver.Do(R"({"op":"cancel"})");
+  EXPECT_EQ(List(driver)[u"category"], QStringLiteral("Show All"));
+  EXPECT_EQ(List(driver)[u"total"], 3);
+}
+
 TEST_F(CommandScript, DeletingAllUnderAFilterKeepsTheOthers) {
   ReadyDriver driver(Arguments());
   PutPeople(driver);

@@ -60,5 +60,39 @@ TEST(CategoryFilter, AChoiceOfOneMatchesATextOfAnyLength) {
   EXPECT_TRUE(PassesCategoryFilter(Choosing(QStringLiteral("Work")), categories));
 }
 
+struct FollowCase {
+  const char16_t* Chosen;
+  int Count;
+  const char16_t* From;
+  const char16_t* To;  // empty: it is removed
+  const char16_t* After;
+  int CountAfter;
+};
+
+class FollowedCategory : public testing::TestWithParam<FollowCase> {};
+
+TEST_P(FollowedCategory, IsChosenByItsNewNameOrNoLonger) {
+  const FollowCase& change = GetParam();
+  ListState list = Choosing(QString::fromUtf16(change.Chosen));
+  list.CategoryCount = change.Count;
+  list.Filter = FilterKind::Category;
+  FollowCategory(list, QString::fromUtf16(change.From), QString::fromUtf16(change.To));
+  EXPECT_EQ(list.CategoryName, QString::fromUtf16(change.After));
+  EXPECT_EQ(list.CategoryCount, change.CountAfter);
+  EXPECT_EQ(list.Filter, FilterKind::Category);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Changes, FollowedCategory,
+    testing::Values(FollowCase{u"Work", 1, u"Work", u"Job", u"Job", 1},
+                    FollowCase{u"Work", 1, u"Wor", u"Job", u"Work", 1},
+                    FollowCase{u"Work,Club", 2, u"Club", u"Job", u"Work,Job", 2},
+                    FollowCase{u"Work,Club", 0, u"Club", u"Job", u"Work,Job", 0},
+                    FollowCase{u"Work,Club", 0, u"Golf", u"", u"Work,Club", 0},
+                    FollowCase{u"Work,Club,Golf", 3, u"Club", u"", u"Work,Golf", 2},
+                    FollowCase{u"Work,Club", 2, u"Work", u"", u"Club", 1},
+                    FollowCase{u"Work", 1, u"Work", u"", u"Show All", 1},
+                    FollowCase{u"Show All", 1, u"Work", u"", u"Show All", 1}));
+
 }  // namespace
 }  // namespace quill

@@ -1,8 +1,12 @@
 #include "list/ui/CategoryCommands.h"
 
+#include <QPushButton>
+
 #include "ViewFixture.h"
+#include "platform/ui/CheckList.h"
 #include "platform/ui/MenuPopup.h"
 #include "store/Categories.h"
+#include "support/ScriptedPrompt.h"
 
 namespace quill {
 namespace {
@@ -32,6 +36,17 @@ class CategoryCommandsTest : public test::ViewFixture {
       EXPECT_TRUE(m_screen->Popup()->Choose(id));
     }});
     m_input.Tap(OnScreen(CategoryLabel()));
+  }
+
+  // In the chooser that is open: gives the category of a row another name, or without one removes
+  // it.
+  void EditInChooser(int row, const QString& name) {
+    const CWindow& chooser = *m_screen->Topmost();
+    qobject_cast<CCheckList*>(chooser.Control(CategoryChooserIds::kList))->SetCurrent(row);
+    if (!name.isEmpty())
+      qobject_cast<QLineEdit*>(chooser.Control(CategoryChooserIds::kEdit))->setText(name);
+    const int id = name.isEmpty() ? CategoryChooserIds::kRemove : CategoryChooserIds::kRename;
+    qobject_cast<QPushButton*>(chooser.Control(id))->click();
   }
 };
 
@@ -75,6 +90,32 @@ TEST_F(CategoryCommandsTest, TheMenuKnowsCategoriesThatCameMeanwhile) {
   ASSERT_TRUE(SetUserCategories({QStringLiteral("New"), QStringLiteral("Work")}));
   Choose(109);
   EXPECT_EQ(g_list.CategoryName, QStringLiteral("Work"));
+}
+
+TEST_F(CategoryCommandsTest, ARenamedCategoryIsStillTheFilterAfterACancel) {
+  Choose(109);
+  test::Steps steps(*m_screen, {[&] {
+    EditInChooser(1, QStringLiteral("Job"));
+    m_input.Key(Qt::Key_Escape);
+  }});
+  m_frame->RunCommand(111);
+  EXPECT_EQ(g_list.CategoryName, QStringLiteral("Job"));
+  EXPECT_EQ(CategoryLabel().Rows()[0].Items[0].Text, QStringLiteral("Job"));
+  EXPECT_EQ(ShownNames(), QStringList({QStringLiteral("Adams"), QStringLiteral("Baker")}));
+  EXPECT_EQ(g_categoryMenu.Checked, (std::vector<bool>{false, false, true, false, false}));
+}
+
+TEST_F(CategoryCommandsTest, WithoutTheRemovedCategoryOfTheFilterAllAreShownAfterACancel) {
+  test::ScriptedPrompt prompt({PromptAnswer::Yes});
+  g_services.Prompt = &prompt;
+  Choose(109);
+  test::Steps steps(*m_screen, {[&] {
+    EditInChooser(1, {});
+    m_input.Key(Qt::Key_Escape);
+  }});
+  m_frame->RunCommand(111);
+  EXPECT_EQ(g_list.CategoryName, QStringLiteral("Show All"));
+  EXPECT_EQ(ShownNames().size(), 3);
 }
 
 TEST_F(CategoryCommandsTest, ByMemoTheCommandsAreIgnored) {

@@ -216,6 +216,26 @@ TEST_F(CategoryChooserTest, RemovingAsksWithTheNumberOfContactsAndTakesItOffThem
   EXPECT_EQ(m_names, kClub) << "it was cancelled";
 }
 
+TEST_F(CategoryChooserTest, WhoAskedIsToldOfRenamedAndRemovedCategoriesAlsoOnCancel) {
+  m_prompt.Expect(PromptAnswer::Yes);
+  QStringList told;
+  const Steps running(*m_screen, {[&] {
+    TapRow(kClub);
+    TypeName(kJob);
+    Tap(kRename);
+    EXPECT_EQ(told, QStringList(QStringLiteral("Club>Job"))) << "at once";
+    TypeName(QStringLiteral("Golf"));
+    Tap(kAdd);
+    TapRow(kWork);
+    Tap(kRemove);
+    Close();
+  }});
+  EXPECT_FALSE(Cate_ShowCategoryList(
+      *m_screen, 1, m_names, m_positions,
+      [&told](const QString& from, const QString& to) { told.append(from + u'>' + to); }));
+  EXPECT_EQ(told, QStringList({QStringLiteral("Club>Job"), QStringLiteral("Work>")}));
+}
+
 TEST_F(CategoryChooserTest, NoLeavesTheCategory) {
   m_prompt.Expect(PromptAnswer::No);
   Run({[this] {
@@ -252,6 +272,22 @@ TEST_F(CategoryChooserTest, AnEditThatIsRefusedIsExplainedAndChangesNothing) {
                                 CategoryEditRefusal(CategoryEdit::NotWritten, kJob)}));
   EXPECT_EQ(UserCategories(), QStringList({kWork, kClub}));
   EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(CategoryChooserTest, OfAnEditThatIsRefusedNobodyIsTold) {
+  m_prompt.Expect(PromptAnswer::No);
+  m_prompt.Expect(PromptAnswer::OK);
+  bool told = false;
+  const Steps running(*m_screen, {[&] {
+    TapRow(kWork);
+    Tap(kRemove);
+    TypeName(kClub);
+    Tap(kRename);
+    Close();
+  }});
+  Cate_ShowCategoryList(*m_screen, 1, m_names, m_positions,
+                        [&told](const QString&, const QString&) { told = true; });
+  EXPECT_FALSE(told);
 }
 
 TEST_F(CategoryChooserTest, ReturnAddsANameThatIsNewAndEndsTheDialogOtherwise) {

@@ -1,5 +1,6 @@
 #include "list/ui/CategoryCommands.h"
 
+#include "list/CategoryFilter.h"
 #include "list/CategoryMenu.h"
 #include "list/ui/ContactsView.h"
 #include "platform/ui/Screen.h"
@@ -16,11 +17,13 @@ constexpr QPoint kMenuAt{158, 34};  // in the view
 void ChooseSeveral(CContactsView& view) {
   QString names;
   std::vector<int> positions;
-  const bool isDone = Cate_ShowCategoryList(*ScreenAround(&view), 1, names, positions);
+  const bool isDone = Cate_ShowCategoryList(
+      *ScreenAround(&view), 1, names, positions,
+      [](const QString& from, const QString& to) { FollowCategory(g_list, from, to); });
   const QStringList offered = OfferedCategories();
   if (isDone && ChooseSeveralCategories(g_list, g_categoryMenu, offered, names, positions))
     return view.ShowFiltered();
-  // The choice stays, but a category may have been renamed or removed meanwhile.
+  // A category may have been renamed or removed meanwhile.
   FillCategoryMenu(g_categoryMenu, offered, g_list.CategoryName);
   view.Rebuild();
 }

@@ -108,6 +108,7 @@ void CCategoryChooser::Rename() {
   const QString from = CurrentName();
   const QString to = Typed();
   if (!CarryOut(to, [&] { return RenameCategory(from, to); })) return;
+  if (Changed) Changed(from, to);
   Offer(WithCategoryRenamed(List().Items(), from, to), to);
 }
 
@@ -118,6 +119,7 @@ void CCategoryChooser::Remove() {
                                .Buttons = PromptButtons::YesNo};
   if (g_services.Prompt->Show(question) != PromptAnswer::Yes) return;
   if (!CarryOut(name, [&name] { return RemoveCategory(name); })) return;
+  if (Changed) Changed(name, {});
   Offer(WithoutCategory(List().Items(), name), {});
 }
 
@@ -143,8 +145,10 @@ void CCategoryChooser::keyPressEvent(QKeyEvent* event) {
   CDialog::keyPressEvent(event);
 }
 
-bool Cate_ShowCategoryList(CScreen& owner, int, QString& names, std::vector<int>& positions) {
+bool Cate_ShowCategoryList(CScreen& owner, int, QString& names, std::vector<int>& positions,
+                           const CategoryChanged& changed) {
   CCategoryChooser chooser(owner, names);
+  chooser.Changed = changed;
   if (chooser.DoModal() != kResultOK) return false;
   const CategoryChoice choice = chooser.Choice();
   names = choice.Names;

@@ -13,6 +13,8 @@ namespace quill {
 
 class CCheckList;
 
+using CategoryChanged = std::function<void(const QString& from, const QString& to)>;
+
 class CCategoryChooser : public CDialog {
   Q_OBJECT
  public:
@@ -20,6 +22,8 @@ class CCategoryChooser : public CDialog {
   CCategoryChooser(CScreen& screen, const QString& names);
 
   CategoryChoice Choice() const;
+  // Told of each category that was renamed, or removed: then to is empty. May be unset.
+  CategoryChanged Changed;
   void OnVisibleAreaChanged(QRect area) override;
 
  protected:
@@ -45,7 +49,9 @@ class CCategoryChooser : public CDialog {
 
 // Runs the chooser over owner. names: in, the ones that are checked at opening; out, the chosen
 // ones joined by commas. positions: their places in the library's list, ended by 35. False, and
-// both as they were, on Cancel. The kind is always 1; there is no other.
-bool Cate_ShowCategoryList(CScreen& owner, int kind, QString& names, std::vector<int>& positions);
+// both as they were, on Cancel. The kind is always 1; there is no other. changed is told at once,
+// whatever ends the chooser.
+bool Cate_ShowCategoryList(CScreen& owner, int kind, QString& names, std::vector<int>& positions,
+                           const CategoryChanged& changed = {});
 
 }  // namespace quill
