@@ -84,7 +84,7 @@ QString CategoryRowText(const QString& categories) {
 }
 
 QString CategoriesOfRow(const QString& value) {
-  if (!CategoriesMatch(kNoCategories, value)) return value;
+  if (!SplitCategories(value).contains(kNoCategories)) return value;
   return RemoveFromCategories(value, kNoCategories);
 }
 

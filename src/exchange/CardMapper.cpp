@@ -75,7 +75,8 @@ void PlaceCategories(CardPool& pool, ContactRecord& record) {
     for (QString name : PartsOf(*categories, u',')) {
       // A comma separates names in the record.
       name = name.replace(u',', u' ').trimmed();
-      if (!name.isEmpty() && !names.contains(name)) names.append(name);
+      const bool isName = !name.isEmpty() && name != kNoCategories;
+      if (isName && !names.contains(name)) names.append(name);
     }
     pool.Take(*categories);
   }

@@ -52,7 +52,8 @@ QString JoinCategories(const QStringList& names) { return names.join(QStringLite
 bool CategoriesMatch(QStringView chosen, QStringView categories) {
   if (chosen.isEmpty()) return categories.isEmpty();
   return AnyName(chosen, [categories](QStringView wanted) {
-    return AnyName(categories, [wanted](QStringView name) { return name == wanted; });
+    return wanted != kNoCategories &&
+           AnyName(categories, [wanted](QStringView name) { return name == wanted; });
   });
 }
 

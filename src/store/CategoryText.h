@@ -14,8 +14,8 @@ inline constexpr QStringView kNoCategories = u"No Categories";  // contacts with
 QStringList SplitCategories(QStringView categories);
 QString JoinCategories(const QStringList& names);
 
-// True when any name in chosen equals any name in categories exactly. An empty choice matches only
-// an empty text.
+// True when any name in chosen equals any name in categories exactly; kNoCategories equals none. An
+// empty choice matches only an empty text.
 bool CategoriesMatch(QStringView chosen, QStringView categories);
 
 // The text of a contact whose category goes or gets another name. All else stays as it is; a

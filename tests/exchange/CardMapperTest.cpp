@@ -24,6 +24,14 @@ TEST(CardMapper, MakesNothingOfACardWithoutFields) {
   EXPECT_TRUE(ContactFromCard(CardOf("BDAY:2001-01-01\n")).has_value());
 }
 
+TEST(CardMapper, TakesNoCategoriesForNoCategoryButShowAllForOne) {
+  EXPECT_EQ(ContactOf("FN:x\nCATEGORIES:No Categories\n").Record[ContactField::Categories],
+            QString());
+  EXPECT_EQ(ContactOf("FN:x\nCATEGORIES:Show All, No Categories ,Golf\n")
+                .Record[ContactField::Categories],
+            u"Show All, Golf");
+}
+
 TEST(CardMapper, CarriesNoVersion) { EXPECT_EQ(ContactOf("FN:x\n").CarriedLines, QString()); }
 
 }  // namespace

@@ -37,6 +37,9 @@ INSTANTIATE_TEST_SUITE_P(
                     MatchCase{QString(), QStringLiteral(" "), false},
                     MatchCase{QStringLiteral("Work"), QString(), false},
                     MatchCase{QStringLiteral("Work,"), QStringLiteral("Club,"), false},
+                    MatchCase{u"Work,No Categories"_qs, u"No Categories, Club"_qs, false},
+                    MatchCase{u"Work,No Categories"_qs, u"No Categories, Work"_qs, true},
+                    MatchCase{u"Work,No Categories"_qs, QString(), false},
                     MatchCase{QStringLiteral(","), QString(), false}));
 
 TEST(CategoryText, SplitsAtCommasAndSkipsLeadingBlanks) {

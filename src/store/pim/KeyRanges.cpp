@@ -111,6 +111,7 @@ class Compiler {
     if (node.Value.isEmpty()) return Shape{.Texts = Everything(), .Categories = {{QString()}}};
     QStringList names = SplitCategories(node.Value);
     names.removeDuplicates();
+    names.removeAll(kNoCategories);
     // A text of commas and blanks names no category, and no contact is in it.
     if (names.isEmpty()) return Shape{};
     return Shape{.Texts = Everything(), .Categories = names};
