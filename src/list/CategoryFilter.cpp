@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "list/Selection.h"
-#include "store/CategoryText.h"
 
 namespace quill {
 
@@ -23,6 +22,7 @@ void DropCategory(ListState& list) {
   list.CategoryName = kShowAllCategories.toString();
   list.CategoryCount = 1;
 }
+
 void FollowCategory(ListState& list, const QString& from, const QString& to) {
   QStringList names = list.CategoryName.split(u',');
   if (!names.contains(from)) return;
@@ -34,7 +34,6 @@ void FollowCategory(ListState& list, const QString& from, const QString& to) {
   list.CategoryName = names.join(u',');
   if (names.isEmpty()) DropCategory(list);
 }
-
 
 QString CategoryToMatch(const ListState& list) {
   return list.CategoryName == kNoCategories ? QString() : list.CategoryName;

@@ -4,10 +4,9 @@
 #include <QString>
 
 #include "list/ListState.h"
+#include "store/CategoryText.h"
 
 namespace quill {
-
-inline constexpr QStringView kShowAllCategories = u"Show All";  // no category is chosen
 
 inline constexpr int kSeveralCategoriesLimit = 1023;  // UTF-16 units of either list of names
 
@@ -19,10 +18,10 @@ bool IsCategoryChosen(const ListState& list);
 void FilterByCategory(ListState& list, const QString& name, int count);
 // No category is chosen any more; the filter's kind stays.
 void DropCategory(ListState& list);
+
 // A category was renamed, or removed (to is empty): the choice has its new name, or is without it,
 // and shows all when none is left. The filter's kind stays.
 void FollowCategory(ListState& list, const QString& from, const QString& to);
-
 
 // The names asked of the store: empty for kNoCategories.
 QString CategoryToMatch(const ListState& list);

@@ -74,7 +74,8 @@ QStringList ValidCategories(const QStringList& names) {
 }
 
 bool IsCategoryName(const QString& name) {
-  return name != kNoCategories && SplitCategories(name) == QStringList(name);
+  const bool isReserved = name == kNoCategories || name == kShowAllCategories;
+  return !isReserved && SplitCategories(name) == QStringList(name);
 }
 
 }  // namespace quill

@@ -8,6 +8,7 @@
 namespace quill {
 
 inline constexpr QStringView kNoCategories = u"No Categories";  // contacts without a category
+inline constexpr QStringView kShowAllCategories = u"Show All";  // no category is chosen
 
 // The pieces between the commas, leading blanks skipped, trailing ones kept. Empty pieces name no
 // category and are left out.
@@ -24,7 +25,7 @@ QString RemoveFromCategories(QStringView categories, QStringView name);
 QString RenameInCategories(QStringView categories, QStringView from, QStringView to);
 
 // What a list of categories can hold of these: no empty name, none with a comma or a leading blank,
-// none twice, and not kNoCategories.
+// none twice, and neither kNoCategories nor kShowAllCategories.
 QStringList ValidCategories(const QStringList& names);
 bool IsCategoryName(const QString& name);
 

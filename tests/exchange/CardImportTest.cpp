@@ -226,6 +226,12 @@ TEST_F(CardImports, BringTheCategoriesOfTheirContactsIntoTheLibrary) {
   EXPECT_EQ(m_store.Categories()->Names(), before + QStringList({u"Golf"_qs, u"Art"_qs}));
 }
 
+TEST_F(CardImports, BringNoCategoryThatIsCalledAsTheMenusOwnEntriesAre) {
+  const QStringList before = m_store.Categories()->Names();
+  Import(CardText("FN:A\nTEL:1\nCATEGORIES:Show All,No Categories\n"));
+  EXPECT_EQ(m_store.Categories()->Names(), before);
+}
+
 TEST_F(CardImports, LeaveTheLibraryAloneWhereContactsStayTheSame) {
   const QStringList before = m_store.Categories()->Names();
   const QByteArray bytes = CardText("FN:A\nTEL:1\nCATEGORIES:Golf\n");

@@ -92,10 +92,11 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(CategoryText, AListHoldsEachNameOnceAndOnlyWhatIsOneName) {
   EXPECT_EQ(ValidCategories({QStringLiteral("Work"), QString(), QStringLiteral("가족"),
                              QStringLiteral("A,B"), QStringLiteral(" Lead"), QStringLiteral("Work"),
-                             QStringLiteral("No Categories"), QStringLiteral("work"),
+                             QStringLiteral("No Categories"), QStringLiteral("Show All"),
+                             QStringLiteral("work"), QStringLiteral("no categories"),
                              QStringLiteral("Trail "), QStringLiteral(" ")}),
             QStringList({QStringLiteral("Work"), QStringLiteral("가족"), QStringLiteral("work"),
-                         QStringLiteral("Trail ")}));
+                         QStringLiteral("no categories"), QStringLiteral("Trail ")}));
 }
 
 }  // namespace
