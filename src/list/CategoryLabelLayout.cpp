@@ -12,7 +12,7 @@ constexpr QStringView kSeveral = u"Multi";
 
 }  // namespace
 
-PaintedRow LayOutCategoryLabel(const ListState& list) {
+PaintedRow LayOutCategoryLabel(const ListState& list, const TextWidth& width) {
   const QPoint origin = kCategoryLabelArea.topLeft();
   const QString label = list.CategoryCount == 1 ? list.CategoryName : kSeveral.toString();
   const bool isLong = label.size() >= kLongName;
@@ -20,7 +20,7 @@ PaintedRow LayOutCategoryLabel(const ListState& list) {
           .SpokenName = QStringLiteral("Category: ") + label,
           .Role = PaintedRole::Button,
           .Items = {{.Rectangle = kTextArea.translated(-origin),
-                     .Text = label,
+                     .Text = ElideText(label, kTextArea.width(), width),
                      .Alignment = isLong ? TextAlign::Left : TextAlign::Right}}};
 }
 

@@ -5,6 +5,7 @@
 
 #include "list/ListState.h"
 #include "platform/PaintedRow.h"
+#include "platform/TextFitting.h"
 
 namespace quill {
 
@@ -12,7 +13,7 @@ namespace quill {
 inline constexpr QRect kCategoryLabelArea{152, 1, 83, 24};
 
 // One button that names the chosen category, or says that they are several. Names of 9 units and
-// more begin at the label's left end, shorter ones end at its right.
-PaintedRow LayOutCategoryLabel(const ListState& list);
+// more begin at the label's left end, shorter ones end at its right; those too wide end with dots.
+PaintedRow LayOutCategoryLabel(const ListState& list, const TextWidth& width);
 
 }  // namespace quill

@@ -28,7 +28,8 @@ void AddBox(PaintedRow& row, bool checked) {
                        .Picture = &resources::kCheckPicture});
 }
 
-PaintedRow LayOutRow(const CheckListModel& model, int index, int width) {
+PaintedRow LayOutRow(const CheckListModel& model, int index, int width,
+                     const TextWidth& textWidth) {
   const CheckListItem& item = model.Items[static_cast<std::size_t>(index)];
   const QRect area(0, (index - model.Top) * kCheckRowHeight, width, kCheckRowHeight);
   PaintedRow row{
@@ -37,7 +38,9 @@ PaintedRow LayOutRow(const CheckListModel& model, int index, int width) {
   row.State.setFlag(PaintedStateFlag::Current, index == model.Current);
   if (index == model.Current) row.Items.push_back({.Rectangle = area, .Fill = kHighlight});
   AddBox(row, item.Checked);
-  row.Items.push_back({.Rectangle = area.adjusted(kTextLeft, 0, 0, 0), .Text = item.Text});
+  const QRect textArea = area.adjusted(kTextLeft, 0, 0, 0);
+  row.Items.push_back(
+      {.Rectangle = textArea, .Text = ElideText(item.Text, textArea.width(), textWidth)});
   return row;
 }
 
@@ -63,10 +66,11 @@ std::optional<int> Target(const CheckListModel& model, int key, int page) {
 
 }  // namespace
 
-std::vector<PaintedRow> LayOutCheckList(const CheckListModel& model, int width) {
+std::vector<PaintedRow> LayOutCheckList(const CheckListModel& model, int width,
+                                        const TextWidth& textWidth) {
   std::vector<PaintedRow> rows;
   rows.reserve(model.Items.size());
-  for (int i = 0; i < Count(model); ++i) rows.push_back(LayOutRow(model, i, width));
+  for (int i = 0; i < Count(model); ++i) rows.push_back(LayOutRow(model, i, width, textWidth));
   return rows;
 }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/PaintedRow.h"
+#include "platform/TextFitting.h"
 
 namespace quill {
 
@@ -28,8 +29,10 @@ struct CheckListModel {
 inline constexpr int kCheckRowHeight = 20;
 inline constexpr int kCheckListBarWidth = 15;
 
-// One painted row for each item, with its index as key; those scrolled out lie outside the list.
-std::vector<PaintedRow> LayOutCheckList(const CheckListModel& model, int width);
+// One painted row for each item, with its index as key; those scrolled out lie outside the list. A
+// text that is too wide for its row ends with dots.
+std::vector<PaintedRow> LayOutCheckList(const CheckListModel& model, int width,
+                                        const TextWidth& textWidth);
 
 // How many rows are shown whole, at least 1.
 int CheckRowsShown(int height);

@@ -1,5 +1,8 @@
 #include "platform/TextFitting.h"
 
+#include <algorithm>
+#include <ranges>
+
 namespace quill {
 
 namespace {
@@ -66,6 +69,18 @@ QStringList WrapLines(const QString& text, double limit, const TextWidth& width)
   plain.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
   for (const QString& paragraph : plain.split(u'\n')) AppendWrapped(paragraph, limit, width, lines);
   return lines;
+}
+
+QString ElideText(const QString& text, double limit, const TextWidth& width) {
+  if (width(text) <= limit) return text;
+  const auto elided = [&text](qsizetype length) {
+    return text.first(SplitsSurrogatePair(text, length) ? length - 1 : length) +
+           QStringLiteral("...");
+  };
+  const auto lengths = std::views::iota(0, static_cast<int>(text.size()));
+  const auto tooLong = std::ranges::partition_point(
+      lengths, [&](int length) { return width(elided(length)) <= limit; });
+  return elided(std::max<qsizetype>(tooLong - lengths.begin() - 1, 0));
 }
 
 }  // namespace quill

@@ -26,4 +26,8 @@ QString OnOneLine(QString text);
 // keeps at least one character. An empty text has no line.
 QStringList WrapLines(const QString& text, double limit, const TextWidth& width);
 
+// The same so that all of it can be seen: the longest beginning that with "..." behind it is not
+// wider than the limit. Line breaks do not count.
+QString ElideText(const QString& text, double limit, const TextWidth& width);
+
 }  // namespace quill

@@ -13,6 +13,14 @@ bool IsChecked(const CategoryItems& items, const QString& name) {
       items, [&name](const CheckListItem& item) { return item.Checked && item.Text == name; });
 }
 
+// Never ends with half a character.
+QString ShortName(const QString& name) {
+  if (name.size() <= kCategoryInTextLimit) return name;
+  QString shortened = name.first(kCategoryInTextLimit);
+  if (shortened.back().isHighSurrogate()) shortened.chop(1);
+  return shortened + QStringLiteral("...");
+}
+
 }  // namespace
 
 CategoryItems CheckedCategories(QStringView names) {
@@ -60,14 +68,16 @@ CategoryChoice ChosenCategories(const CategoryItems& items) {
 }
 
 QString CategoryRemovalQuestion(const QString& name, int contacts) {
+  const QString shown = ShortName(name);
   if (contacts == 0)
-    return QStringLiteral("No contact has the category \"%1\". Remove it from the list?").arg(name);
+    return QStringLiteral("No contact has the category \"%1\". Remove it from the list?")
+        .arg(shown);
   if (contacts == 1)
     return QStringLiteral(
                "1 contact has the category \"%1\". Remove it from the contact and the list?")
-        .arg(name);
+        .arg(shown);
   return QStringLiteral("%1 contacts have the category \"%2\". Remove it from them and the list?")
-      .arg(QString::number(contacts), name);
+      .arg(QString::number(contacts), shown);
 }
 
 QString CategoryEditRefusal(CategoryEdit edit, const QString& name) {
@@ -78,9 +88,9 @@ QString CategoryEditRefusal(CategoryEdit edit, const QString& name) {
       return QStringLiteral(
                  "\"%1\" cannot be a category: a name has no comma and is neither \"Show All\" nor "
                  "\"No Categories\".")
-          .arg(name);
+          .arg(ShortName(name));
     case CategoryEdit::ExistsAlready:
-      return QStringLiteral("There is a category \"%1\" already.").arg(name);
+      return QStringLiteral("There is a category \"%1\" already.").arg(ShortName(name));
     case CategoryEdit::NotWritten:
       return QStringLiteral("The categories cannot be saved now. They stay as they are.");
   }

@@ -35,7 +35,10 @@ struct CategoryChoice {
 };
 CategoryChoice ChosenCategories(const CategoryItems& items);
 
-// What is asked before a category goes that so many contacts have.
+inline constexpr int kCategoryInTextLimit = 60;  // UTF-16 units of a name within these texts
+
+// What is asked before a category goes that so many contacts have. A name that is too long ends
+// with dots, here and below.
 QString CategoryRemovalQuestion(const QString& name, int contacts);
 // What the user is told of an edit that was not done; empty for one that was.
 QString CategoryEditRefusal(CategoryEdit edit, const QString& name);

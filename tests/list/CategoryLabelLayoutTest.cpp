@@ -5,6 +5,8 @@
 namespace quill {
 namespace {
 
+double FiveEach(QStringView text) { return 5.0 * static_cast<double>(text.size()); }
+
 struct LabelCase {
   QString Category;
   int Count;
@@ -18,7 +20,7 @@ TEST_P(CategoryLabel, NamesTheChoiceAtItsEndOfTheLabel) {
   ListState list;
   list.CategoryName = GetParam().Category;
   list.CategoryCount = GetParam().Count;
-  const PaintedRow row = LayOutCategoryLabel(list);
+  const PaintedRow row = LayOutCategoryLabel(list, FiveEach);
   ASSERT_EQ(row.Items.size(), 1U);
   EXPECT_EQ(row.Items[0].Text, GetParam().Text);
   EXPECT_EQ(row.Items[0].Alignment, GetParam().Alignment);
@@ -36,8 +38,16 @@ INSTANTIATE_TEST_SUITE_P(
         LabelCase{QStringLiteral("Work,Friends"), 2, QStringLiteral("Multi"), TextAlign::Right},
         LabelCase{QStringLiteral("Work"), 0, QStringLiteral("Multi"), TextAlign::Right}));
 
+TEST(CategoryLabelLayout, ANameThatIsTooWideEndsWithDotsAndIsSpokenWhole) {
+  ListState list;
+  list.CategoryName = QString(15, u'x');
+  const PaintedRow row = LayOutCategoryLabel(list, FiveEach);
+  EXPECT_EQ(row.Items[0].Text, QString(11, u'x') + QStringLiteral("..."));
+  EXPECT_EQ(row.SpokenName, QStringLiteral("Category: ") + list.CategoryName);
+}
+
 TEST(CategoryLabelLayout, TextAndTapAreaHaveTheirPlacesInTheView) {
-  const PaintedRow row = LayOutCategoryLabel(ListState());
+  const PaintedRow row = LayOutCategoryLabel(ListState(), FiveEach);
   const QPoint origin = kCategoryLabelArea.topLeft();
   EXPECT_EQ(row.Rectangle.translated(origin), QRect(QPoint(156, 1), QPoint(234, 24)));
   EXPECT_EQ(row.Items[0].Rectangle.translated(origin), QRect(152, 2, 225 - 152, 22 - 2));

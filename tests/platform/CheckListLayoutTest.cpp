@@ -15,6 +15,8 @@ CheckListModel ModelOf(int count, int current = -1, int top = 0) {
   return model;
 }
 
+double TenEach(QStringView text) { return 10.0 * static_cast<double>(text.size()); }
+
 bool HasMark(const PaintedRow& row) {
   for (const PaintedItem& item : row.Items)
     if (item.Picture == &resources::kCheckPicture) return row.Rectangle.intersects(item.Rectangle);
@@ -26,7 +28,7 @@ bool IsHighlighted(const PaintedRow& row) {
 }
 
 TEST(CheckListLayout, RowsOf20LinesFollowEachOtherFromTheFirstShown) {
-  const auto rows = LayOutCheckList(ModelOf(4, -1, 1), 200);
+  const auto rows = LayOutCheckList(ModelOf(4, -1, 1), 200, TenEach);
   ASSERT_EQ(rows.size(), 4U);
   for (int i = 0; i < 4; ++i) {
     EXPECT_EQ(rows[i].Rectangle, QRect(0, (i - 1) * 20, 200, 20));
@@ -39,7 +41,7 @@ TEST(CheckListLayout, RowsOf20LinesFollowEachOtherFromTheFirstShown) {
 TEST(CheckListLayout, ACheckedRowHasAMarkInItsBox) {
   CheckListModel model = ModelOf(2);
   model.Items[1].Checked = true;
-  const auto rows = LayOutCheckList(model, 200);
+  const auto rows = LayOutCheckList(model, 200, TenEach);
   EXPECT_FALSE(HasMark(rows[0]));
   EXPECT_TRUE(HasMark(rows[1]));
   EXPECT_FALSE(rows[0].State.testFlag(PaintedStateFlag::Checked));
@@ -47,7 +49,7 @@ TEST(CheckListLayout, ACheckedRowHasAMarkInItsBox) {
 }
 
 TEST(CheckListLayout, TheCurrentRowIsHighlighted) {
-  const auto rows = LayOutCheckList(ModelOf(2, 1), 200);
+  const auto rows = LayOutCheckList(ModelOf(2, 1), 200, TenEach);
   EXPECT_FALSE(IsHighlighted(rows[0]));
   EXPECT_TRUE(IsHighlighted(rows[1]));
   EXPECT_FALSE(rows[0].State.testFlag(PaintedStateFlag::Current));
@@ -55,7 +57,7 @@ TEST(CheckListLayout, TheCurrentRowIsHighlighted) {
 }
 
 TEST(CheckListLayout, TheTextStandsBesideTheBoxWithinTheRow) {
-  const PaintedRow row = LayOutCheckList(ModelOf(1), 200)[0];
+  const PaintedRow row = LayOutCheckList(ModelOf(1), 200, TenEach)[0];
   const PaintedItem& border = row.Items[0];
   const PaintedItem& ground = row.Items[1];
   const PaintedItem& text = row.Items[2];
@@ -64,6 +66,13 @@ TEST(CheckListLayout, TheTextStandsBesideTheBoxWithinTheRow) {
   EXPECT_NE(border.Fill, ground.Fill);
   EXPECT_EQ(text.Text, QStringLiteral("0"));
   EXPECT_EQ(text.Rectangle, QRect(26, 0, 174, 20));
+}
+
+TEST(CheckListLayout, ATextThatIsTooWideEndsWithDotsAndIsSpokenWhole) {
+  const CheckListModel model{.Items = {{.Text = QString(18, u'x')}}};
+  const PaintedRow row = LayOutCheckList(model, 200, TenEach)[0];
+  EXPECT_EQ(row.Items[2].Text, QString(14, u'x') + QStringLiteral("..."));
+  EXPECT_EQ(row.SpokenName, QString(18, u'x'));
 }
 
 TEST(CheckListLayout, OnlyWholeRowsCountAsShownAndThereIsAlwaysOne) {

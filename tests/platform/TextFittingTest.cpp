@@ -94,5 +94,24 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(WrapLines, AnEmptyTextHasNoLine) { EXPECT_TRUE(WrapLines({}, 50, TenEach).isEmpty()); }
 
+class ElideTextTest : public testing::TestWithParam<ShorteningCase> {};
+
+TEST_P(ElideTextTest, FitsWithItsDots) {
+  const ShorteningCase& rule = GetParam();
+  EXPECT_EQ(ElideText(QString::fromUtf16(rule.Text), rule.Limit, TenEach),
+            QString::fromUtf16(rule.Shortened));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, ElideTextTest,
+    testing::Values(ShorteningCase{u"", 60, u""},        //
+                    ShorteningCase{u"Kim", 30, u"Kim"},  // as wide as the limit
+                    ShorteningCase{u"Kimberly", 79, u"Kimb..."},
+                    ShorteningCase{u"Kimberly", 70, u"Kimb..."},
+                    ShorteningCase{u"Kimberly", 69, u"Kim..."},
+                    ShorteningCase{u"Kimberly", 39, u"..."}, ShorteningCase{u"Kimberly", 0, u"..."},
+                    ShorteningCase{u"K\U0001F600mberly", 59, u"K\U0001F600..."},
+                    ShorteningCase{u"K\U0001F600mberly", 49, u"K..."}));
+
 }  // namespace
 }  // namespace quill

@@ -103,6 +103,19 @@ TEST(CategoryChoice, ARemovalSaysHowManyContactsItConcerns) {
             u"3 contacts have the category \"100%2\". Remove it from them and the list?"_qs);
 }
 
+TEST(CategoryChoice, ALongNameEndsWithDotsInTheTextsThatHoldIt) {
+  const QString longest(60, u'x');
+  EXPECT_TRUE(CategoryRemovalQuestion(longest, 0).contains(u'"' + longest + u'"'));
+  const QString shortened = u'"' + longest + u"...\""_qs;
+  for (const int contacts : {0, 1, 2})
+    EXPECT_TRUE(CategoryRemovalQuestion(longest + u'x', contacts).contains(shortened)) << contacts;
+  for (const CategoryEdit edit : {CategoryEdit::NotAName, CategoryEdit::ExistsAlready})
+    EXPECT_TRUE(CategoryEditRefusal(edit, longest + u'x').contains(shortened));
+  const QString pair = u"\U0001F600"_qs;
+  EXPECT_TRUE(CategoryRemovalQuestion(longest.first(59) + pair, 0).contains(u"xx...\""))
+      << "a character is not cut in two";
+}
+
 TEST(CategoryChoice, AnEditThatIsNotDoneIsExplained) {
   EXPECT_EQ(CategoryEditRefusal(CategoryEdit::Done, u"A"_qs), QString());
   EXPECT_EQ(CategoryEditRefusal(CategoryEdit::NotAName, u"A,B"_qs),

@@ -4,6 +4,7 @@
 #include <QPalette>
 
 #include "list/CategoryLabelLayout.h"
+#include "platform/ui/RowPainter.h"
 
 namespace quill {
 
@@ -12,7 +13,7 @@ CCategoryLabel::CCategoryLabel(QWidget* view) : CPaintedWindow(view, QAccessible
   SetBackground(QGuiApplication::palette().color(QPalette::Window).rgb() & 0xFFFFFF);
 }
 
-void CCategoryLabel::ShowChosen() { SetRows({LayOutCategoryLabel(g_list)}); }
+void CCategoryLabel::ShowChosen() { SetRows({LayOutCategoryLabel(g_list, NormalTextWidth())}); }
 
 void CCategoryLabel::ActivateRow(int) {
   if (Tapped) Tapped();

@@ -7,6 +7,8 @@
 
 #include <utility>
 
+#include "platform/ui/RowPainter.h"
+
 namespace quill {
 
 CCheckList::CCheckList(const QString& name, QWidget* parent)
@@ -57,7 +59,8 @@ void CCheckList::LayOut() {
 
 void CCheckList::ScrollTo(int top) {
   m_model.Top = top;
-  SetRows(LayOutCheckList(m_model, width() - (m_bar->isHidden() ? 0 : kCheckListBarWidth)));
+  const int rowWidth = width() - (m_bar->isHidden() ? 0 : kCheckListBarWidth);
+  SetRows(LayOutCheckList(m_model, rowWidth, NormalTextWidth()));
 }
 
 // The row is looked for first: with the focus the input panel may go, and the list grow and scroll.
