@@ -41,10 +41,14 @@ void BuildMemoPage(ListState& list, MemoState& memo) {
   list.Collection = {};
   list.Restriction.clear();
   list.Total = static_cast<int>(memo.NameList.size());
-  list.RowsShown = std::min(list.Total, list.RowsPerPage);
-  list.Top = std::clamp(list.Top, 0, LargestTop(list));
+  FitMemoPage(list);
   SelectMemos(list, memo, selected);
   KeepSelection(list);
+}
+
+void FitMemoPage(ListState& list) {
+  list.RowsShown = std::min(list.Total, list.RowsPerPage);
+  list.Top = std::clamp(list.Top, 0, LargestTop(list));
 }
 
 }  // namespace quill

@@ -10,4 +10,7 @@ namespace quill {
 // range. Memos that are still listed stay selected, wherever they stand now.
 void BuildMemoPage(ListState& list, MemoState& memo);
 
+// Shows what is listed already from Top on, after the rows of a page have become more or fewer.
+void FitMemoPage(ListState& list);
+
 }  // namespace quill

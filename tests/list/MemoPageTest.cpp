@@ -59,6 +59,18 @@ TEST_F(MemoPage, ShowsNoMoreRowsThanAPageHas) {
   EXPECT_EQ(m_list.RowsShown, kRowsWithIndex);
 }
 
+TEST_F(MemoPage, APageThatGrewShowsAsManyRowsOfWhatIsListed) {
+  PutNumbered(20);
+  BuildPage(m_list);
+  Remove(u"000.pwi"_qs);
+  m_list.RowsPerPage = kRowsWithoutIndex;
+  m_list.Top = 19;
+  FitMemoPage(m_list);
+  EXPECT_EQ(m_list.RowsShown, kRowsWithoutIndex);
+  EXPECT_EQ(m_list.Top, LargestTop(m_list));
+  EXPECT_EQ(m_list.Total, 20) << "listed anew only when the page is built";
+}
+
 TEST_F(MemoPage, AnIndexButtonListsTheMemosOfItsRangeWithoutCase) {
   Put({u"adams.pwi"_qs, u"Fox.pwi"_qs, u"gray.pwi"_qs, u"1st.pwi"_qs, u"Zed.pwi"_qs, u"_x.pwi"_qs});
   ChooseIndexButton(m_list, 1);

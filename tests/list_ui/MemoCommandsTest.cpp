@@ -55,6 +55,17 @@ class MemoCommandsTest : public test::ViewFixture {
 constexpr char kOneQuestion[] = "This memo will be deleted. Continue?";
 constexpr char kAllQuestion[] = "All memos in the list will be deleted. Continue?";
 
+TEST_F(MemoCommandsTest, ALongerPageShowsMoreOfTheMemosAtOnce) {
+  for (int i = 0; i < 20; ++i)
+    ASSERT_TRUE(
+        m_deviceHome.Files.WriteWhole(MemoPath(g_memo, QStringLiteral("%1.pwi").arg(i)), {}));
+  View().Rebuild();
+  EXPECT_EQ(g_list.RowsShown, kRowsWithIndex);
+  g_settings.Abc = 0;
+  View().Relayout();
+  EXPECT_EQ(g_list.RowsShown, kRowsWithoutIndex);
+}
+
 TEST_F(MemoCommandsTest, TheMemoUnderTheCurrentRowIsDeleted) {
   SelectRow(g_list, 1);
   RunWithYes(ID_DELETE_MEMO, kOneQuestion);

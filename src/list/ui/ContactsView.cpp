@@ -13,6 +13,7 @@
 #include "list/ContactPopup.h"
 #include "list/IndexRanges.h"
 #include "list/ListAreas.h"
+#include "list/MemoPage.h"
 #include "list/PageBuilding.h"
 #include "list/PendingRequest.h"
 #include "list/Search.h"
@@ -120,8 +121,8 @@ void CContactsView::OnInitialUpdate(StoreProvider& provider) {
 
 void CContactsView::ShowState() {
   m_searchEdit->setText(g_list.SearchEntry);
-  g_list.RebuildDue ? Rebuild() : ShowPage();
   WaitForPending();  // a request may have come to the shell before
+  g_list.RebuildDue ? Rebuild() : ShowPage();
 }
 
 CommandRoute CContactsView::Route() const {
@@ -226,7 +227,9 @@ void CContactsView::Relayout() {
   g_list.Top = 0;
   DropSelection(g_list);
   PlaceControls();
-  g_list.Mode == ViewMode::ByMemo ? ShowPage() : Rebuild();
+  if (g_list.Mode != ViewMode::ByMemo) return Rebuild();
+  FitMemoPage(g_list);
+  ShowPage();
 }
 
 void CContactsView::FocusList() { m_list->setFocus(); }
