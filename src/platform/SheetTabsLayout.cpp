@@ -65,6 +65,7 @@ int StepOf(int key, Qt::KeyboardModifiers modifiers) {
 
 std::vector<PaintedRow> LayOutSheetTabs(const SheetTabsModel& model, QSize size) {
   std::vector<PaintedRow> rows;
+  rows.reserve(static_cast<std::size_t>(Count(model)));
   for (int page = 0; page < Count(model); ++page) rows.push_back(LayOutTab(model, page, size));
   return rows;
 }

@@ -2,6 +2,8 @@
 // keys and Return.
 #pragma once
 
+#include <QDate>
+
 #include "platform/ui/Dialog.h"
 
 namespace quill {
