@@ -15,7 +15,6 @@
 namespace quill {
 namespace {
 
-using test::SamplePage;
 using test::SampleSheet;
 using test::Step;
 using test::Steps;
