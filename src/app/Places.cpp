@@ -10,8 +10,8 @@
 #include <sys/stat.h>
 
 #include "app/InstanceLock.h"
-#include "platform/DesktopRecoveryFiles.h"
 #include "app/RequestChannel.h"
+#include "platform/DesktopRecoveryFiles.h"
 
 namespace quill {
 namespace {

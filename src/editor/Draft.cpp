@@ -7,6 +7,7 @@
 #include "editor/DraftJson.h"
 #include "platform/RecoveryFiles.h"
 #include "platform/Services.h"
+#include "store/ContactFields.h"
 #include "store/ContactStore.h"
 
 namespace quill {
@@ -36,9 +37,29 @@ auto FindDraft(std::vector<Draft>& drafts, int number) {
   return std::ranges::find(drafts, number, &Draft::Number);
 }
 
-bool IsThere(Oid oid) {
-  ContactRecord record;
-  return oid != 0 && ReadListRow(ContactSelector(oid), record) != 0;
+// What was entered, over what the contact is now.
+ContactRecord Merged(const Draft& draft, const ContactRecord& now) {
+  ContactRecord merged = now;
+  for (const ContactFieldRow& row : kContactFields)
+    if (draft.Record[row.Field] != draft.Opened[row.Field])
+      merged[row.Field] = draft.Record[row.Field];
+  for (const ContactDateRow& row : kContactDates)
+    if (draft.Record.*row.Date != draft.Opened.*row.Date) merged.*row.Date = draft.Record.*row.Date;
+  return merged;
+}
+
+SheetRecord NewSheetOf(const Draft& draft) {
+  g_contactInk.Bytes = draft.Ink;
+  return SheetOf(0, draft.FileAs, draft.Record);
+}
+
+// LoadSheet has read the contact, its ink included.
+SheetRecord SheetOver(const Draft& draft, const SheetRecord& now) {
+  if (draft.Ink != draft.OpenedInk) g_contactInk.Bytes = draft.Ink;
+  SheetRecord sheet = SheetOf(now.Oid, now.FileAs, Merged(draft, now.Opened));
+  sheet.Opened = now.Opened;
+  sheet.OpenedInk = now.OpenedInk;
+  return sheet;
 }
 
 }  // namespace
@@ -77,11 +98,11 @@ bool DiscardDraft(int number) {
 }
 
 SheetRecord SheetOfDraft(const Draft& draft, SheetState& state) {
-  SheetRecord sheet = SheetOf(IsThere(draft.Oid) ? draft.Oid : 0, draft.FileAs, draft.Record);
+  const SheetRecord now = LoadSheet(draft.Oid, state);
+  SheetRecord sheet = now.Oid == 0 ? NewSheetOf(draft) : SheetOver(draft, now);
   sheet.Draft = draft.Number;
   SumUpParts(sheet, RowSet::Basic);
-  state.PhoneFlags = PhoneFlagsOf(draft.Record);
-  g_contactInk.Bytes = draft.Ink;
+  state.PhoneFlags = PhoneFlagsOf(RecordOf(sheet, {}));
   return sheet;
 }
 

@@ -21,6 +21,8 @@ struct Draft {
   QString FileAs = {};
   ContactRecord Record = {};  // as RecordOf makes it
   QByteArray Ink = {};
+  ContactRecord Opened = {};  // the same before anything was entered
+  QByteArray OpenedInk = {};
 
   bool operator==(const Draft&) const = default;
 };
@@ -35,8 +37,9 @@ std::optional<Draft> LoadDraft();
 // True when there is none of this number afterwards.
 bool DiscardDraft(int number);
 
-// The sheet that goes on with the draft, its ink in g_contactInk. When its contact is no longer
-// there it makes a new one, under the old FileAs. The draft stays until the sheet is saved.
+// The sheet that goes on with the draft, its ink in g_contactInk. Of a contact that was changed
+// meanwhile only that is replaced which was entered then. When the contact is no longer there the
+// sheet makes a new one, under the old FileAs. The draft stays until the sheet is saved.
 SheetRecord SheetOfDraft(const Draft& draft, SheetState& state);
 
 }  // namespace quill

@@ -16,6 +16,8 @@ constexpr QStringView kDrafts = u"drafts";
 constexpr QStringView kNumber = u"number";
 constexpr QStringView kOid = u"oid";
 constexpr QStringView kFileAs = u"fileAs";
+constexpr QStringView kEntered = u"entered";
+constexpr QStringView kOpened = u"opened";
 constexpr QStringView kTexts = u"texts";
 constexpr QStringView kDates = u"dates";
 constexpr QStringView kInk = u"ink";
@@ -52,38 +54,54 @@ QJsonObject JsonFromDates(const ContactRecord& record) {
   return dates;
 }
 
+QJsonObject JsonFromContent(const ContactRecord& record, const QByteArray& ink) {
+  QJsonObject json;
+  json.insert(kTexts, JsonFromTexts(record));
+  json.insert(kDates, JsonFromDates(record));
+  json.insert(kInk, QString::fromLatin1(ink.toBase64()));
+  return json;
+}
+
 QJsonObject JsonFromDraft(const Draft& draft) {
   QJsonObject json;
   json.insert(kNumber, draft.Number);
   json.insert(kOid, draft.Oid);
   json.insert(kFileAs, draft.FileAs);
-  json.insert(kTexts, JsonFromTexts(draft.Record));
-  json.insert(kDates, JsonFromDates(draft.Record));
-  json.insert(kInk, QString::fromLatin1(draft.Ink.toBase64()));
+  json.insert(kEntered, JsonFromContent(draft.Record, draft.Ink));
+  json.insert(kOpened, JsonFromContent(draft.Opened, draft.OpenedInk));
   return json;
+}
+
+// False when the object is no such content.
+bool TakeContent(const QJsonObject& json, ContactRecord& record, QByteArray& ink) {
+  const auto bytes = QByteArray::fromBase64Encoding(json.value(kInk).toString().toLatin1(),
+                                                    QByteArray::AbortOnBase64DecodingErrors);
+  const bool isContent = json.value(kTexts).isObject() && json.value(kDates).isObject() &&
+                         json.value(kInk).isString() && bytes;
+  if (!isContent) return false;
+  const QJsonObject texts = json.value(kTexts).toObject();
+  for (const ContactFieldRow& row : kContactFields)
+    record[row.Field] = texts.value(row.Property).toString();
+  const QJsonObject dates = json.value(kDates).toObject();
+  for (const ContactDateRow& row : kContactDates)
+    record.*row.Date = DateFromJson(dates.value(row.Property).toArray());
+  ink = *bytes;
+  return true;
 }
 
 bool IsDraft(const QJsonObject& json) {
   return json.value(kNumber).toInt() > 0 && json.value(kOid).isDouble() &&
-         json.value(kFileAs).isString() && json.value(kTexts).isObject() &&
-         json.value(kDates).isObject() && json.value(kInk).isString();
+         json.value(kFileAs).isString();
 }
 
 std::optional<Draft> DraftFromJson(const QJsonObject& json) {
-  const auto ink = QByteArray::fromBase64Encoding(json.value(kInk).toString().toLatin1(),
-                                                  QByteArray::AbortOnBase64DecodingErrors);
-  if (!IsDraft(json) || !ink) return std::nullopt;
+  if (!IsDraft(json)) return std::nullopt;
   Draft draft{.Number = json.value(kNumber).toInt(),
               .Oid = json.value(kOid).toInt(),
               .FileAs = json.value(kFileAs).toString()};
-  const QJsonObject texts = json.value(kTexts).toObject();
-  for (const ContactFieldRow& row : kContactFields)
-    draft.Record[row.Field] = texts.value(row.Property).toString();
-  const QJsonObject dates = json.value(kDates).toObject();
-  for (const ContactDateRow& row : kContactDates)
-    draft.Record.*row.Date = DateFromJson(dates.value(row.Property).toArray());
-  draft.Ink = *ink;
-  return draft;
+  const bool isWhole = TakeContent(json.value(kEntered).toObject(), draft.Record, draft.Ink) &&
+                       TakeContent(json.value(kOpened).toObject(), draft.Opened, draft.OpenedInk);
+  return isWhole ? std::optional(draft) : std::nullopt;
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
-// Drafts as the text of a file: {"drafts": [{number, oid, fileAs, texts, dates, ink}, ...]}. Texts
-// and dates stand under the names of the store's properties and are left out when empty; a date is
-// its eight parts; ink is base64.
+// Drafts as the text of a file: {"drafts": [{number, oid, fileAs, entered, opened}, ...]}, the last
+// two {texts, dates, ink}. Texts and dates stand under the names of the store's properties and are
+// left out when empty; a date is its eight parts; ink is base64.
 #pragma once
 
 #include <QByteArray>

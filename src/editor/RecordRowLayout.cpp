@@ -34,7 +34,9 @@ PaintedItem PictureItem(const QRect& row, const resources::Picture& picture) {
 QString ShownValue(const RecordRow& row, const TextWidth& width) {
   const QString text = OnOneLine(row.Value);
   if (row.Kind == RowKind::Date || row.Kind == RowKind::DropDown) return text;
-  return ShortenText(text, row.Kind == RowKind::Categories ? kCategoriesLimit : kTextLimit, width);
+  // The dots must not lie below the picture.
+  return row.Kind == RowKind::Categories ? ElideText(text, kCategoriesLimit, width)
+                                         : ShortenText(text, kTextLimit, width);
 }
 
 QString SpokenName(const RecordRow& row) {

@@ -4,13 +4,30 @@ namespace quill {
 
 namespace {
 
+constexpr QStringView kSeparators = u" -.()/\u00A0";
+
+// The number without what follows it: an extension is dialled by hand.
+QStringView WithoutExtension(QStringView number) {
+  for (const QStringView mark :
+       {QStringView(u";"), QStringView(u","), QStringView(u"x"), QStringView(u"ext")}) {
+    const qsizetype at = number.indexOf(mark, 0, Qt::CaseInsensitive);
+    if (at >= 0) number = number.first(at);
+  }
+  return number;
+}
+
+// Empty for what is not a number as a whole: part of it would be another's.
 QString Dialled(const QString& number) {
   QString dialled;
-  for (const QChar each : number) {
+  for (const QChar each : WithoutExtension(number)) {
     const bool isPlus = each == u'+' && dialled.isEmpty();
-    if (isPlus || each == u'*' || each == u'#') dialled += each;
-    // Digits of other scripts are the same digits.
-    if (each.isDigit()) dialled += QString::number(each.digitValue());
+    if (isPlus || each == u'*' || each == u'#') {
+      dialled += each;
+    } else if (each.isDigit()) {
+      dialled += QString::number(each.digitValue());  // digits of other scripts are the same digits
+    } else if (!kSeparators.contains(each)) {
+      return {};
+    }
   }
   return dialled;
 }

@@ -56,8 +56,9 @@ SheetRecord SheetOf(Oid oid, const QString& fileAs, const ContactRecord& record)
 SheetRecord LoadSheet(Oid oid, SheetState& state) {
   g_contactInk = {};
   ContactRecord record;
-  if (oid != 0) ReadContact(ContactSelector(oid), record);  // what is gone leaves the record empty
-  SheetRecord sheet = SheetOf(oid, record[ContactField::FileAs], record);
+  // What cannot be read must not be written over: what is entered makes a new contact.
+  const Oid read = oid == 0 ? 0 : ReadContact(ContactSelector(oid), record);
+  SheetRecord sheet = SheetOf(read, record[ContactField::FileAs], record);
   sheet.Opened = RecordOf(sheet, {});
   sheet.OpenedInk = g_contactInk.Bytes;
   state.PhoneFlags = PhoneFlagsOf(record);

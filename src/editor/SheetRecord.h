@@ -30,9 +30,9 @@ struct SheetRecord {
 std::vector<RecordRow>& RowsOf(SheetRecord& sheet, RowSet set);
 const std::vector<RecordRow>& RowsOf(const SheetRecord& sheet, RowSet set);
 
-// The sheet of a contact, and its ink notes in g_contactInk. With Oid 0, and for a contact that can
-// no longer be read, the sheet and the ink are empty. A new contact takes the seed text, which is
-// used up by it; all flags are set anew.
+// The sheet of a contact, and its ink notes in g_contactInk. With Oid 0, and for a contact that
+// cannot be read, the sheet and the ink are empty and it makes a new one. A new contact takes the
+// seed text, which is used up by it; all flags are set anew.
 SheetRecord LoadSheet(Oid oid, SheetState& state);
 
 // The sheet that shows this record, ink and dates apart: for LoadSheet and for drafts.

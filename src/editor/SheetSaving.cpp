@@ -11,7 +11,9 @@ Draft DraftOf(const SheetRecord& sheet, const Settings& settings) {
           .Oid = sheet.Oid,
           .FileAs = sheet.FileAs,
           .Record = RecordOf(sheet, settings.AreaCodePrefix),
-          .Ink = g_contactInk.Bytes};
+          .Ink = g_contactInk.Bytes,
+          .Opened = sheet.Opened,
+          .OpenedInk = sheet.OpenedInk};
 }
 
 bool IsChanged(const SheetRecord& sheet, const Draft& now) {

@@ -39,11 +39,10 @@ TEST(Places, AHomesOwnFilesAreNotTheDevices) {
   const DeviceRoots roots = DeviceRootsOf(places);
   EXPECT_EQ(roots.Device, u"/tmp/home"_qs);
   EXPECT_EQ(roots.MyDocuments, u"/tmp/home/My Documents"_qs);
-  EXPECT_EQ(roots.Own,
-            QStringList({u"/tmp/home/store.db"_qs, u"/tmp/home/settings.json"_qs,
-                         u"/tmp/home/quill.lock"_qs, u"/tmp/home/recovery-"_qs,
-                         u"/tmp/home/"_qs + RequestSocketName(places),
-                         u"/r/"_qs + RequestSocketName(places)}));
+  EXPECT_EQ(roots.Own, QStringList({u"/tmp/home/store.db"_qs, u"/tmp/home/settings.json"_qs,
+                                    u"/tmp/home/quill.lock"_qs, u"/tmp/home/recovery-"_qs,
+                                    u"/tmp/home/"_qs + RequestSocketName(places),
+                                    u"/r/"_qs + RequestSocketName(places)}));
 }
 
 TEST(Places, AUsersDeviceFilesLieBesideTheStore) {

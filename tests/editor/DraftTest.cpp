@@ -110,12 +110,14 @@ TEST_F(DraftTest, WithoutRecoveryFilesThereAreNoDrafts) {
 
 TEST_F(DraftTest, TheSheetGoesOnWithWhatTheDraftHolds) {
   Draft draft = test::FullDraft(5);
-  draft.Oid = m_store.Contacts()->Save(0, {}, "old ink");
+  ContactRecord stored;
+  stored[ContactField::FileAs] = draft.FileAs;
+  draft.Oid = m_store.Contacts()->Save(0, stored, "old ink");
   const SheetRecord sheet = SheetOfDraft(draft, m_state);
   EXPECT_EQ(sheet.Oid, draft.Oid);
   EXPECT_EQ(sheet.FileAs, draft.FileAs);
   EXPECT_EQ(sheet.Draft, 5);
-  EXPECT_EQ(sheet.Opened, ContactRecord{});
+  EXPECT_EQ(sheet.Opened, stored);
   EXPECT_EQ(g_contactInk.Bytes, draft.Ink);
   EXPECT_EQ(RowsOf(sheet, RowSet::Basic)[0].Value, NameText(RowsOf(sheet, RowSet::NameParts)));
   EXPECT_EQ(m_state.PhoneFlags, PhoneFlagsOf(draft.Record));
@@ -126,6 +128,42 @@ TEST_F(DraftTest, TheSheetGoesOnWithWhatTheDraftHolds) {
   }
   EXPECT_EQ(record.Birthday, draft.Record.Birthday);
   EXPECT_EQ(record.Anniversary, draft.Record.Anniversary);
+}
+
+// A contact, changed by someone else after a draft of it was entered.
+class DraftOfAContactTest : public DraftTest {
+ protected:
+  void SetUp() override {
+    DraftTest::SetUp();
+    ContactRecord record;
+    record[ContactField::FileAs] = QStringLiteral("Kim");
+    record[ContactField::JobTitle] = QStringLiteral("before");
+    record[ContactField::CompanyName] = QStringLiteral("before");
+    m_draft = {.Number = 3, .FileAs = QStringLiteral("Kim"), .Ink = "ink", .OpenedInk = "ink"};
+    m_draft.Oid = m_store.Contacts()->Save(0, record, "ink");
+    m_draft.Opened = m_draft.Record = record;
+    m_draft.Record[ContactField::JobTitle] = QStringLiteral("entered");
+    m_draft.Record.Birthday = {.Year = 1970, .Month = 2, .Day = 28};
+    record[ContactField::CompanyName] = QStringLiteral("elsewhere");
+    ASSERT_NE(m_store.Contacts()->Save(m_draft.Oid, record, "new ink"), 0);
+  }
+  Draft m_draft;
+};
+
+TEST_F(DraftOfAContactTest, ReplacesOnlyWhatWasEntered) {
+  const ContactRecord record = RecordOf(SheetOfDraft(m_draft, m_state), {});
+  EXPECT_EQ(record[ContactField::JobTitle], QStringLiteral("entered"));
+  EXPECT_EQ(record[ContactField::CompanyName], QStringLiteral("elsewhere"));
+  EXPECT_EQ(record.Birthday, m_draft.Record.Birthday);
+  EXPECT_EQ(g_contactInk.Bytes, "new ink");
+}
+
+TEST_F(DraftOfAContactTest, BringsItsInkWhereThatWasChanged) {
+  m_draft.Ink = "entered";
+  const SheetRecord sheet = SheetOfDraft(m_draft, m_state);
+  EXPECT_EQ(g_contactInk.Bytes, "entered");
+  EXPECT_EQ(sheet.OpenedInk, "new ink");
+  EXPECT_EQ(sheet.Opened[ContactField::CompanyName], QStringLiteral("elsewhere"));
 }
 
 TEST_F(DraftTest, ADraftOfAContactThatIsGoneMakesANewOneUnderItsOldName) {

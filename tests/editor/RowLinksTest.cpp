@@ -27,16 +27,20 @@ TEST_P(RowLinks, LeadWhereTheValueSays) {
 
 INSTANTIATE_TEST_SUITE_P(
     Numbers, RowLinks,
-    testing::Values(LinkCase{"Plain", RowEntry::Number, u"02-123-4567", "Call", "tel:021234567"},
-                    LinkCase{"International", RowEntry::Number, u"+82 (10) 1234.5678", "Call",
-                             "tel:+821012345678"},
-                    LinkCase{"PlusInside", RowEntry::Number, u"010+12", "Call", "tel:01012"},
-                    LinkCase{"StarAndHash", RowEntry::Number, u"*123#", "Call", "tel:*123%23"},
-                    LinkCase{"WideDigits", RowEntry::Number, u"０１０-１２３４", "Call",
-                             "tel:0101234"},
-                    LinkCase{"NoDigits", RowEntry::Number, u"ask her", "", ""},
-                    LinkCase{"PlusAlone", RowEntry::Number, u"+", "", ""},
-                    LinkCase{"Empty", RowEntry::Number, u"", "", ""}),
+    testing::Values(
+        LinkCase{"Plain", RowEntry::Number, u"02-123-4567", "Call", "tel:021234567"},
+        LinkCase{"International", RowEntry::Number, u"+82 (10) 1234.5678", "Call",
+                 "tel:+821012345678"},
+        LinkCase{"PlusInside", RowEntry::Number, u"010+12", "", ""},
+        LinkCase{"Extension", RowEntry::Number, u"+44-555-5555;ext=55", "Call", "tel:+445555555"},
+        LinkCase{"SpokenExtension", RowEntry::Number, u"02-123 Ext. 4", "Call", "tel:02123"},
+        LinkCase{"LettersOnKeys", RowEntry::Number, u"1-800-FLOWERS", "", ""},
+        LinkCase{"PagersAddress", RowEntry::Number, u"6101231234@example.org", "", ""},
+        LinkCase{"StarAndHash", RowEntry::Number, u"*123#", "Call", "tel:*123%23"},
+        LinkCase{"WideDigits", RowEntry::Number, u"０１０-１２３４", "Call", "tel:0101234"},
+        LinkCase{"NoDigits", RowEntry::Number, u"ask her", "", ""},
+        LinkCase{"PlusAlone", RowEntry::Number, u"+", "", ""},
+        LinkCase{"Empty", RowEntry::Number, u"", "", ""}),
     [](const auto& link) { return std::string(link.param.Name); });
 
 INSTANTIATE_TEST_SUITE_P(

@@ -13,6 +13,8 @@ inline Draft FullDraft(int number) {
   draft.Record.Birthday = {1987, 3, 4, 5, 6, 7, 8, 9};
   draft.Record.Anniversary = {2999, 12, 1, 31, 23, 59, 58, 999};
   draft.Ink = QByteArray("\0ink\xFF", 5);
+  draft.Opened[ContactField::JobTitle] = QStringLiteral("before");
+  draft.OpenedInk = "old ink";
   return draft;
 }
 

@@ -78,6 +78,12 @@ TEST_F(PendingRequestTest, ALongTextOfANewContactIsCutAtItsLimit) {
   EXPECT_EQ(m_request.Text, QString(kRequestTextLimit, u'1'));
 }
 
+TEST_F(PendingRequestTest, ACharacterIsNotCutInHalves) {
+  const QString before(kRequestTextLimit - 1, u'1');
+  TakeRequest(m_request, 2, before + u"\U0001F600"_qs);
+  EXPECT_EQ(m_request.Text, before);
+}
+
 TEST_F(PendingRequestTest, ALaterNewContactTakesThePlaceOfOneToBeShown) {
   Add(u"Kim"_qs);
   TakeRequest(m_request, 1, u"Kim"_qs);

@@ -5,6 +5,7 @@
 
 #include "editor/CardLayout.h"
 #include "editor/CardState.h"
+#include "platform/ui/ModalWindow.h"
 #include "platform/ui/PaintedWindow.h"
 #include "platform/ui/RowPainter.h"
 #include "platform/ui/Screen.h"
@@ -67,9 +68,10 @@ void CContactSummaryCard::Dismiss() {
   g_card = {};
 }
 
-// What is pressed goes on to whom it was meant for.
-bool CContactSummaryCard::eventFilter(QObject*, QEvent* event) {
-  if (TakesCardAway(event->type())) Dismiss();
+// What is pressed goes on to whom it was meant for. A window that opens does not lie over a card.
+bool CContactSummaryCard::eventFilter(QObject* watched, QEvent* event) {
+  const bool isWindow = event->type() == QEvent::Show && qobject_cast<CModalWindow*>(watched);
+  if (isWindow || TakesCardAway(event->type())) Dismiss();
   return false;
 }
 

@@ -22,6 +22,7 @@ class CContactSummaryCard : public CWindow {
   // is shown when the contact is gone.
   void ShowFor(Oid oid, int anchorY, int listTop);
   void Dismiss();
+  void OnVisibleAreaChanged(QRect) override { Dismiss(); }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -20,6 +20,9 @@ struct EditField {
   std::function<void()> Clear = [] {};  // what is selected
 };
 
+// An editor for a single line cuts at 32,767 units unless it is told otherwise.
+inline constexpr int kLongestText = 1'000'000'000;
+
 EditField FieldOf(QLineEdit& edit);
 EditField FieldOf(QPlainTextEdit& edit);
 

@@ -44,9 +44,10 @@ CEditRecordSheet::~CEditRecordSheet() {
 }
 
 void CEditRecordSheet::OnInitDialog() {
+  const bool isNew = m_record.Oid == 0;
   m_record = LoadSheet(m_record.Oid, g_sheet);
   CSheet::OnInitDialog();
-  if (m_record.Oid == 0) m_offered = LoadDraft();
+  if (isNew) m_offered = LoadDraft();
   OfferDraft();
   g_services.Timers->Set(*this, kKeepTimer, kKeepMilliseconds);
 }
@@ -101,11 +102,15 @@ void CEditRecordSheet::OfferDraft() {
   m_offered && !isPanelUp ? m_draftBar->Offer(*m_offered, PageArea()) : m_draftBar->hide();
 }
 
+// What was entered until now becomes a draft of its own.
 void CEditRecordSheet::RestoreDraft() {
+  ActivePage()->BecomeInactive();
+  KeepEntered();
   const Draft draft = *std::exchange(m_offered, std::nullopt);
   m_record = SheetOfDraft(draft, g_sheet);
   m_restoredDraft = m_record.Draft;
   m_kept = draft;
+  if (m_record.Oid != 0) SetCaption(QStringLiteral("Edit"));
   for (CSheetPage* page : Pages()) page->LoadRows();
   OfferDraft();
 }

@@ -11,6 +11,7 @@
 #include "platform/InputPanel.h"
 #include "platform/Services.h"
 #include "platform/ui/Edit.h"
+#include "platform/ui/InputCommit.h"
 #include "platform/ui/MultiEdit.h"
 #include "platform/ui/RowPainter.h"
 #include "resources/Ids.h"
@@ -26,6 +27,7 @@ CPartEditor::CPartEditor(SheetRecord& record, RowSet parts, QWidget* page)
   setFocusPolicy(Qt::StrongFocus);
   setGeometry(PartEditorArea(parts));
   m_edit->setVisible(false);
+  m_edit->setMaxLength(kLongestText);
   connect(m_edit, &QLineEdit::textChanged, this, &CPartEditor::SetValue);
 }
 
@@ -61,6 +63,7 @@ void CPartEditor::EditPart(int part) {
 
 // The focus goes first: what is hidden would hand it on as the Tab key does.
 void CPartEditor::EndPart() {
+  CommitInput();  // while the part still takes it
   if (isAncestorOf(QApplication::focusWidget())) setFocus(Qt::OtherFocusReason);
   m_edited = -1;
   HideFields();
@@ -75,6 +78,7 @@ void CPartEditor::SetValue(const QString& value) {
 EditField CPartEditor::Field() const { return FieldOf(*m_edit); }
 
 void CPartEditor::ShowField(int, const QRect& area, const QString& value) {
+  const QSignalBlocker untouched(m_edit);
   m_edit->setText(value);
   m_edit->setGeometry(area);
   m_edit->show();
@@ -86,7 +90,9 @@ void CPartEditor::HideFields() { m_edit->hide(); }
 
 void CPartEditor::PenPress(QPoint at) {
   const auto part = PartToEdit(m_parts, at);
-  if (part) EditPart(*part);
+  if (part) return EditPart(*part);
+  EndPart();
+  ShowParts();
 }
 
 void CPartEditor::keyPressEvent(QKeyEvent* event) {
@@ -145,6 +151,8 @@ ControlMap CAddressPartEditor::Controls() const {
 
 void CAddressPartEditor::ShowField(int part, const QRect& area, const QString& value) {
   if (part != 0) return CPartEditor::ShowField(part, area, value);
+  // The editor knows one kind of line end and of blank only: it changes nothing by being shown.
+  const QSignalBlocker untouched(m_street);
   m_street->setPlainText(value);
   m_street->setGeometry(area);
   m_street->show();

@@ -12,6 +12,7 @@
 #include "platform/Clock.h"
 #include "platform/InputPanel.h"
 #include "platform/Services.h"
+#include "platform/ui/InputCommit.h"
 #include "platform/ui/RowPainter.h"
 #include "platform/ui/Screen.h"
 #include "settings/Settings.h"
@@ -104,8 +105,9 @@ void CRecordRowList::ChooseCategories(int row) {
 void CRecordRowList::EditText(int row) {
   const QString value = RowAt(row).Value;
   const bool prefills = ShouldPrefill(m_page, row, value, g_settings);
-  m_editors.EditText(RecordEditArea(row, m_top), prefills ? g_settings.AreaCodePrefix : value,
-                     FindRule(m_page, row)->Entry);
+  const QString text = prefills ? g_settings.AreaCodePrefix : value;
+  m_editors.EditText(RecordEditArea(row, m_top), text, FindRule(m_page, row)->Entry);
+  if (prefills) SetValue(text);
   if (g_services.InputPanel) g_services.InputPanel->Raise();
 }
 
@@ -125,6 +127,7 @@ void CRecordRowList::EditSound(int row) {
 // The focus goes first: what is hidden would hand it on as the Tab key does.
 void CRecordRowList::EndEdit() {
   if (m_edited < 0) return;
+  CommitInput();  // while the row still takes it
   const int row = std::exchange(m_edited, -1);
   RecordRow& ended = RowAt(row);
   if (ended.Kind == RowKind::Text)
@@ -162,9 +165,13 @@ void CRecordRowList::PenMove(QPoint at) {
   if (strays) StopHold();
 }
 
+// A pen that was dragged to another row edits neither.
 void CRecordRowList::PenRelease(QPoint at) {
   StopHold();
-  if (std::exchange(m_pressedAt, std::nullopt)) Tap(at);
+  const auto pressed = std::exchange(m_pressedAt, std::nullopt);
+  if (!pressed) return;
+  const bool isSameRow = RecordRowAt(pressed->y(), m_top) == RecordRowAt(at.y(), m_top);
+  Tap(isSameRow ? at : QPoint(0, at.y()));
 }
 
 void CRecordRowList::PenCancel() {

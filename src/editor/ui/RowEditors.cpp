@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "editor/ui/EditField.h"
 #include "platform/ui/DatePicker.h"
 #include "platform/ui/DropDown.h"
 #include "platform/ui/Edit.h"
@@ -55,6 +56,7 @@ class Leaving : public Editor {
 
 void RowEditors::MakeText() {
   m_text = new Leaving<CEdit>(Left, QString(), &m_list);
+  m_text->setMaxLength(kLongestText);
   QObject::connect(m_text, &QLineEdit::textChanged, m_text,
                    [this](const QString& text) { TextChanged(text); });
 }
@@ -74,6 +76,7 @@ void RowEditors::MakeDate() {
 void RowEditors::EditText(const QRect& area, const QString& text, RowEntry entry) {
   if (!m_text) MakeText();
   m_text->setInputMethodHints(HintsOf(entry));
+  const QSignalBlocker untouched(m_text);
   m_text->setText(text);
   Show(*m_text, area);
   m_text->selectAll();

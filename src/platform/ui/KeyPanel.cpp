@@ -34,9 +34,11 @@ CKeyPanel::~CKeyPanel() {
 
 // A popup has the focus for a moment only: the editor that gets it back keeps its keys.
 void CKeyPanel::BeginWith(QWidget* editor) {
-  if (!editor || editor == m_editor || !TakesInputMethod(*editor)) return;
-  m_editor = editor;
+  if (!editor || !TakesInputMethod(*editor)) return;
   const Qt::InputMethodHints hints(editor->inputMethodQuery(Qt::ImHints).toInt());
+  if (editor == m_editor && hints == m_hints) return;
+  m_editor = editor;
+  m_hints = hints;
   ShowState({FirstSet(hints, g_keyPanel.Letters)});
 }
 

@@ -39,9 +39,10 @@ class CKeyPanel : public CPaintedWindow, public TimerTarget {
 
   KeyPanelState m_state;
   KeyTyper m_typer;
-  QPointer<QWidget> m_editor;  // that the keys were chosen for
-  int m_pressed = -1;          // the key that the pen holds
-  bool m_repeated = false;     // and that acted already
+  QPointer<QWidget> m_editor;    // that the keys were chosen for
+  Qt::InputMethodHints m_hints;  // as it had them then
+  int m_pressed = -1;            // the key that the pen holds
+  bool m_repeated = false;       // and that acted already
 };
 
 }  // namespace quill
