@@ -100,11 +100,13 @@ TEST_F(SheetRecordTest, AContactDeletedMeanwhileOpensEmptyAndInheritsNoInk) {
   EXPECT_EQ(g_contactInk.Count(), 0);
 }
 
-TEST_F(SheetRecordTest, AContactThatCannotBeReadInheritsNoInk) {
+TEST_F(SheetRecordTest, AContactThatCannotBeReadInheritsNoInkAndIsNotWrittenOver) {
   const Oid oid = Save(FullRecord(), "ink");
   m_store.Faults().Read = oid;
   g_contactInk.Bytes = "of somebody else";
-  EXPECT_EQ(RecordOf(LoadSheet(oid, m_state), {}), ContactRecord{});
+  const SheetRecord sheet = LoadSheet(oid, m_state);
+  EXPECT_EQ(RecordOf(sheet, {}), ContactRecord{});
+  EXPECT_EQ(sheet.Oid, 0);
   EXPECT_EQ(g_contactInk.Count(), 0);
 }
 

@@ -1,0 +1,143 @@
+#include "editor/ui/EditRecordSheet.h"
+
+#include <QPushButton>
+
+#include "SheetFixture.h"
+#include "editor/Draft.h"
+
+namespace quill {
+namespace {
+
+using enum ContactField;
+
+class EditRecordSheetTest : public test::SheetFixture {
+ protected:
+  Oid AddKim() {
+    ContactRecord record;
+    record[FileAs] = QStringLiteral("Kim");
+    return Add(record, "ink");
+  }
+  void TypeInRow(int row, const QString& text) {
+    TapRow(row);
+    m_input.Type(text);
+  }
+  QPushButton* Button(int id) const { return qobject_cast<QPushButton*>(m_sheet->Control(id)); }
+};
+
+TEST_F(EditRecordSheetTest, HasThreePagesWithTheirMenuBars) {
+  InSheet(AddKim(), [&] {
+    QStringList titles;
+    for (const CSheetPage* page : m_sheet->Pages()) titles.append(page->Title());
+    EXPECT_EQ(titles, QStringList({QStringLiteral("Basic"), QStringLiteral("Detail"),
+                                   QStringLiteral("Memo")}));
+    EXPECT_EQ(m_sheet->MenuBar().Menus.size(), 1U);
+    m_sheet->ShowPage(2);
+    EXPECT_EQ(m_sheet->MenuBar().Menus.size(), 2U);
+  });
+}
+
+TEST_F(EditRecordSheetTest, AnEditLeavesTheInkAsItIs) {
+  const Oid kim = AddKim();
+  InSheet(kim, [&] {
+    TypeInRow(1, QStringLiteral("Pilot"));
+    m_sheet->ShowPage(2);
+    PressOK();
+  });
+  EXPECT_EQ(Stored(kim).BodyInk, "ink");
+  EXPECT_EQ(Stored(kim).Record[JobTitle], QStringLiteral("Pilot"));
+  EXPECT_EQ(g_contactInk.Count(), 0);
+}
+
+TEST_F(EditRecordSheetTest, CancelWritesNothingAndKeepsNoDraft) {
+  const Oid kim = AddKim();
+  InSheet(kim, [&] {
+    TypeInRow(1, QStringLiteral("Pilot"));
+    m_timers.Advance(2000);
+  });
+  EXPECT_EQ(Stored(kim).Record[JobTitle], QString());
+  EXPECT_EQ(LoadDraft(), std::nullopt);
+}
+
+TEST_F(EditRecordSheetTest, WhatIsTypedIsKeptAgainstACrashTwoSecondsLater) {
+  InSheet(0, [&] {
+    TypeInRow(1, QStringLiteral("Pilot"));
+    m_timers.Advance(1999);
+    EXPECT_EQ(LoadDraft(), std::nullopt);
+    m_timers.Advance(1);
+    EXPECT_EQ(LoadDraft()->Record[JobTitle], QStringLiteral("Pilot"));
+  });
+}
+
+TEST_F(EditRecordSheetTest, WhatTheProgramsEndClosesIsKept) {
+  InSheet(0, [&] {
+    TypeInRow(1, QStringLiteral("Pilot"));
+    m_isEnded = true;
+    m_sheet->EndDialog(kResultCancel);
+  });
+  EXPECT_EQ(LoadDraft()->Record[JobTitle], QStringLiteral("Pilot"));
+}
+
+TEST_F(EditRecordSheetTest, OKLeavesNoDraftOfWhatWasWritten) {
+  InSheet(0, [&] {
+    TypeInRow(3, QStringLiteral("Quill"));
+    m_timers.Advance(2000);
+    PressOK();
+  });
+  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(Count(AllContacts()), 1);
+}
+
+class DraftBarTest : public EditRecordSheetTest {
+ protected:
+  void SetUp() override {
+    Draft draft;
+    draft.Record[JobTitle] = QStringLiteral("Pilot");
+    ASSERT_NE(SaveDraft(draft), 0);
+  }
+};
+
+TEST_F(DraftBarTest, OffersTheDraftToANewContactAndMovesNothing) {
+  InSheet(0, [&] {
+    ASSERT_NE(Button(RecordSheetIds::kRestoreDraft), nullptr);
+    EXPECT_EQ(Rows().geometry(), QRect(0, 10, 225, 248));
+    Button(RecordSheetIds::kRestoreDraft)->click();
+    EXPECT_EQ(Value(RowSet::Basic, 1), QStringLiteral("Pilot"));
+    EXPECT_EQ(Button(RecordSheetIds::kRestoreDraft), nullptr);
+  });
+  EXPECT_NE(LoadDraft(), std::nullopt) << "until it is saved";
+}
+
+TEST_F(DraftBarTest, IsNotThereForAnExistingContact) {
+  InSheet(AddKim(), [&] { EXPECT_EQ(Button(RecordSheetIds::kRestoreDraft), nullptr); });
+}
+
+TEST_F(DraftBarTest, DiscardThrowsTheDraftAway) {
+  InSheet(0, [&] {
+    Button(RecordSheetIds::kDiscardDraft)->click();
+    EXPECT_EQ(Button(RecordSheetIds::kDiscardDraft), nullptr);
+  });
+  EXPECT_EQ(LoadDraft(), std::nullopt);
+}
+
+TEST_F(DraftBarTest, GivesWayToThePanel) {
+  InSheet(0, [&] {
+    m_panel.Raise();
+    EXPECT_EQ(Button(RecordSheetIds::kRestoreDraft), nullptr);
+    m_panel.Lower();
+    EXPECT_NE(Button(RecordSheetIds::kRestoreDraft), nullptr);
+  });
+}
+
+TEST_F(DraftBarTest, RestoringKeepsWhatWasBeingTypedAsADraftOfItsOwn) {
+  InSheet(0, [&] {
+    TypeInRow(2, QStringLiteral("typed"));
+    m_panel.Lower();
+    Button(RecordSheetIds::kRestoreDraft)->click();
+    EXPECT_FALSE(RowEdit().isVisible());
+    EXPECT_EQ(Value(RowSet::Basic, 2), QString());
+    EXPECT_EQ(LoadDraft()->Record[Department], QStringLiteral("typed"));
+  });
+}
+
+}  // namespace
+}  // namespace quill
