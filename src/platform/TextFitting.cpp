@@ -1,8 +1,5 @@
 #include "platform/TextFitting.h"
 
-#include <algorithm>
-#include <ranges>
-
 namespace quill {
 
 namespace {
@@ -77,10 +74,13 @@ QString ElideText(const QString& text, double limit, const TextWidth& width) {
     return text.first(SplitsSurrogatePair(text, length) ? length - 1 : length) +
            QStringLiteral("...");
   };
-  const auto lengths = std::views::iota(0, static_cast<int>(text.size()));
-  const auto tooLong = std::ranges::partition_point(
-      lengths, [&](int length) { return width(elided(length)) <= limit; });
-  return elided(std::max<qsizetype>(tooLong - lengths.begin() - 1, 0));
+  qsizetype fitting = 0;
+  qsizetype tooLong = text.size();
+  while (tooLong - fitting > 1) {
+    const qsizetype middle = fitting + (tooLong - fitting) / 2;
+    (width(elided(middle)) <= limit ? fitting : tooLong) = middle;
+  }
+  return elided(fitting);
 }
 
 }  // namespace quill
