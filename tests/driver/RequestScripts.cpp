@@ -26,10 +26,12 @@ void OpenConfiguration(ReadyDriver& driver) { driver.Do(R"({"op":"command","id":
 // Longer than a request waits when nothing is in its way.
 void Wait(ReadyDriver& driver) { driver.Do(R"({"op":"wait","ms":300})"); }
 
-// The first line of the message box on top; empty when there is none.
+// Of whom the record sheet on top is, or what the message box there says; empty without either.
 QString Message(ReadyDriver& driver) {
+  const QJsonArray rows = driver.Ask(R"({"op":"rows"})")[u"rows"].toArray();
+  if (!rows.isEmpty()) return rows.first()[u"value"].toString();
   const QJsonValue message = driver.Result(R"({"op":"message"})", u"message");
-  return message.toObject()[u"text"].toString().section(u'\n', 0, 0);
+  return message.toObject()[u"text"].toString();
 }
 
 qsizetype CountWindows(ReadyDriver& driver) {
