@@ -65,14 +65,4 @@ std::vector<CardLine> CardLines(const ContactRecord& record) {
   return lines;
 }
 
-QString CardText(const ContactRecord& record) {
-  QStringList texts{record[FileAs]};
-  const std::vector<CardLine> lines = CardLines(record);
-  for (const CardLine& line : lines)
-    texts.append(line.Label.toString() + QLatin1Char(' ') + line.Text);
-  texts.removeAll(QString());
-  if (lines.empty()) texts.append(kNoContactInformation.toString());
-  return texts.join(QLatin1Char('\n'));
-}
-
 }  // namespace quill

@@ -25,7 +25,4 @@ struct CardLine {
 // work if there is one. Empty when there is nothing to show.
 std::vector<CardLine> CardLines(const ContactRecord& record);
 
-// The contact's name and its lines, each on a line of its own, or kNoContactInformation.
-QString CardText(const ContactRecord& record);
-
 }  // namespace quill

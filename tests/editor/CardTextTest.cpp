@@ -85,28 +85,13 @@ TEST(CardText, OfTwoAddressesOnlyTheOneAtWorkIsShown) {
   EXPECT_EQ(lines[0].Text, QStringLiteral("Seoul"));
 }
 
+TEST(CardText, AContactWithNothingToShowHasNoLines) { EXPECT_TRUE(CardLines({}).empty()); }
+
 TEST(CardText, LineBreaksInAStreetBecomeBlanks) {
   EXPECT_EQ(CardLines(Record({{HomeAddressStreet, QStringLiteral("Hill House\r\n2 Hill\nRoad")},
                               {HomeAddressCity, QStringLiteral("York")}}))[0]
                 .Text,
             QStringLiteral("Hill House  2 Hill Road, York"));
-}
-
-TEST(CardText, TheNameStandsAboveTheLines) {
-  EXPECT_EQ(CardText(Record({{FileAs, QStringLiteral("Kim")},
-                             {MobileTelephoneNumber, QStringLiteral("010-1")},
-                             {Email1Address, QStringLiteral("kim@example.com")}})),
-            QStringLiteral("Kim\nCell: 010-1\nEmail: kim@example.com"));
-}
-
-TEST(CardText, AContactWithNothingToShowSaysSo) {
-  EXPECT_TRUE(CardLines({}).empty());
-  EXPECT_EQ(CardText(Record({{FileAs, QStringLiteral("Kim")}})),
-            QStringLiteral("Kim\n(No contact information)"));
-}
-
-TEST(CardText, AContactWithoutANameBeginsWithItsLines) {
-  EXPECT_EQ(CardText(Record({{PagerNumber, QStringLiteral("2")}})), QStringLiteral("Cell: 2"));
 }
 
 }  // namespace
