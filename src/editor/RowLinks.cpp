@@ -9,7 +9,7 @@ constexpr QStringView kSeparators = u" -.()/\u00A0";
 // The number without what follows it: an extension is dialled by hand.
 QStringView WithoutExtension(QStringView number) {
   for (const QStringView mark :
-       {QStringView(u";"), QStringView(u","), QStringView(u"x"), QStringView(u"ext")}) {
+       {QStringView(u";"), QStringView(u","), QStringView(u"ext"), QStringView(u"x")}) {
     const qsizetype at = number.indexOf(mark, 0, Qt::CaseInsensitive);
     if (at >= 0) number = number.first(at);
   }

@@ -117,7 +117,7 @@ TEST_F(MainFrameTest, TheApplicationsCommandsAreAskedAfterTheViews) {
 }
 
 TEST_F(MainFrameTest, ACommandWhoseWindowIsStillToComeIsRefused) {
-  EXPECT_EQ(m_frame->RunCommand(ID_FILE_NEW), CommandResult::Disabled);
+  EXPECT_EQ(m_frame->RunCommand(ID_BEAM_CONTACTS), CommandResult::Disabled);
   EXPECT_EQ(m_frame->RunCommand(ID_RECEIVE_INFRARED, CommandCheck::Anyway),
             CommandResult::Disabled);
 }

@@ -41,6 +41,9 @@ void TapRow(ReadyDriver& driver, int row, int x = 120) {
             QByteArray::number(19 * row + 9) + '}');
 }
 
+// The closing row stands below every editor of parts.
+void CloseParts(ReadyDriver& driver) { TapRow(driver, 11, 10); }
+
 void Type(ReadyDriver& driver, const QByteArray& text) {
   driver.Do(R"({"op":"type","text":")" + text + R"("})");
 }
@@ -76,11 +79,13 @@ TEST_F(RecordScript, EveryFieldWithARowIsEditedAndTheOthersStay) {
   TapRow(driver, 0);
   for (const auto& [y, text] : {std::pair(9, "T"), {28, "F"}, {47, "M"}, {66, "L"}, {85, "S"}})
     EditPart(driver, y, text);
+  CloseParts(driver);
   for (int row = 1; row <= 7; ++row) EditRow(driver, row, "b" + QByteArray::number(row));
   TapRow(driver, 8);
   for (const auto& [y, text] :
        {std::pair(25, "ws"), {60, "wc"}, {79, "wst"}, {98, "wz"}, {117, "wco"}})
     EditPart(driver, y, text);
+  CloseParts(driver);
   EditRow(driver, 9, "b9");
   ShowPage(driver, 1);
   for (const int row : {0, 1, 2, 3, 5, 6, 9, 10})
@@ -89,6 +94,7 @@ TEST_F(RecordScript, EveryFieldWithARowIsEditedAndTheOthersStay) {
   for (const auto& [y, text] :
        {std::pair(25, "hs"), {60, "hc"}, {79, "hst"}, {98, "hz"}, {117, "hco"}})
     EditPart(driver, y, text);
+  CloseParts(driver);
   TapRow(driver, 7);
   driver.Do(R"({"op":"set","id":716,"date":"1971-03-01"})");
   TapRow(driver, 8);

@@ -31,24 +31,42 @@ TEST_P(DamagedDrafts, AreRefusedAsAWhole) {
   EXPECT_EQ(DraftsFromJson(GetParam()), std::nullopt) << GetParam();
 }
 
-// A draft is {number, oid, fileAs, texts, dates, ink}: one thing is wrong in each.
-INSTANTIATE_TEST_SUITE_P(
-    Texts, DamagedDrafts,
-    testing::Values(
-        "", "{", "[]", "{}", R"({"drafts": 1})", R"({"drafts": [1]})",
-        R"({"drafts": [{"number":0,"oid":0,"fileAs":"","texts":{},"dates":{},"ink":""}]})",
-        R"({"drafts": [{"number":"1","oid":0,"fileAs":"","texts":{},"dates":{},"ink":""}]})",
-        R"({"drafts": [{"number":1,"oid":"","fileAs":"","texts":{},"dates":{},"ink":""}]})",
-        R"({"drafts": [{"number":1,"oid":0,"texts":{},"dates":{},"ink":""}]})",
-        R"({"drafts": [{"number":1,"oid":0,"fileAs":"","texts":[],"dates":{},"ink":""}]})",
-        R"({"drafts": [{"number":1,"oid":0,"fileAs":"","texts":{},"dates":1,"ink":""}]})",
-        R"({"drafts": [{"number":1,"oid":0,"fileAs":"","texts":{},"dates":{},"ink":1}]})",
-        R"({"drafts": [{"number":1,"oid":0,"fileAs":"","texts":{},"dates":{},"ink":"*"}]})"));
+// What stands in one place of an otherwise faultless draft.
+struct DraftFault {
+  const char* Faultless;
+  const char* Instead;
+};
+
+constexpr char kFaultless[] =
+    R"({"drafts": [{"number":1,"oid":0,"fileAs":"","entered":{"texts":{},"dates":{},"ink":""},)"
+    R"("opened":{"texts":{},"dates":{},"ink":""}}]})";
+
+class FaultyDrafts : public testing::TestWithParam<DraftFault> {};
+
+TEST_P(FaultyDrafts, AreRefused) {
+  const QByteArray json = QByteArray(kFaultless).replace(GetParam().Faultless, GetParam().Instead);
+  ASSERT_NE(json, kFaultless);
+  EXPECT_EQ(DraftsFromJson(json), std::nullopt) << json.toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, DamagedDrafts,
+                         testing::Values("", "{", "[]", "{}", R"({"drafts": 1})",
+                                         R"({"drafts": [1]})"));
+
+INSTANTIATE_TEST_SUITE_P(Places, FaultyDrafts,
+                         testing::Values(DraftFault{R"("number":1)", R"("number":0)"},
+                                         DraftFault{R"("number":1)", R"("number":"1")"},
+                                         DraftFault{R"("oid":0)", R"("oid":"")"},
+                                         DraftFault{R"("fileAs":"",)", ""},
+                                         DraftFault{R"("texts":{})", R"("texts":[])"},
+                                         DraftFault{R"("dates":{})", R"("dates":1)"},
+                                         DraftFault{R"("ink":"")", R"("ink":1)"},
+                                         DraftFault{R"("ink":"")", R"("ink":"*")"},
+                                         DraftFault{R"("entered")", R"("other")"},
+                                         DraftFault{R"("opened")", R"("other")"}));
 
 TEST(DraftJson, ADraftWithoutAnyFaultIsRead) {
-  EXPECT_EQ(DraftsFromJson(
-                R"({"drafts": [{"number":1,"oid":0,"fileAs":"","texts":{},"dates":{},"ink":""}]})"),
-            std::vector<Draft>{Draft{.Number = 1}});
+  EXPECT_EQ(DraftsFromJson(kFaultless), std::vector<Draft>{Draft{.Number = 1}});
 }
 
 }  // namespace

@@ -85,7 +85,7 @@ TEST_F(DraftTest, DiscardingWhatIsNotThereIsDone) {
 TEST_F(DraftTest, ADamagedFileIsPutAsideAndDraftsGoOn) {
   PutFile("{ damaged");
   EXPECT_EQ(LoadDraft(), std::nullopt);
-  EXPECT_EQ(FilesAtHome(), QStringList(QStringLiteral("recovery-drafts.json.damaged")));
+  EXPECT_EQ(FilesAtHome(), QStringList(QStringLiteral("recovery-drafts.json.bad")));
   PutFile("damaged again");
   EXPECT_EQ(SaveDraft(Named(QStringLiteral("Kim"))), 1);
   EXPECT_EQ(LoadDraft()->FileAs, QStringLiteral("Kim"));

@@ -80,14 +80,14 @@ TEST(RecordRowLayout, AValueIsShortenedToItsColumnLessNineteen) {
             QStringLiteral("abcdefghijklm..."));
 }
 
-TEST(RecordRowLayout, ALimitIsOnePixelNarrowerForCategories) {
-  const TextWidth byLimit = [](QStringView text) { return text.endsWith(u'!') ? 126.0 : 0.0; };
+TEST(RecordRowLayout, CategoriesEndWithTheirDotsOnePixelBeforeOtherTexts) {
+  const TextWidth byLength = [](QStringView text) { return text.size() == 4 ? 126.0 : 1.0; };
   ContactRecord record;
-  record[ContactField::JobTitle] = QStringLiteral("fits!");
-  record[ContactField::Categories] = QStringLiteral("a!b!");
-  const auto rows = LayOutRecordRows(RowsFrom(record, RowSet::Basic), {}, byLimit);
-  EXPECT_EQ(TextsOf(rows[1])[1].Text, QStringLiteral("fits!"));
-  EXPECT_EQ(TextsOf(rows[kCategoriesIndex])[1].Text, QStringLiteral("a!..."));
+  record[ContactField::JobTitle] = QStringLiteral("fits");
+  record[ContactField::Categories] = QStringLiteral("a,bc");
+  const auto rows = LayOutRecordRows(RowsFrom(record, RowSet::Basic), {}, byLength);
+  EXPECT_EQ(TextsOf(rows[1])[1].Text, QStringLiteral("fits"));
+  EXPECT_TRUE(TextsOf(rows[kCategoriesIndex])[1].Text.endsWith(QStringLiteral("...")));
 }
 
 TEST(RecordRowLayout, CategoriesHaveTheirPictureAtTheRightEnd) {

@@ -94,7 +94,7 @@ TEST_F(SheetRecordTest, AContactDeletedMeanwhileOpensEmptyAndInheritsNoInk) {
   m_store.Contacts()->Remove(oid);
   g_contactInk.Bytes = "of somebody else";
   const SheetRecord sheet = LoadSheet(oid, m_state);
-  EXPECT_EQ(sheet.Oid, oid);
+  EXPECT_EQ(sheet.Oid, 0);
   EXPECT_FALSE(HasAnythingToSave(sheet));
   EXPECT_EQ(RecordOf(sheet, {}), ContactRecord{});
   EXPECT_EQ(g_contactInk.Count(), 0);

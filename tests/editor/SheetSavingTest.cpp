@@ -126,8 +126,9 @@ TEST_F(SheetSavingTest, WhatTheStoreCannotWriteBecomesADraftWithItsInk) {
   m_store.Faults().Save = true;
   EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::KeptAsDraft);
   EXPECT_EQ(Stored(kim).Record[JobTitle], QString());
-  Draft expected{.Number = 1, .Oid = kim, .FileAs = QStringLiteral("Kim"), .Ink = "ink"};
-  expected.Record[FileAs] = QStringLiteral("Kim");
+  Draft expected{.Number = 1, .Oid = kim, .FileAs = QStringLiteral("Kim")};
+  expected.Ink = expected.OpenedInk = "ink";
+  expected.Record[FileAs] = expected.Opened[FileAs] = QStringLiteral("Kim");
   expected.Record[JobTitle] = QStringLiteral("Painter");
   EXPECT_EQ(LoadDraft(), expected);
 }

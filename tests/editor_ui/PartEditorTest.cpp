@@ -38,6 +38,7 @@ TEST_F(PartEditorTest, ATapEditsAPartAndTheNameRowShowsItAfterwards) {
     EXPECT_EQ(Control(RecordSheetIds::kNamePartEdit).geometry().x(), 55);
     m_input.Type(QStringLiteral("Jae"));
     EXPECT_EQ(Value(RowSet::NameParts, 1), QStringLiteral("Jae"));
+    m_panel.Lower();
     TapRow(11, 10);
     EXPECT_EQ(Parts(), nullptr);
     EXPECT_EQ(Value(RowSet::Basic, 0), QStringLiteral("Jae Kim "));
@@ -103,6 +104,7 @@ TEST_F(PartEditorTest, TheDetailPageHasTheHomeAddress) {
     TapRow(4);
     TapPart({100, 60});
     m_input.Type(QStringLiteral("Busan"));
+    m_panel.Lower();
     TapRow(11, 10);
     EXPECT_EQ(Value(RowSet::Detail, 4), QStringLiteral("Busan"));
     PressOK();

@@ -66,9 +66,7 @@ void ScreenInput::Release(QPoint at, Qt::MouseButton button) {
   SendMouse(QEvent::MouseButtonRelease, at, button, Qt::NoButton);
 }
 
-// As a press too, without which the window system would bring its release to nobody.
 void ScreenInput::PressAgain(QPoint at) {
-  Press(at);
   SendMouse(QEvent::MouseButtonDblClick, at, Qt::LeftButton, Qt::LeftButton);
 }
 
