@@ -107,6 +107,16 @@ TEST_F(DraftBarTest, OffersTheDraftToANewContactAndMovesNothing) {
   EXPECT_NE(LoadDraft(), std::nullopt) << "until it is saved";
 }
 
+TEST_F(DraftBarTest, ADraftThatWasTakenBackAndCancelledIsOfferedAsItWas) {
+  InSheet(0, [&] {
+    Button(RecordSheetIds::kRestoreDraft)->click();
+    TypeInRow(1, QStringLiteral("Painter"));
+    m_timers.Advance(2000);
+    EXPECT_EQ(LoadDraft()->Record[JobTitle], QStringLiteral("Painter"));
+  });
+  EXPECT_EQ(LoadDraft()->Record[JobTitle], QStringLiteral("Pilot"));
+}
+
 TEST_F(DraftBarTest, IsNotThereForAnExistingContact) {
   InSheet(AddKim(), [&] { EXPECT_EQ(Button(RecordSheetIds::kRestoreDraft), nullptr); });
 }

@@ -163,6 +163,34 @@ TEST_F(RecordRowListTest, AHoldOnANumberOffersToCallAndToCopyIt) {
   });
 }
 
+TEST_F(RecordRowListTest, AHoldOnTheFieldOfANumberOffersTheSame) {
+  InSheet(AddKim(), [&] {
+    TapRow(4);
+    const QPoint onField = RowEdit().mapTo(m_screen, QPoint(100, 8));
+    m_input.Press(onField);
+    QTimer::singleShot(0, [&] {
+      ASSERT_NE(m_screen->Popup(), nullptr);
+      m_screen->Popup()->Choose(RowMenuIds::kCopy);
+    });
+    m_timers.Advance(500);
+    m_input.Release(onField);
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("010-1"));
+    EXPECT_EQ(Rows().EditedRow(), 4);
+  });
+}
+
+TEST_F(RecordRowListTest, AHoldOnTheFieldThatMovesOffersNothing) {
+  InSheet(AddKim(), [&] {
+    TapRow(4);
+    const QPoint onField = RowEdit().mapTo(m_screen, QPoint(10, 8));
+    m_input.Press(onField);
+    m_input.Move(onField + QPoint(20, 0));
+    m_timers.Advance(500);
+    EXPECT_EQ(m_screen->Popup(), nullptr);
+    m_input.Release(onField);
+  });
+}
+
 TEST_F(RecordRowListTest, AHoldOnARowWithoutLinksOffersNothing) {
   InSheet(AddKim(), [&] {
     m_input.Press(Rows().mapTo(m_screen, QPoint(40, 3 * 19 + 5)));

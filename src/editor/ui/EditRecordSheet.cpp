@@ -58,10 +58,10 @@ void CEditRecordSheet::Save() {
   SaveSheet(m_record, g_settings);
 }
 
-// What the user cancels is meant to go.
+// What the user cancels is meant to go; a draft that was taken back is offered again as it was.
 void CEditRecordSheet::OnCancel() {
   m_isDecided = true;
-  if (m_record.Draft != m_restoredDraft) DiscardDraft(m_record.Draft);
+  m_restored ? SaveDraft(*m_restored) : DiscardDraft(m_record.Draft);
   CSheet::OnCancel();
 }
 
@@ -108,8 +108,7 @@ void CEditRecordSheet::RestoreDraft() {
   KeepEntered();
   const Draft draft = *std::exchange(m_offered, std::nullopt);
   m_record = SheetOfDraft(draft, g_sheet);
-  m_restoredDraft = m_record.Draft;
-  m_kept = draft;
+  m_restored = m_kept = draft;
   if (m_record.Oid != 0) SetCaption(QStringLiteral("Edit"));
   for (CSheetPage* page : Pages()) page->LoadRows();
   OfferDraft();

@@ -46,8 +46,8 @@ class CEditRecordSheet : public CSheet {
   SheetRecord m_record;
   CDraftBar* m_draftBar;
   std::optional<Draft> m_offered;
-  std::optional<Draft> m_kept;  // what was entered, as it was kept last
-  int m_restoredDraft = 0;      // the number of the draft that was taken back
+  std::optional<Draft> m_kept;      // what was entered, as it was kept last
+  std::optional<Draft> m_restored;  // the draft that was taken back, as it was
   CommandTarget m_commands;
   bool m_panelWasUp;
   bool m_isDecided = false;  // by the user: saved or cancelled

@@ -107,6 +107,7 @@ void CRecordRowList::EditText(int row) {
   const bool prefills = ShouldPrefill(m_page, row, value, g_settings);
   const QString text = prefills ? g_settings.AreaCodePrefix : value;
   m_editors.EditText(RecordEditArea(row, m_top), text, FindRule(m_page, row)->Entry);
+  m_editors.Text()->installEventFilter(this);  // once, however often it is asked for
   if (prefills) SetValue(text);
   if (g_services.InputPanel) g_services.InputPanel->Raise();
 }
@@ -156,7 +157,7 @@ void CRecordRowList::ShowRowMenu(int row) {
 void CRecordRowList::PenPress(QPoint at) {
   setFocus(Qt::MouseFocusReason);
   m_pressedAt = at;
-  g_services.Timers->Set(*this, kHoldTimer, kHoldMilliseconds);
+  StartHold();
 }
 
 void CRecordRowList::PenMove(QPoint at) {
@@ -179,6 +180,8 @@ void CRecordRowList::PenCancel() {
   m_pressedAt.reset();
 }
 
+void CRecordRowList::StartHold() { g_services.Timers->Set(*this, kHoldTimer, kHoldMilliseconds); }
+
 void CRecordRowList::StopHold() { g_services.Timers->Kill(*this, kHoldTimer); }
 
 void CRecordRowList::Tap(QPoint at) {
@@ -187,11 +190,27 @@ void CRecordRowList::Tap(QPoint at) {
   if (const auto row = RecordRowToEdit(at, m_top)) StartEdit(*row);
 }
 
+// Without a press of its own it is the edited row's field that is held.
 void CRecordRowList::OnTimer(int) {
   StopHold();
   const auto at = std::exchange(m_pressedAt, std::nullopt);
-  const auto row = at ? RecordRowAt(at->y(), m_top) : std::nullopt;
+  const auto row = at ? RecordRowAt(at->y(), m_top) : std::optional(m_edited);
   if (row) ShowRowMenu(*row);
+}
+
+bool CRecordRowList::eventFilter(QObject*, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+      StartHold();
+      break;
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+      StopHold();
+      break;
+    default:
+      break;
+  }
+  return false;
 }
 
 void CRecordRowList::keyPressEvent(QKeyEvent* event) {

@@ -54,6 +54,8 @@ class CRecordRowList : public CPaintedWindow, public TimerTarget {
   void PenCancel() override;
   void keyPressEvent(QKeyEvent* event) override;
   bool focusNextPrevChild(bool next) override;
+  // A hold on the field over a value is a hold on its row.
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   RecordRow& RowAt(int row);
@@ -63,6 +65,7 @@ class CRecordRowList : public CPaintedWindow, public TimerTarget {
   void EditDate(int row);
   void EditSound(int row);
   void Tap(QPoint at);
+  void StartHold();
   void StopHold();
 
   SheetRecord& m_record;
