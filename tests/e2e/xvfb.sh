@@ -50,6 +50,7 @@ start_server() {
   server=$!
   read -r -t 20 number <"$scratch/number" || fail "no X server: $(cat "$scratch/xvfb.err")"
   export DISPLAY=:$number
+  within 20 xdotool getdisplaygeometry >/dev/null 2>&1 || fail "the X server $number takes nobody"
 }
 
 # Nothing of the caller's desktop reaches the program.
