@@ -1,6 +1,7 @@
 #include "editor/ui/DraftBar.h"
 
 #include <QLabel>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPushButton>
 

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextDocumentFragment>
 
 #include "resources/ContactDialogs.h"
 
