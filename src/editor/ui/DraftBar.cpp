@@ -51,9 +51,7 @@ CDraftBar::CDraftBar(QWidget* sheet)
 
 void CDraftBar::Offer(const Draft& draft, const QRect& area) {
   const QString text = QStringLiteral("Not saved: ") + OnOneLine(TitleOf(draft));
-  const TextWidth width = NormalTextWidth();
-  // The dots stand beyond the width, which leaves room for them.
-  m_text->setText(ShortenText(text, kTextArea.width() - 12, width));
+  m_text->setText(ElideText(text, kTextArea.width(), NormalTextWidth()));
   setGeometry(area.left(), area.bottom() + 1 - kHeight, area.width(), kHeight);
   show();
   raise();
