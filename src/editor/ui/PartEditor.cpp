@@ -118,10 +118,7 @@ void CPartEditor::MovePart(RowMove move) {
 void CPartEditor::paintEvent(QPaintEvent* event) {
   CPaintedWindow::paintEvent(event);
   QPainter painter(this);
-  // Filled, since a drawn line is not where its pixels are at every scale.
-  for (const QRect& side : {QRect(0, 0, width(), 1), QRect(0, 0, 1, height()),
-                            QRect(0, height() - 1, width(), 1), QRect(width() - 1, 0, 1, height())})
-    painter.fillRect(side, QColor::fromRgb(kRecordLineColor));
+  DrawFrame(painter, rect(), kRecordLineColor);
 }
 
 CNamePartEditor::CNamePartEditor(SheetRecord& record, QWidget* page)

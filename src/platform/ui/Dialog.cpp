@@ -54,10 +54,7 @@ void CDialog::paintEvent(QPaintEvent* event) {
   if (m_size == WindowSize::FullScreen) return;
   QPainter painter(this);
   DrawRow(painter, LayOutSmallCaption(Caption(), width()));
-  // Filled, since a drawn line is not where its pixels are at every scale.
-  for (const QRect& side : {QRect(0, 0, width(), 1), QRect(0, 0, 1, height()),
-                            QRect(0, height() - 1, width(), 1), QRect(width() - 1, 0, 1, height())})
-    painter.fillRect(side, QColor::fromRgb(kDialogBorder));
+  DrawFrame(painter, rect(), kDialogBorder);
 }
 
 }  // namespace quill

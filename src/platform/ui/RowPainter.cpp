@@ -83,4 +83,13 @@ void DrawRow(QPainter& painter, const PaintedRow& row) {
   }
 }
 
+// Filled, since a drawn line is not where its pixels are at every scale.
+void DrawFrame(QPainter& painter, const QRect& area, Rgb color) {
+  for (const QRect& side : {QRect(area.left(), area.top(), area.width(), 1),
+                            QRect(area.left(), area.top(), 1, area.height()),
+                            QRect(area.left(), area.bottom(), area.width(), 1),
+                            QRect(area.right(), area.top(), 1, area.height())})
+    painter.fillRect(side, QColor::fromRgb(color));
+}
+
 }  // namespace quill

@@ -13,4 +13,7 @@ TextWidth NormalTextWidth();
 
 void DrawRow(QPainter& painter, const PaintedRow& row);
 
+// One pixel wide, along the inside of the area.
+void DrawFrame(QPainter& painter, const QRect& area, Rgb color);
+
 }  // namespace quill
