@@ -31,25 +31,28 @@ endfunction()
 
 if(QUILL_PRECOMPILED_HEADERS)
   quill_add_headers(quill_headers_core LINKS Qt6::Core HEADERS <QtCore>)
+  quill_add_headers(quill_headers_gui LINKS Qt6::Gui HEADERS <QtGui>)
   quill_add_headers(quill_headers_ui LINKS Qt6::Widgets HEADERS <QtWidgets>)
 endif()
 if(QUILL_PRECOMPILED_HEADERS AND QUILL_TESTS)
   find_package(GTest REQUIRED)
   quill_add_headers(quill_headers_core_tests
     LINKS Qt6::Core GTest::gmock HEADERS <QtCore> <gmock/gmock.h>)
+  quill_add_headers(quill_headers_gui_tests
+    LINKS Qt6::Gui GTest::gmock HEADERS <QtGui> <gmock/gmock.h>)
   quill_add_headers(quill_headers_ui_tests
     LINKS Qt6::Widgets GTest::gmock HEADERS <QtWidgets> <gmock/gmock.h>)
 endif()
 
-# quill_precompile(TARGET core|ui|core_tests|ui_tests): the headers that nearly every file of such a
-# target includes.
+# quill_precompile(TARGET core|gui|ui, or one of these with _tests): the headers that nearly every
+# file of such a target includes.
 function(quill_precompile target kind)
   if(QUILL_PRECOMPILED_HEADERS)
     target_precompile_headers(${target} REUSE_FROM quill_headers_${kind})
   endif()
 endfunction()
 
-# quill_add_room(NAME core|ui SOURCES ... LINKS ...): one folder, one static library.
+# quill_add_room(NAME core|gui|ui SOURCES ... LINKS ...): one folder, one static library.
 function(quill_add_room name kind)
   cmake_parse_arguments(ROOM "" "" "SOURCES;LINKS" ${ARGN})
   add_library(${name} STATIC ${ROOM_SOURCES})
@@ -57,9 +60,9 @@ function(quill_add_room name kind)
   quill_precompile(${name} ${kind})
 endfunction()
 
-# quill_add_tests(NAME core|ui SOURCES ... LINKS ...): one test program; every test in it is a test of
-# ctest. A core program runs under QCoreApplication and is checked not to load Widgets; an ui program
-# runs under an offscreen QApplication.
+# quill_add_tests(NAME core|gui|ui SOURCES ... LINKS ...): one test program; every test in it is a test
+# of ctest. A core program runs under QCoreApplication, a gui one under an offscreen QGuiApplication,
+# and both are checked not to load Widgets; an ui program runs under an offscreen QApplication.
 function(quill_add_tests name kind)
   cmake_parse_arguments(TESTS "" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${TESTS_SOURCES})
@@ -69,7 +72,7 @@ function(quill_add_tests name kind)
   quill_precompile(${name} ${kind}_tests)
   gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60
     PROPERTIES LABELS unit TIMEOUT 120)
-  if(kind STREQUAL "core")
+  if(NOT kind STREQUAL "ui")
     quill_add_no_widgets_check(${name})
   endif()
 endfunction()

@@ -1,0 +1,82 @@
+// The rich ink control: a page on which a pen, a finger or a mouse writes and a keyboard types.
+//
+// It shows one note and changes it; the note's bytes go in and come out whole. Sizes are logical
+// pixels, zoom is percent.
+#pragma once
+
+#include <QWidget>
+
+#include "ink/InkDocument.h"
+
+namespace quill {
+
+enum class InkAccess { Write, ReadOnly };
+
+// Page styles. Others are kept and answered, and drawn as Page.
+inline constexpr int kInkPage = 16;
+inline constexpr int kInkCloseUp = 2;
+
+// Views: what else is shown beside the page.
+inline constexpr int kInkPlainView = 0;
+inline constexpr int kInkMapView = 2;
+
+// What the pen does.
+inline constexpr int kInkPenWrites = 0;
+inline constexpr int kInkPenSelects = 1;
+
+class InkX : public QWidget {
+  Q_OBJECT
+ public:
+  explicit InkX(QWidget* parent, InkAccess access = InkAccess::Write);
+  ~InkX() override;
+
+  bool readOnly() const;
+
+  int PageStyle() const;
+  void SetPageStyle(int style);
+  int Zoom() const;
+  // 25 to 800; others become the nearest of these.
+  void SetZoom(int percent);
+  // 1: the page ends at its width. 0: it also grows to the right.
+  int Wrap() const;
+  void SetWrap(int flag);
+  int View() const;
+  void SetView(int word);
+  // What command 205's check mark asks: the view.
+  int QueryMode() const { return View(); }
+  int Toggle() const;
+  void SetToggle(int word);
+
+  // Bytes. Setting forgets the steps and touches neither style, zoom, wrap nor view.
+  qsizetype DataLength() const;
+  QByteArray Data() const;
+  void SetData(const QByteArray& bytes);
+
+  bool CanUndo() const;
+  bool CanRedo() const;
+  void Undo();
+  void Redo();
+
+  bool HasSelection() const;
+  bool CanPaste() const;
+  void SelectAll();
+  void Cut();
+  void Copy();
+  void Paste();
+  // Deletes the selection. Of a note that cannot be read it deletes all once all is selected.
+  void Clear();
+
+  InkDocument& Document();
+  const InkDocument& Document() const;
+
+ Q_SIGNALS:
+  void zoomChanged(int percent);
+  // The note is another than before.
+  void changed();
+
+ private:
+  struct Parts;
+  std::unique_ptr<Parts> m_parts;
+};
+
+}  // namespace quill
