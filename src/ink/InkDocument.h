@@ -1,19 +1,24 @@
 // The page that is being looked at or written on: its strokes and text, the bytes that it came
 // from, and the steps by which it changed since.
+//
+// Every change is a step that can be undone, text and ink alike; the last 1,000 are kept. Lengths
+// are units of the page, positions in the text UTF-16 units.
 #pragma once
 
 #include <QObject>
 #include <QUndoStack>
 
-#include "ink/InkNote.h"
+#include "ink/InkChange.h"
+#include "ink/InkTextLayout.h"
 
 namespace quill {
 
 // What is to be said of the bytes that were set.
 enum class InkNotice {
   None,
-  Damaged,     // part of it is shown
-  Unreadable,  // foreign or of a newer version: nothing can be changed but clearing all of it
+  Damaged,  // what was saved of it is shown
+  Foreign,  // not a note: nothing is shown
+  Newer,    // of a newer version: what is understood is shown
 };
 
 class InkDocument : public QObject {
@@ -25,26 +30,74 @@ class InkDocument : public QObject {
   void SetData(const QByteArray& data);
   // The very bytes that were set while nothing differs from them; none for an empty page.
   QByteArray Data() const;
-  InkNotice Notice() const { return m_notice; }
+  InkNotice Notice() const;
+  // A note that is foreign or newer can only be cleared as a whole.
+  bool IsLocked() const;
 
   const InkNote& Note() const { return m_note; }
-  // Puts another page in the place of this one, as a step that can be undone.
-  void Replace(const InkNote& note);
-
+  // Around all strokes' points.
+  const QRect& InkBounds() const { return m_inkBounds; }
+  const InkTextLayout& TextLayout() const { return m_layout; }
   QUndoStack& Steps() { return m_steps; }
+  const QUndoStack& Steps() const { return m_steps; }
+
+  // The page's width where nothing says otherwise, until there is content.
+  void SetNewPageWidth(quint32 width);
+
+  // Writes a stroke with this pen on top of all others.
+  void AddStroke(InkStroke stroke, const InkPen& pen);
+  // gesture: takes of one number are one step.
+  void Erase(const std::vector<InkStrokePtr>& strokes, int gesture);
+  // Returns the moved strokes.
+  std::vector<InkStrokePtr> Move(const std::vector<InkStrokePtr>& strokes, QPoint by);
+  // Deletes strokes and the text between two positions, as one step.
+  void Delete(const std::vector<InkStrokePtr>& strokes, int from, int to);
+  // Puts the strokes of a fragment on the page, moved, and its text in place of what is between two
+  // positions. Returns the strokes as they are on the page.
+  std::vector<InkStrokePtr> Paste(const InkNote& fragment, QPoint by, int from, int to);
+  // Types a text in place of what is between two positions; ink that lies wholly below the line of
+  // the first one moves with the lines that follow. Typing goes on in one step within a second.
+  void Type(int from, int to, const QString& text);
+  // Shows what an input method composes; it is not part of the page.
+  void SetPreedit(const InkPreedit& preedit);
+
+  // The whole page, also of a note that cannot be read. A step.
+  void ClearAll();
+  // Puts another page in the place of this one. A step.
+  void Replace(const InkNote& note);
 
  Q_SIGNALS:
   // A stroke was written on top of all others; Changed does not come for it.
   void StrokeAdded(const quill::InkStrokePtr& stroke);
-  // What lies in this rectangle (units) has to be painted again.
+  // What lies in this rectangle has to be painted again.
   void Changed(const QRect& area);
-  // After each change of the page, whichever it was.
+  // The text is another one; the caret belongs here.
+  void TextChanged(int caret);
+  // After each change of the page, whichever it was, and after StrokeAdded and Changed.
   void Edited();
 
  private:
+  friend class InkStep;
+
+  void PreparePage();
+  quint32 PenFor(const InkPen& pen);
+  void PushChange(InkChange change, const InkStepKind& kind = {});
+  InkTextChange TextChangeTo(int from, int to, const QString& text);
+  InkText TextAfter(const InkTextChange& change) const;
+  void MoveInkBelow(int line, int lines, InkChange& change) const;
+  void Apply(const InkChange& change);
+  void FollowStrokes(const InkChange& change);
+  QRect ApplyText(const InkTextChange& change);
+  QRect ApplyWhole(const InkNote& note);
+  QRect TextArea() const;
+  QRect WholeArea() const;
+
   InkNote m_note;
+  QRect m_inkBounds;
+  InkTextLayout m_layout;
   QByteArray m_original;
   InkNotice m_notice = InkNotice::None;
+  quint32 m_newPageWidth = kDefaultPageWidth;
   QUndoStack m_steps;
 };
 

@@ -1,0 +1,170 @@
+#include "ink/InkHand.h"
+
+#include <QLineF>
+
+#include <utility>
+
+#include "ink/InkSelect.h"
+#include "platform/Clock.h"
+#include "platform/Services.h"
+
+namespace quill {
+
+namespace {
+
+constexpr qreal kTapDistance = 4;      // window pixels within which a drag is still a tap
+constexpr qreal kEraserRadius = 5;     // window pixels
+constexpr qreal kSelectionMargin = 4;  // window pixels around what is selected, to take hold of it
+
+QPoint Units(QPointF page) { return (page * kInkUnitsPerPixel).toPoint(); }
+
+}  // namespace
+
+InkHand::InkHand(InkDocument& document, InkCanvas& canvas, InkSelection& selection)
+    : m_document(document), m_canvas(canvas), m_selection(selection) {}
+
+void InkHand::SetTask(InkTask task) {
+  Cancel();
+  m_task = task;
+}
+
+QPointF InkHand::PageAt(const InkInput& input) const {
+  return m_canvas.View().PageFromWindow(input.At);
+}
+
+InkHand::Gesture InkHand::GestureFor(const InkInput& input) const {
+  if (m_task == InkTask::Scroll) return Gesture::Scroll;
+  if (m_document.IsLocked()) return Gesture::Scroll;
+  if (input.Device == InkDevice::Eraser) return Gesture::Erase;
+  if (m_task == InkTask::Write) return Gesture::Write;
+  const qreal margin = kSelectionMargin * 100 / m_canvas.View().Zoom();
+  const QRectF selected = QRectF(QPointF(m_selection.Bounds().topLeft()) / kInkUnitsPerPixel,
+                                 QSizeF(m_selection.Bounds().size()) / kInkUnitsPerPixel);
+  const bool isHeld = !m_selection.Strokes().empty() &&
+                      selected.adjusted(-margin, -margin, margin, margin).contains(PageAt(input));
+  return isHeld ? Gesture::MoveSelection : Gesture::Select;
+}
+
+void InkHand::Take(const InkInput& input) {
+  if (input.Phase == InkPhase::Press) return Press(input);
+  if (m_gesture == Gesture::Write) return Write(input);
+  if (m_gesture == Gesture::None) return;
+  input.Phase == InkPhase::Move ? Go(input) : End(input);
+}
+
+// A press while another one is down ends that one.
+void InkHand::Press(const InkInput& input) {
+  if (!IsTouching(input)) return;
+  const Gesture gesture = GestureFor(input);
+  const bool writesOn = m_gesture == Gesture::Write && gesture == Gesture::Write;
+  if (IsDown() && !writesOn) Lift(input);
+  m_gesture = gesture;
+  gesture == Gesture::Write ? Write(input) : Begin(input);
+}
+
+void InkHand::Lift(InkInput input) {
+  if (m_gesture != Gesture::Write) return End(input);
+  input.Phase = InkPhase::Release;
+  input.Device = m_capture.Device();
+  Write(input);
+}
+
+void InkHand::Begin(const InkInput& input) {
+  m_path = {PageAt(input)};
+  m_windowBegin = input.At;
+  m_scrollBegin = m_canvas.View().Scroll();
+  if (m_gesture != Gesture::Scroll) m_lastPlace = m_path.first();
+  if (m_gesture == Gesture::Erase) {
+    ++m_eraseGesture;
+    EraseTo(m_path.first());
+  }
+}
+
+void InkHand::Go(const InkInput& input) {
+  const QPointF at = PageAt(input);
+  if (m_gesture == Gesture::Scroll) {
+    const QPointF way = (m_windowBegin - input.At) * m_canvas.View().DevicePixelRatio();
+    return ScrollAsked(m_scrollBegin + way.toPoint());
+  }
+  if (m_gesture == Gesture::Erase) EraseTo(at);
+  m_path.append(at);
+  if (m_gesture == Gesture::Select) SelectAlongPath();
+  if (m_gesture != Gesture::Erase) AllShown();
+}
+
+void InkHand::End(const InkInput& input) {
+  const Gesture gesture = std::exchange(m_gesture, Gesture::None);
+  const bool isTap = QLineF(m_windowBegin, input.At).length() < kTapDistance && m_path.size() < 8;
+  if (gesture == Gesture::MoveSelection && !isTap) DropSelection();
+  const bool taps = gesture == Gesture::Select || gesture == Gesture::MoveSelection;
+  if (taps && isTap) m_selection.SetCaret(m_document.TextLayout().PositionAt(m_path.first()));
+  m_path.clear();
+  if (taps) AllShown();
+}
+
+void InkHand::Cancel() {
+  if (m_canvas.HasStroke()) Shown(m_canvas.CancelStroke());
+  m_capture.Reset();
+  m_gesture = Gesture::None;
+  m_path.clear();
+}
+
+void InkHand::Write(const InkInput& input) {
+  const bool endless = m_canvas.Paper().IsEndless;
+  const qreal width = static_cast<qreal>(m_document.Note().Page.Width) / kInkUnitsPerPixel;
+  m_capture.SetRightEdge(endless ? std::nullopt : std::optional(width));
+  InkInput onPage = input;
+  onPage.At = PageAt(input);
+  for (const InkCaptured& captured : m_capture.Take(onPage)) Carry(captured);
+  if (!m_capture.IsDown()) m_gesture = Gesture::None;
+}
+
+void InkHand::Carry(const InkCaptured& captured) {
+  if (captured.Action == InkAction::End) return FinishStroke();
+  if (captured.Action == InkAction::Begin) {
+    m_selection.SelectNothing();
+    m_stroke = {.Parts = InkCapture::PartsOf(m_capture.Device()),
+                .Start = g_services.Clock->Now().toMSecsSinceEpoch()};
+    m_canvas.BeginStroke(InkPen{}, m_stroke.Parts);
+  }
+  m_stroke.Points.push_back(captured.Point);
+  m_lastPlace = QPointF(captured.Point.X, captured.Point.Y) / kInkUnitsPerPixel;
+  Shown(m_canvas.ExtendStroke(captured.Point));
+}
+
+void InkHand::FinishStroke() {
+  if (m_stroke.Points.empty()) return;
+  m_document.AddStroke(std::exchange(m_stroke, {}), InkPen{});
+  Wrote(*m_lastPlace);
+}
+
+void InkHand::EraseTo(QPointF at) {
+  const auto radius =
+      static_cast<int>(kEraserRadius * 100 / m_canvas.View().Zoom() * kInkUnitsPerPixel);
+  m_document.Erase(StrokesAlong(m_document.Note(), Units(m_path.last()), Units(at), radius),
+                   m_eraseGesture);
+}
+
+// Text is selected as a line of writing is, ink by what the drag takes in.
+void InkHand::SelectAlongPath() {
+  QPolygon path;
+  for (const QPointF at : m_path) path.append(Units(at));
+  const QPolygon area = DraggedArea(path);
+  m_selection.SelectStrokes(StrokesInside(m_document.Note(), area));
+  const InkTextLayout& layout = m_document.TextLayout();
+  const int anchor = layout.PositionAt(m_path.first());
+  const bool takesText = layout.Bounds().intersects(m_path.boundingRect().adjusted(0, 0, 1, 1));
+  m_selection.SelectText(anchor, takesText ? layout.PositionAt(m_path.last()) : anchor);
+}
+
+void InkHand::DropSelection() {
+  m_selection.SelectStrokes(m_document.Move(m_selection.Strokes(), Units(Dragged())));
+}
+
+QPolygonF InkHand::Lasso() const { return m_gesture == Gesture::Select ? m_path : QPolygonF(); }
+
+QPointF InkHand::Dragged() const {
+  return m_path.isEmpty() ? QPointF() : m_path.last() - m_path.first();
+}
+
+}  // namespace quill

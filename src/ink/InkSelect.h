@@ -1,0 +1,33 @@
+// Which strokes a pen means: those that an eraser touches, those that a drag or a loop takes in.
+// Lengths are units of the page; answers are in painting order.
+#pragma once
+
+#include <QPolygon>
+
+#include "ink/InkNote.h"
+
+namespace quill {
+
+// The strokes whose ink comes nearer to the way from one point to another than the radius.
+std::vector<InkStrokePtr> StrokesAlong(const InkNote& note, QPoint from, QPoint to, int radius);
+
+// The area that a drag takes in: the loop, where it comes back towards its beginning, otherwise the
+// rectangle from its first point to its last.
+QPolygon DraggedArea(const QPolygon& path);
+
+// The strokes with at least half of their points in the area.
+std::vector<InkStrokePtr> StrokesInside(const InkNote& note, const QPolygon& area);
+
+// The topmost stroke whose ink lies within the radius around a point; null when none does.
+InkStrokePtr StrokeAt(const InkNote& note, QPoint at, int radius);
+
+// Around the strokes' points, without their width; empty without strokes.
+QRect BoundsOf(const std::vector<InkStrokePtr>& strokes);
+
+// What has to be painted again when this stroke comes or goes.
+QRect PaintedBounds(const InkNote& note, const InkStroke& stroke);
+
+// The stroke moved by an offset.
+InkStrokePtr MovedStroke(const InkStroke& stroke, QPoint by);
+
+}  // namespace quill
