@@ -55,7 +55,7 @@ void InkDocument::SetData(const QByteArray& data) {
   m_layout.Load(m_note.Text, m_note.Page.RulePitch);
   m_steps.clear();
   Q_EMIT Changed(WholeArea());
-  Q_EMIT TextChanged(0);
+  Q_EMIT TextChanged(static_cast<int>(m_note.Text.Text.size()));
 }
 
 QByteArray InkDocument::Data() const {

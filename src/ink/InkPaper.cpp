@@ -37,7 +37,7 @@ int LineWidth(double scale) { return std::max(1, qRound(scale * kInkUnitsPerPixe
 // Calls with the device pixel of every multiple of a pitch in a range.
 template <typename Found>
 void ForEachStep(double pitch, double scale, int from, int to, Found found) {
-  if (pitch * scale < 2) return;  // too dense to be seen
+  if (pitch * scale < 4) return;  // too dense to be of use
   const auto first = static_cast<qint64>(std::max(1.0, std::floor(from / (pitch * scale))));
   for (qint64 step = first;; ++step) {
     const int at = Device(static_cast<double>(step) * pitch, scale);

@@ -220,8 +220,20 @@ QRectF InkTextLayout::Bounds() const {
   for (const Paragraph& paragraph : m_paragraphs)
     for (int i = 0; i < paragraph.Layout->lineCount(); ++i)
       width = std::max(width, paragraph.Layout->lineAt(i).naturalTextWidth());
-  const Paragraph& last = m_paragraphs.back();
-  return {m_origin.x(), m_origin.y(), width, (last.FirstLine + last.LineCount()) * m_lineHeight};
+  return {m_origin.x(), m_origin.y(), width, LineCount() * m_lineHeight};
+}
+
+std::vector<InkTextLine> InkTextLayout::Lines() const {
+  std::vector<InkTextLine> lines;
+  for (const Paragraph& paragraph : m_paragraphs)
+    for (int i = 0; i < paragraph.Layout->lineCount(); ++i) {
+      const QTextLine line = paragraph.Layout->lineAt(i);
+      const int from = paragraph.Start + line.textStart();
+      const qreal below = TopOfLine(paragraph.FirstLine + i + 1);
+      lines.push_back(
+          {{m_origin.x(), below - kInkBaselineAboveRule}, from, from + line.textLength()});
+    }
+  return lines;
 }
 
 int InkTextLayout::LineOf(int position) const {
@@ -245,9 +257,7 @@ QTextLine InkTextLayout::LineAt(int line) const {
 int InkTextLayout::PositionAt(QPointF at) const {
   if (m_paragraphs.empty()) return 0;
   const qreal wanted = std::floor((at.y() - m_origin.y()) / m_lineHeight);
-  const Paragraph& last = m_paragraphs.back();
-  const int lineCount = last.FirstLine + last.LineCount();
-  const int line = static_cast<int>(std::clamp<qreal>(wanted, 0, lineCount - 1));
+  const int line = static_cast<int>(std::clamp<qreal>(wanted, 0, LineCount() - 1));
   const Paragraph& paragraph = ParagraphOfLine(line);
   const QTextLine shown = LineAt(line);
   if (!shown.isValid()) return paragraph.Start;
@@ -296,6 +306,8 @@ std::vector<QRectF> InkTextLayout::Selection(int from, int to) const {
   return rectangles;
 }
 
+int InkTextLayout::End() const { return m_paragraphs.back().Start + m_paragraphs.back().Size(); }
+
 int InkTextLayout::BesideLine(int position, int line) const {
   const QRectF caret = Caret(position);
   return PositionAt({caret.x(), TopOfLine(line) + m_lineHeight / 2});
@@ -323,15 +335,16 @@ int InkTextLayout::Moved(int position, InkCaretMove move) const {
   switch (move) {
     case InkCaretMove::Up:
       return line == 0 ? 0 : BesideLine(position, line - 1);
-    case InkCaretMove::Down: {
-      const Paragraph& last = m_paragraphs.back();
-      const bool isLast = line + 1 >= last.FirstLine + last.LineCount();
-      return isLast ? last.Start + last.Size() : BesideLine(position, line + 1);
-    }
+    case InkCaretMove::Down:
+      return line + 1 >= LineCount() ? End() : BesideLine(position, line + 1);
     case InkCaretMove::LineStart:
       return paragraph.Start + (shown.isValid() ? shown.textStart() : 0);
     case InkCaretMove::LineEnd:
       return shown.isValid() ? PositionAt({1e6, TopOfLine(line) + 1}) : paragraph.Start;
+    case InkCaretMove::TextStart:
+      return 0;
+    case InkCaretMove::TextEnd:
+      return End();
     default:
       return WordEdge(position, move);
   }

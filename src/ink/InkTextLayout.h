@@ -30,7 +30,25 @@ struct InkPreedit {
   bool operator==(const InkPreedit&) const = default;
 };
 
-enum class InkCaretMove { Left, Right, WordLeft, WordRight, Up, Down, LineStart, LineEnd };
+// A line as it stands on the page, without its line end.
+struct InkTextLine {
+  QPointF Baseline = {};  // its left end
+  int From = 0;
+  int To = 0;
+};
+
+enum class InkCaretMove {
+  Left,
+  Right,
+  WordLeft,
+  WordRight,
+  Up,
+  Down,
+  LineStart,
+  LineEnd,
+  TextStart,
+  TextEnd,
+};
 
 class InkTextLayout {
  public:
@@ -49,6 +67,7 @@ class InkTextLayout {
   qreal LineHeight() const { return m_lineHeight; }
   // 0 without text.
   int LineCount() const;
+  std::vector<InkTextLine> Lines() const;
   int LineOf(int position) const;
   qreal TopOfLine(int line) const;
 
@@ -87,6 +106,7 @@ class InkTextLayout {
   QTextLine LineAt(int line) const;
   int ShownPosition(const Paragraph& paragraph, int position) const;
   int StoredPosition(const Paragraph& paragraph, int shown) const;
+  int End() const;
   int BesideLine(int position, int line) const;
   int WordEdge(int position, InkCaretMove move) const;
 

@@ -1,57 +1,312 @@
 #include "ink/ui/InkX.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <cmath>
+
+#include "ink/InkSelect.h"
+#include "ink/ui/InkClipboard.h"
+#include "ink/ui/InkXParts.h"
+
 namespace quill {
 
-struct InkX::Parts {
-  InkDocument Document;
-  InkAccess Access;
-  int Style = kInkPage;
-  int Zoom = 100;
-  int Wrap = 1;
-  int View = kInkPlainView;
-  int Toggle = kInkPenWrites;
-};
+namespace {
+
+constexpr int kLeastZoom = 25;
+constexpr int kMostZoom = 800;
+constexpr int kBarWidth = 8;        // as wide as the page's margins: it covers no writing at 100 %
+constexpr double kNearEdge = 0.85;  // of the window: whoever writes there needs more room
+constexpr double kAdvance = 0.6;    // of the window
+constexpr QPoint kPasteStep{8, 8};  // page pixels, for each repeat
+
+}  // namespace
 
 InkX::InkX(QWidget* parent, InkAccess access)
-    : QWidget(parent), m_parts(std::make_unique<Parts>()) {
-  m_parts->Access = access;
+    : QWidget(parent), m_parts(std::make_unique<Parts>(access)) {
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_AcceptTouchEvents);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setAttribute(Qt::WA_InputMethodEnabled, access == InkAccess::Write);
+  setTabletTracking(true);
+  AddBars();
+  ConnectDocument();
+  ConnectHand();
+  FollowTask();
 }
 
 InkX::~InkX() = default;
 
+void InkX::AddBars() {
+  m_parts->Vertical = new QScrollBar(Qt::Vertical, this);
+  m_parts->Horizontal = new QScrollBar(Qt::Horizontal, this);
+  m_parts->Map = new InkMapStrip(this, m_parts->Document, m_parts->Canvas);
+  m_parts->Horizontal->hide();
+  m_parts->Map->hide();
+  m_parts->Map->TravelAsked = [this](QPointF page) { CentreOn(page); };
+  for (QScrollBar* bar : {m_parts->Vertical, m_parts->Horizontal}) {
+    bar->setFocusPolicy(Qt::NoFocus);
+    connect(bar, &QScrollBar::valueChanged, this, [this] {
+      ScrollTo({m_parts->Horizontal->value(), m_parts->Vertical->value()});
+    });
+  }
+}
+
+void InkX::ConnectDocument() {
+  InkDocument* const document = &m_parts->Document;
+  connect(document, &InkDocument::StrokeAdded, this, [this](const InkStrokePtr& stroke) {
+    ShowDevice(m_parts->Canvas.TakeStroke(*stroke));
+    m_parts->Map->Repaint(stroke->Bounds);
+  });
+  connect(document, &InkDocument::Changed, this, [this](const QRect& area) {
+    ShowDevice(m_parts->Canvas.Repaint(area));
+    m_parts->Map->Repaint(area);
+  });
+  connect(document, &InkDocument::TextChanged, this,
+          [this](int caret) { m_parts->Selection.SetCaret(caret); });
+  connect(document, &InkDocument::Edited, this, [this] {
+    m_parts->Selection.FollowPage();
+    FollowPage();
+    Q_EMIT changed();
+  });
+}
+
+void InkX::ConnectHand() {
+  InkHand& hand = m_parts->Hand;
+  hand.Shown = [this](const QRect& device) { ShowDevice(device); };
+  hand.AllShown = [this] { update(); };
+  hand.ScrollAsked = [this](QPoint device) { ScrollTo(device); };
+  hand.Wrote = [this](QPointF at) {
+    if (m_parts->View == kInkMapView) AdvanceFrom(at);
+  };
+}
+
 bool InkX::readOnly() const { return m_parts->Access == InkAccess::ReadOnly; }
 
 int InkX::PageStyle() const { return m_parts->Style; }
-void InkX::SetPageStyle(int style) { m_parts->Style = style; }
-int InkX::Zoom() const { return m_parts->Zoom; }
-void InkX::SetZoom(int percent) {
-  m_parts->Zoom = std::clamp(percent, 25, 800);
-  Q_EMIT zoomChanged(m_parts->Zoom);
+
+void InkX::SetPageStyle(int style) {
+  m_parts->Style = style;
+  FollowPaper();
 }
+
+int InkX::Zoom() const { return m_parts->Canvas.View().Zoom(); }
+
+// What was written last stays where it is while it is in view, otherwise the middle.
+void InkX::SetZoom(int percent) {
+  const InkView& view = m_parts->Canvas.View();
+  const QRectF window(Page());
+  QPointF anchor = window.center();
+  if (const auto place = m_parts->Hand.LastPlace())
+    if (const QPointF at = view.WindowFromPage(*place); window.contains(at)) anchor = at;
+  m_parts->Canvas.SetZoom(std::clamp(percent, kLeastZoom, kMostZoom), anchor);
+  FollowPage();
+  update();
+  Q_EMIT zoomChanged(Zoom());
+}
+
 int InkX::Wrap() const { return m_parts->Wrap; }
-void InkX::SetWrap(int flag) { m_parts->Wrap = flag; }
+
+void InkX::SetWrap(int flag) {
+  m_parts->Wrap = flag;
+  FollowPaper();
+}
+
 int InkX::View() const { return m_parts->View; }
-void InkX::SetView(int word) { m_parts->View = word; }
+
+void InkX::SetView(int word) {
+  m_parts->View = word;
+  PlaceBars();
+}
+
 int InkX::Toggle() const { return m_parts->Toggle; }
-void InkX::SetToggle(int word) { m_parts->Toggle = word; }
+
+void InkX::SetToggle(int word) {
+  if (readOnly()) return;
+  m_parts->Toggle = word;
+  FollowTask();
+}
+
+void InkX::FollowTask() {
+  const bool selects = m_parts->Toggle == kInkPenSelects;
+  m_parts->Hand.SetTask(readOnly() ? InkTask::Scroll : selects ? InkTask::Select : InkTask::Write);
+  setCursor(readOnly() ? Qt::OpenHandCursor : selects ? Qt::IBeamCursor : Qt::CrossCursor);
+  m_parts->ShowsCaret = selects;
+  update();
+}
+
+void InkX::FollowPaper() {
+  m_parts->Canvas.SetPaper({.Style = m_parts->Style, .IsEndless = m_parts->Wrap == 0});
+  FollowPage();
+  update();
+}
 
 qsizetype InkX::DataLength() const { return Data().size(); }
 QByteArray InkX::Data() const { return m_parts->Document.Data(); }
-void InkX::SetData(const QByteArray& bytes) { m_parts->Document.SetData(bytes); }
 
-bool InkX::CanUndo() const { return false; }
-bool InkX::CanRedo() const { return false; }
-void InkX::Undo() {}
-void InkX::Redo() {}
-bool InkX::HasSelection() const { return false; }
-bool InkX::CanPaste() const { return false; }
-void InkX::SelectAll() {}
-void InkX::Cut() {}
-void InkX::Copy() {}
-void InkX::Paste() {}
-void InkX::Clear() { SetData({}); }
+void InkX::SetData(const QByteArray& bytes) {
+  m_parts->Hand.Cancel();
+  m_parts->Hand.ForgetPlace();
+  m_parts->Selection.SelectNothing();
+  m_parts->Document.SetData(bytes);
+  m_parts->ShowsCaret = m_parts->Toggle == kInkPenSelects;
+  m_parts->Canvas.RepaintWhole();
+  FollowPage();
+  ScrollTo({0, 0});
+  update();
+  Q_EMIT changed();
+}
+
+bool InkX::CanUndo() const { return !readOnly() && m_parts->Document.Steps().canUndo(); }
+bool InkX::CanRedo() const { return !readOnly() && m_parts->Document.Steps().canRedo(); }
+
+void InkX::Undo() {
+  m_parts->Hand.Cancel();
+  if (CanUndo()) m_parts->Document.Steps().undo();
+}
+
+void InkX::Redo() {
+  m_parts->Hand.Cancel();
+  if (CanRedo()) m_parts->Document.Steps().redo();
+}
+
+bool InkX::HasSelection() const { return !m_parts->Selection.IsEmpty(); }
+
+bool InkX::CanPaste() const {
+  const QMimeData* const held = QGuiApplication::clipboard()->mimeData();
+  return !readOnly() && !m_parts->Document.IsLocked() && held && HoldsInk(*held);
+}
+
+void InkX::SelectAll() {
+  m_parts->Selection.SelectAll();
+  update();
+}
+
+void InkX::Cut() {
+  if (readOnly()) return;
+  Copy();
+  Clear();
+}
+
+void InkX::Copy() {
+  const InkNote fragment = m_parts->Selection.Fragment();
+  if (!fragment.IsEmpty())
+    QGuiApplication::clipboard()->setMimeData(InkMimeData(fragment).release());
+}
+
+void InkX::Paste() {
+  if (!CanPaste()) return;
+  const auto fragment = InkFrom(*QGuiApplication::clipboard()->mimeData());
+  if (!fragment) return;
+  InkSelection& selection = m_parts->Selection;
+  const QPoint by = fragment->Strokes.empty() ? QPoint() : PasteOffset(*fragment);
+  auto pasted = m_parts->Document.Paste(*fragment, by, selection.TextFrom(), selection.TextTo());
+  if (!pasted.empty()) selection.SelectStrokes(std::move(pasted));
+  update();
+}
+
+// From where the fragment's ink is to where it lands: the last tap, or the middle of the window,
+// and further with each repeat. It never lands off the page.
+QPoint InkX::PasteOffset(const InkNote& fragment) {
+  const QPointF centre = m_parts->Canvas.View().PageFromWindow(QRectF(Page()).center());
+  const QPointF place = m_parts->Hand.LastPlace().value_or(centre);
+  m_parts->Pastes = m_parts->PastePlace == place ? m_parts->Pastes + 1 : 0;
+  m_parts->PastePlace = place;
+  const QRect ink = BoundsOf(fragment.Strokes);
+  const QPointF corner = (place + kPasteStep * m_parts->Pastes) * kInkUnitsPerPixel;
+  return QPoint(std::max(0, qRound(corner.x())), std::max(0, qRound(corner.y()))) - ink.topLeft();
+}
+
+void InkX::Clear() {
+  if (readOnly()) return;
+  if (m_parts->Selection.IsAll())
+    m_parts->Document.ClearAll();
+  else
+    m_parts->Typing.DeleteSelection();
+  update();
+}
 
 InkDocument& InkX::Document() { return m_parts->Document; }
 const InkDocument& InkX::Document() const { return m_parts->Document; }
+
+// The part of the control that shows the page.
+QRect InkX::Page() const {
+  return rect().adjusted(0, 0, m_parts->View == kInkMapView ? -kInkMapWidth : 0, 0);
+}
+
+void InkX::ShowDevice(const QRect& device) {
+  if (!device.isEmpty()) update(m_parts->Canvas.View().WindowFromDevice(device));
+}
+
+void InkX::ScrollTo(QPoint device) {
+  m_parts->Canvas.ScrollTo(device);
+  FollowScroll();
+}
+
+void InkX::FollowScroll() {
+  const QSignalBlocker noVertical(m_parts->Vertical);
+  const QSignalBlocker noHorizontal(m_parts->Horizontal);
+  const InkView& view = m_parts->Canvas.View();
+  m_parts->Vertical->setValue(view.Scroll().y());
+  m_parts->Horizontal->setValue(view.Scroll().x());
+  m_parts->Map->FollowView();
+  update();
+}
+
+// How far one can scroll depends on the page and its zoom.
+void InkX::FollowPage() {
+  m_parts->Canvas.FollowExtent();
+  const InkView& view = m_parts->Canvas.View();
+  const QPoint farthest = view.FarthestScroll();
+  const int line = qRound(kDefaultRulePitch * view.Scale());
+  const QSignalBlocker noVertical(m_parts->Vertical);
+  const QSignalBlocker noHorizontal(m_parts->Horizontal);
+  m_parts->Vertical->setRange(0, farthest.y());
+  m_parts->Vertical->setPageStep(std::max(view.WindowSize().height() - line, line));
+  m_parts->Vertical->setSingleStep(line);
+  m_parts->Horizontal->setRange(0, farthest.x());
+  m_parts->Horizontal->setPageStep(std::max(view.WindowSize().width() - line, line));
+  m_parts->Horizontal->setSingleStep(line);
+  if (m_parts->Horizontal->isHidden() == (farthest.x() > 0)) PlaceBars();
+  if (view.Scroll() != QPoint(m_parts->Horizontal->value(), m_parts->Vertical->value()))
+    FollowScroll();
+}
+
+void InkX::PlaceBars() {
+  const QRect page = Page();
+  const bool hasHorizontal = m_parts->Canvas.View().FarthestScroll().x() > 0;
+  const int below = hasHorizontal ? kBarWidth : 0;
+  m_parts->Map->setVisible(m_parts->View == kInkMapView);
+  m_parts->Horizontal->setVisible(hasHorizontal);
+  m_parts->Map->setGeometry(page.right() + 1, 0, kInkMapWidth, height());
+  m_parts->Vertical->setGeometry(page.right() + 1 - kBarWidth, 0, kBarWidth, height() - below);
+  m_parts->Horizontal->setGeometry(0, height() - kBarWidth, page.width(), kBarWidth);
+  m_parts->Document.SetNewPageWidth(static_cast<quint32>(width() * kInkUnitsPerPixel));
+  m_parts->Canvas.SetWindow(page.size(), {kBarWidth, below}, devicePixelRatio());
+  FollowPage();
+}
+
+void InkX::CentreOn(QPointF page) {
+  const InkView& view = m_parts->Canvas.View();
+  const QPointF away = view.WindowFromPage(page) - QRectF(Page()).center();
+  ScrollTo(view.Scroll() + (away * view.DevicePixelRatio()).toPoint());
+}
+
+// Room for the next words: on along the line, or back to the beginning of the next one.
+void InkX::AdvanceFrom(QPointF at) {
+  const InkView& view = m_parts->Canvas.View();
+  const int window = view.WindowSize().width();
+  if (view.WindowFromPage(at).x() * view.DevicePixelRatio() < window * kNearEdge) return;
+  const InkPage& page = m_parts->Document.Note().Page;
+  const int pageEnd = static_cast<int>(std::ceil(page.Width * view.Scale())) - window;
+  const bool isAtEnd = view.Scroll().x() >= pageEnd;
+  const int line = qRound(page.RulePitch * view.Scale());
+  ScrollTo(isAtEnd ? QPoint(0, view.Scroll().y() + line)
+                   : QPoint(std::min(view.Scroll().x() + qRound(window * kAdvance), pageEnd),
+                            view.Scroll().y()));
+}
 
 }  // namespace quill

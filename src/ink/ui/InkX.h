@@ -74,8 +74,39 @@ class InkX : public QWidget {
   // The note is another than before.
   void changed();
 
+ protected:
+  bool event(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+  void wheelEvent(QWheelEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
  private:
   struct Parts;
+
+  void AddBars();
+  void ConnectDocument();
+  void ConnectHand();
+  void FollowTask();
+  void FollowPaper();
+  void FollowPage();
+  void FollowScroll();
+  void PlaceBars();
+  void ScrollTo(QPoint device);
+  void CentreOn(QPointF page);
+  void AdvanceFrom(QPointF at);
+  void ShowDevice(const QRect& device);
+  void ShowCaret();
+  void TakePen(const QEvent& event);
+  bool TakeCommandKey(const QKeyEvent& key);
+  bool TakeScrollKey(const QKeyEvent& key);
+  QPoint PasteOffset(const InkNote& fragment);
+  QRect Page() const;
+
   std::unique_ptr<Parts> m_parts;
 };
 

@@ -1,0 +1,48 @@
+// From a widget's events to what a pen, a finger or a mouse does. It knows what window systems make
+// of a pen: mouse events that repeat it are dropped while it is near, and of several fingers only
+// the first one counts.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+
+#include <optional>
+#include <vector>
+
+#include "ink/InkCapture.h"
+#include "platform/PalmFilter.h"
+
+class QInputEvent;
+class QMouseEvent;
+class QTabletEvent;
+class QTouchEvent;
+
+namespace quill {
+
+class InkEventReader : public QObject {
+ public:
+  InkEventReader();
+
+  // True for events of these devices: they are the reader's, whether something follows or not.
+  static bool Reads(const QEvent& event);
+  // What follows, points in the widget's pixels.
+  std::vector<InkInput> Read(const QEvent& event);
+  // True for an event by which the system takes a touch away.
+  static bool IsCancel(const QEvent& event);
+
+  // Of the application: the coming and going of a pen is told to it alone.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  std::vector<InkInput> ReadTablet(const QTabletEvent& event);
+  std::vector<InkInput> ReadMouse(const QMouseEvent& event) const;
+  std::vector<InkInput> ReadTouch(const QTouchEvent& event);
+  qint64 TimeOf(const QInputEvent& event) const;
+
+  PalmFilter m_pen;
+  bool m_tellsProximity = false;
+  std::optional<int> m_finger;
+  QElapsedTimer m_time;
+};
+
+}  // namespace quill

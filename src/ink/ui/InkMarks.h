@@ -1,0 +1,23 @@
+// What is painted over a page and is no part of it: what is selected, the caret, the way of a drag,
+// and what is to be said of the note. Rectangles are window pixels.
+#pragma once
+
+#include "ink/InkHand.h"
+
+class QPainter;
+
+namespace quill {
+
+inline constexpr int kInkNoticeHeight = 18;
+
+void PaintInkSelection(QPainter& painter, const InkDocument& document,
+                       const InkSelection& selection, const InkView& view, QPointF dragged);
+void PaintInkCaret(QPainter& painter, const InkDocument& document, int caret, const InkView& view);
+void PaintInkLasso(QPainter& painter, const QPolygonF& path, const InkView& view);
+
+// Empty when nothing is to be said.
+QString InkNoticeText(InkNotice notice);
+// Along the top of the window. A note that is not shown is a grey page.
+void PaintInkNotice(QPainter& painter, InkNotice notice, const QRect& window);
+
+}  // namespace quill
