@@ -39,9 +39,8 @@ void InkFixture::Resize(QSize size) {
 QImage InkFixture::Shown() { return m_ink->grab().toImage(); }
 
 void InkFixture::TurnPen(QPointingDevice::PointerType end) {
-  m_pen = std::make_unique<QPointingDevice>(QStringLiteral("pen"), 7,
-                                            QInputDevice::DeviceType::Stylus, end, kPenAbilities,
-                                            1, 2);
+  m_pen = std::make_unique<QPointingDevice>(
+      QStringLiteral("pen"), 7, QInputDevice::DeviceType::Stylus, end, kPenAbilities, 1, 2);
 }
 
 void InkFixture::Tablet(QEvent::Type type, const PenPoint& point, Qt::MouseButtons buttons) {
@@ -58,9 +57,7 @@ void InkFixture::Stroke(const std::vector<PenPoint>& points) {
   Tablet(QEvent::TabletRelease, {points.back().At, 0});
 }
 
-void InkFixture::Line(QPointF from, QPointF to) {
-  Stroke({{from}, {(from + to) / 2}, {to}});
-}
+void InkFixture::Line(QPointF from, QPointF to) { Stroke({{from}, {(from + to) / 2}, {to}}); }
 
 void InkFixture::Mouse(QEvent::Type type, QPointF at) {
   const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
