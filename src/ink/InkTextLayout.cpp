@@ -216,7 +216,7 @@ QRectF InkTextLayout::Bounds() const {
                                m_preedit.Text.isEmpty())) {
     return {};
   }
-  qreal width = 0;
+  qreal width = 1;  // empty lines are there too
   for (const Paragraph& paragraph : m_paragraphs)
     for (int i = 0; i < paragraph.Layout->lineCount(); ++i)
       width = std::max(width, paragraph.Layout->lineAt(i).naturalTextWidth());

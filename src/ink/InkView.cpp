@@ -50,7 +50,8 @@ QSize InkView::WindowSize() const {
   return {RoundUp(m_window.width() * m_ratio), RoundUp(m_window.height() * m_ratio)};
 }
 
-// Half a view lies below the ink, and beside it where the page grows to the right.
+// There is always room for more: half a view below what is there, and beside it where the page grows
+// to the right.
 QPoint InkView::FarthestScroll() const {
   const QSize window = WindowSize();
   const QSize covered(RoundUp(m_covered.width() * m_ratio), RoundUp(m_covered.height() * m_ratio));
@@ -60,7 +61,7 @@ QPoint InkView::FarthestScroll() const {
   int width = std::max(RoundUp(m_extent.PageWidth * Scale()), contentRight);
   if (m_extent.GrowsRight) width = std::max(width, contentRight + window.width() / 2);
   if (width > window.width()) width += covered.width();
-  const int height = std::max(window.height(), contentBottom + window.height() / 2);
+  const int height = std::max(window.height(), contentBottom) + window.height() / 2;
   return {std::max(width - window.width(), 0),
           std::max(height + covered.height() - window.height(), 0)};
 }

@@ -31,6 +31,12 @@ InkFixture::~InkFixture() {
   g_services = {};
 }
 
+QScrollBar& InkFixture::Bar(Qt::Orientation orientation) {
+  for (QScrollBar* bar : m_ink->findChildren<QScrollBar*>())
+    if (bar->orientation() == orientation) return *bar;
+  qFatal("no such bar");
+}
+
 void InkFixture::Resize(QSize size) {
   m_window->resize(size);
   m_ink->setGeometry(QRect(QPoint(), size));

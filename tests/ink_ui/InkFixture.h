@@ -3,6 +3,7 @@
 
 #include <QImage>
 #include <QPointingDevice>
+#include <QScrollBar>
 #include <QTabletEvent>
 
 #include <gtest/gtest.h>
@@ -29,17 +30,18 @@ class InkFixture : public testing::Test {
   InkX& Ink() { return *m_ink; }
   const InkNote& Note() const { return m_ink->Document().Note(); }
   QString Text() const { return Note().Text.Text; }
+  QScrollBar& Bar(Qt::Orientation orientation);
   void Resize(QSize size);
   QImage Shown();
 
   // A stroke of the pen's tip, or of another end or device.
   void Stroke(const std::vector<PenPoint>& points);
   void Line(QPointF from, QPointF to);
+  void Tap(QPointF at) { Stroke({{at}}); }
   void Tablet(QEvent::Type type, const PenPoint& point, Qt::MouseButtons buttons = Qt::LeftButton);
   void TurnPen(QPointingDevice::PointerType end);
   void Mouse(QEvent::Type type, QPointF at);
   void DragMouse(QPointF from, QPointF to);
-  void TapMouse(QPointF at) { DragMouse(at, at); }
 
   void Key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString& text = {});
   void Type(const QString& text);

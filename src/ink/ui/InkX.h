@@ -69,6 +69,8 @@ class InkX : public QWidget {
   InkDocument& Document();
   const InkDocument& Document() const;
 
+  QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+
  Q_SIGNALS:
   void zoomChanged(int percent);
   // The note is another than before.
@@ -78,10 +80,10 @@ class InkX : public QWidget {
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
-  QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
   void wheelEvent(QWheelEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 

@@ -102,19 +102,13 @@ void InkX::inputMethodEvent(QInputMethodEvent* event) {
 }
 
 QVariant InkX::inputMethodQuery(Qt::InputMethodQuery query) const {
+  if (query == Qt::ImEnabled && readOnly()) return false;
   if (query == Qt::ImCursorRectangle) {
     const QRectF caret = m_parts->Document.TextLayout().Caret(m_parts->Selection.Caret());
     return m_parts->Canvas.View().WindowFromPage(caret);
   }
   const QVariant answer = m_parts->Typing.Query(query);
   return answer.isValid() ? answer : QWidget::inputMethodQuery(query);
-}
-
-void InkX::ShowCaret() {
-  m_parts->ShowsCaret = true;
-  FollowPage();
-  m_parts->Canvas.Show(m_parts->Document.TextLayout().Caret(m_parts->Selection.Caret()));
-  FollowScroll();
 }
 
 // With Ctrl it zooms; what is under the pointer is not what one writes at, so the middle stays.
@@ -144,6 +138,7 @@ void InkX::paintEvent(QPaintEvent* event) {
 }
 
 void InkX::resizeEvent(QResizeEvent*) { PlaceBars(); }
+void InkX::showEvent(QShowEvent*) { PlaceBars(); }
 void InkX::focusInEvent(QFocusEvent*) { update(); }
 void InkX::focusOutEvent(QFocusEvent*) { update(); }
 
