@@ -50,8 +50,8 @@ QSize InkView::WindowSize() const {
   return {RoundUp(m_window.width() * m_ratio), RoundUp(m_window.height() * m_ratio)};
 }
 
-// There is always room for more: half a view below what is there, and beside it where the page grows
-// to the right.
+// There is always room for more: half a view below what is there, and beside it where the page
+// grows to the right.
 QPoint InkView::FarthestScroll() const {
   const QSize window = WindowSize();
   const QSize covered(RoundUp(m_covered.width() * m_ratio), RoundUp(m_covered.height() * m_ratio));

@@ -158,7 +158,8 @@ TEST_P(InkXBytes, AreEmptiedBySelectingAllAndClearing) {
 INSTANTIATE_TEST_SUITE_P(
     Bytes, InkXBytes,
     testing::Values(BytesCase{"own", [](const QByteArray& whole) { return whole; }},
-                    BytesCase{"foreign", [](const QByteArray&) { return QByteArray("{\\rtf1 x}"); }},
+                    BytesCase{"foreign",
+                              [](const QByteArray&) { return QByteArray("{\\rtf1 x}"); }},
                     BytesCase{"cut", [](const QByteArray& whole) { return whole.chopped(9); }},
                     BytesCase{"changed",
                               [](const QByteArray& whole) {
