@@ -24,8 +24,8 @@ QByteArrayView InkSignature();
 quint32 InkCheckSum(QByteArrayView bytes);
 
 struct InkChunk {
-  QByteArrayView Type;
-  QByteArrayView Payload;
+  QByteArrayView Type = {};
+  QByteArrayView Payload = {};
   bool IsSound = false;  // the check sum is right, and the type is letters
   qsizetype Start = 0;   // where it begins in the bytes
 };

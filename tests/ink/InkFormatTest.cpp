@@ -2,51 +2,128 @@
 
 #include <gtest/gtest.h>
 
-namespace quill {
+#include "ink/InkChunks.h"
+#include "ink/InkSamples.h"
+
+namespace quill::test {
 namespace {
 
-// A note that another program wrote as well.
-const QByteArray kSample = QByteArray::fromHex(
-    "89494e4b580d0a1a2800000048454144010000002000000000"
-    "1e0000000500000003000010010000640000000000000000000000010000009ef1e09f"
-    "0800000050454e5301402010ff400019cca7040e"
-    "13000000544558540180040080380248690102"
-    "00c0030000 00ff00951c1d4f1b 0000005354524b00 010003d00f048005"
-    "800a402020101f2f 00800800b7060a00 01021de746f00800 0000454e44460400 00001566bf12cb34 c152");
-
-InkNote SampleNote() {
+// Three chunks of strokes, one after the other down the page.
+InkNote NoteOfManyStrokes() {
   InkNote note;
-  note.Page = {.Width = 7680, .ContentHeight = 1280, .RulePitch = 768};
-  note.Pens = {{.Color = 0xFF102040, .Diameter = 64, .MinimumWidth = 25}};
-  note.Text = {.X = 256,
-               .Y = 0,
-               .WrapWidth = 7168,
-               .Text = QStringLiteral("Hi"),
-               .Runs = {{.Length = 2, .Size = 448, .Color = 0xFF000000}}};
-  note.Strokes = {SealInkStroke({.Parts = kInkHasPressure | kInkHasTime,
-                                 .Start = 1000,
-                                 .Points = {{.X = 320, .Y = 640, .Pressure = 0, .Time = 0},
-                                            {.X = 352, .Y = 648, .Pressure = 512, .Time = 5},
-                                            {.X = 400, .Y = 640, .Pressure = 512, .Time = 10},
-                                            {.X = 464, .Y = 608, .Pressure = 100, .Time = 16}}})};
+  note.Pens = {InkPen{}};
+  for (int i = 0; i < 150; ++i) {
+    note.Strokes.push_back(SealInkStroke({.Parts = kInkHasTime,
+                                          .Start = 400 * i,
+                                          .Points = {{.X = 20, .Y = 30 * i},
+                                                     {.X = 25, .Y = 30 * i + 7, .Time = 8},
+                                                     {.X = 31, .Y = 30 * i, .Time = 16}}}));
+  }
   return note;
 }
 
 TEST(InkFormat, TheSampleIsWrittenByteByByte) {
-  ASSERT_EQ(kSample.size(), 170);
-  EXPECT_EQ(WriteInk(SampleNote(), InkCodec::Raw).toHex(), kSample.toHex());
+  ASSERT_EQ(SampleNoteBytes().size(), 170);
+  EXPECT_EQ(WriteInk(SampleNote(), InkCodec::Raw).toHex(), SampleNoteBytes().toHex());
 }
 
 TEST(InkFormat, TheSampleIsRead) {
-  const InkContent content = ReadInk(kSample);
+  const InkContent content = ReadInk(SampleNoteBytes());
   EXPECT_EQ(content.Reading, InkReading::Whole);
   EXPECT_EQ(content.SkippedChunks, 0);
-  EXPECT_EQ(content.Note.Page, SampleNote().Page);
-  EXPECT_EQ(content.Note.Pens, SampleNote().Pens);
-  EXPECT_EQ(content.Note.Text, SampleNote().Text);
-  ASSERT_EQ(content.Note.Strokes.size(), 1U);
-  EXPECT_EQ(*content.Note.Strokes[0], *SampleNote().Strokes[0]);
+  EXPECT_FALSE(content.Incomplete);
+  EXPECT_TRUE(SameInk(content.Note, SampleNote()));
+}
+
+TEST(InkFormat, APageWithNothingOnItIsNoBytes) {
+  InkNote note = SampleNote();
+  note.Strokes.clear();
+  note.Text.Text.clear();
+  EXPECT_EQ(WriteInk(note).size(), 0);
+  EXPECT_EQ(ReadInk({}).Reading, InkReading::Empty);
+  EXPECT_TRUE(ReadInk({}).Note.IsEmpty());
+}
+
+class InkRoundTrip : public testing::TestWithParam<unsigned> {};
+
+TEST_P(InkRoundTrip, EveryNoteIsReadAsItWasWritten) {
+  const InkNote note = RandomNote(GetParam());
+  for (const InkCodec codec : {InkCodec::Raw, InkCodec::Shorter}) {
+    const InkContent content = ReadInk(WriteInk(note, codec));
+    EXPECT_EQ(content.Reading, InkReading::Whole);
+    EXPECT_TRUE(SameInk(content.Note, note));
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, InkRoundTrip, testing::Range(1U, 60U));
+
+// Strokes of all chunks that end before the cut.
+std::size_t WholeStrokesBefore(const QByteArray& bytes) {
+  std::size_t strokes = 0;
+  InkChunkWalk walk(bytes);
+  while (const auto chunk = walk.Next()) {
+    if (chunk->Type == InkChunkType::kStrokes) strokes += static_cast<uchar>(chunk->Payload[1]);
+  }
+  return strokes;
+}
+
+class InkDamage : public testing::TestWithParam<QByteArray> {};
+
+TEST_P(InkDamage, CutAnywhereItShowsEveryWholeChunkBefore) {
+  const QByteArray whole = GetParam();
+  const InkNote note = ReadInk(whole).Note;
+  for (qsizetype size = 1; size < whole.size(); ++size) {
+    const QByteArray cut = whole.left(size);
+    const InkContent content = ReadInk(cut);
+    const bool hasSignature = size >= InkSignature().size();
+    ASSERT_EQ(content.Reading, hasSignature ? InkReading::Damaged : InkReading::Foreign) << size;
+    ASSERT_EQ(content.Incomplete, hasSignature) << size;
+    ASSERT_EQ(content.Note.Strokes.size(), hasSignature ? WholeStrokesBefore(cut) : 0U) << size;
+    for (std::size_t i = 0; i < content.Note.Strokes.size(); ++i) {
+      ASSERT_EQ(*content.Note.Strokes[i], *note.Strokes[i]) << size;
+    }
+  }
+}
+
+TEST_P(InkDamage, EveryFlippedBitIsFound) {
+  const QByteArray whole = GetParam();
+  ASSERT_EQ(ReadInk(whole).Reading, InkReading::Whole);
+  for (qsizetype bit = 0; bit < 8 * whole.size(); ++bit) {
+    QByteArray flipped = whole;
+    flipped[bit / 8] = static_cast<char>(flipped[bit / 8] ^ (1 << (bit % 8)));
+    const InkReading expected =
+        bit / 8 < InkSignature().size() ? InkReading::Foreign : InkReading::Damaged;
+    ASSERT_EQ(ReadInk(flipped).Reading, expected) << bit;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Notes, InkDamage,
+                         testing::Values(SampleNoteBytes(),
+                                         WriteInk(NoteOfManyStrokes(), InkCodec::Raw)),
+                         [](const auto& note) {
+                           return "NoteOf" + std::to_string(note.param.size()) + "Bytes";
+                         });
+
+TEST(InkFormat, AnOpenNoteTakesMoreStrokesBehindIt) {
+  const InkNote whole = NoteOfManyStrokes();
+  InkNote begun = whole;
+  begun.Strokes.resize(148);
+  QByteArray bytes = WriteOpenInk(begun);
+  bytes += WriteInkStroke(whole, whole.Strokes[148]);
+  bytes += WriteInkStroke(whole, whole.Strokes[149]);
+  const InkContent content = ReadInk(bytes);
+  EXPECT_EQ(content.Reading, InkReading::Damaged);
+  EXPECT_EQ(content.SkippedChunks, 0);
+  EXPECT_TRUE(content.Incomplete);
+  EXPECT_TRUE(SameInk(content.Note, whole));
+}
+
+TEST(InkFormat, AnOpenNoteWithNothingOnItHasItsPage) {
+  InkNote note;
+  note.Page.Created = 77;
+  const QByteArray bytes = WriteOpenInk(note);
+  EXPECT_EQ(ReadInk(bytes).Note.Page.Created, 77U);
 }
 
 }  // namespace
-}  // namespace quill
+}  // namespace quill::test
