@@ -36,6 +36,19 @@ bool DesktopRecoveryFiles::Write(const QString& name, const QByteArray& content)
   return false;
 }
 
+bool DesktopRecoveryFiles::Append(const QString& name, const QByteArray& bytes) {
+  QFile file(FileOf(name));
+  const bool opened =
+      QFileInfo(file).isFile() &&
+      file.open(QIODevice::Append | QIODevice::ExistingOnly | QIODevice::Unbuffered);
+  const qint64 size = file.size();
+  if (opened && file.write(bytes) == bytes.size()) return true;
+  qCWarning(logRecovery) << "cannot add to" << file.fileName() << file.errorString();
+  // Half of them would hide what comes behind.
+  if (opened && file.size() != size) file.resize(size);
+  return false;
+}
+
 bool DesktopRecoveryFiles::Remove(const QString& name) {
   QFile file(FileOf(name));
   if (!file.exists() || file.remove()) return true;

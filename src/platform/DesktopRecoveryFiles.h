@@ -13,6 +13,7 @@ class DesktopRecoveryFiles : public RecoveryFiles {
 
   std::optional<QByteArray> Read(const QString& name) const override;
   bool Write(const QString& name, const QByteArray& content) override;
+  bool Append(const QString& name, const QByteArray& bytes) override;
   bool Remove(const QString& name) override;
   bool SetAside(const QString& name) override;
 

@@ -24,6 +24,15 @@ TEST_F(DesktopRecoveryFilesTest, AFileIsThereForTheNextRun) {
   EXPECT_EQ(Names(), QStringList(u"recovery-a.json"_qs));
 }
 
+TEST_F(DesktopRecoveryFilesTest, BytesAreAddedToAFileThatIsThere) {
+  EXPECT_FALSE(m_files.Append(u"a.json"_qs, "none"));
+  EXPECT_TRUE(Names().isEmpty());
+  ASSERT_TRUE(m_files.Write(u"a.json"_qs, "a"));
+  EXPECT_TRUE(m_files.Append(u"a.json"_qs, "b"));
+  EXPECT_TRUE(m_files.Append(u"a.json"_qs, "c"));
+  EXPECT_EQ(m_files.Read(u"a.json"_qs), QByteArray("abc"));
+}
+
 TEST_F(DesktopRecoveryFilesTest, ARemovedFileIsGoneAndMayBeRemovedAgain) {
   ASSERT_TRUE(m_files.Write(u"a.json"_qs, "a"));
   EXPECT_TRUE(m_files.Remove(u"a.json"_qs));
@@ -44,6 +53,7 @@ TEST_F(DesktopRecoveryFilesTest, WhatCannotBeDoneIsSaid) {
   ASSERT_TRUE(QDir(m_folder.path()).mkdir(u"recovery-a.json"_qs));
   EXPECT_EQ(m_files.Read(u"a.json"_qs), std::nullopt);
   EXPECT_FALSE(m_files.Write(u"a.json"_qs, "a"));
+  EXPECT_FALSE(m_files.Append(u"a.json"_qs, "a"));
   EXPECT_FALSE(m_files.Remove(u"a.json"_qs));
 }
 
