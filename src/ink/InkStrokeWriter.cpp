@@ -77,7 +77,7 @@ void WriteTimes(InkByteWriter& writer, std::span<const InkPoint> points) {
 }  // namespace
 
 InkStrokeChunkWriter::InkStrokeChunkWriter(quint64 created, std::size_t pens)
-    : m_pens(pens), m_lastStart(std::min(static_cast<qint64>(created), kLatestInk)) {}
+    : m_pens(pens), m_lastStart(static_cast<qint64>(std::min<quint64>(created, kLatestInk))) {}
 
 void InkStrokeChunkWriter::Add(const InkStroke& stroke) {
   const InkPoint& first = stroke.Points.front();
