@@ -12,8 +12,8 @@ namespace quill {
 //
 // Round ink lies over what is there, a highlighter is multiplied with it; the alpha of the pen's
 // colour thins both. The picture is Format_RGB32 with its alpha bytes 255, or
-// Format_ARGB32_Premultiplied; other formats stay as they are. Each channel is the exact result,
-// rounded once.
+// Format_ARGB32_Premultiplied; other formats stay as they are. Coverage times alpha is rounded to a
+// byte, then each channel of the result.
 void ComposeInk(QImage& image, const QPoint& origin, const InkMask& mask, const QRect& area,
                 const InkPen& pen);
 

@@ -7,7 +7,7 @@
 
 #include <QImage>
 
-#include "ink/InkNote.h"
+#include "ink/InkGeometry.h"
 
 namespace quill {
 
