@@ -12,28 +12,31 @@ void InkLiveStroke::Begin(const InkPen& pen, double scale, quint8 parts, const Q
   ClearMask(area);
 }
 
+// Much of the tail before is under the curve that replaces it, and need not be shown again.
 QRect InkLiveStroke::Add(const InkPoint& point) {
   if (!IsDown()) return {};
-  QRect shown = TailArea();
+  const InkCapsule tailBefore = m_points.empty() ? InkCapsule{} : m_shaper->Tail();
+  QRect near = TailArea();
   m_points.push_back(point);
-  shown |= AddToMask(point);
-  return shown | TailArea();
+  const auto capsules = m_shaper->Add(point);
+  for (const InkCapsule& capsule : capsules) near |= InkCapsuleArea(capsule);
+  near = (near | TailArea()) & m_mask.Area();
+  const InkMask before = Shown(near, tailBefore);
+  AddToMask(capsules);
+  return Shown(near, m_shaper->Tail()).Difference(before);
 }
 
 void InkLiveStroke::MoveTo(double scale, const QRect& area) {
   if (!IsDown()) return;
   m_shaper.emplace(m_pen, scale, m_parts);
   ClearMask(area);
-  for (const InkPoint& point : m_points) AddToMask(point);
+  for (const InkPoint& point : m_points) AddToMask(m_shaper->Add(point));
 }
 
 void InkLiveStroke::PaintOver(QImage& piece, const QPoint& origin, const QRect& area) const {
   const QRect shown = IsDown() ? area & (m_touched | TailArea()) : QRect();
   if (shown.isEmpty()) return;
-  InkMask mask(shown);
-  mask.Join(m_mask);
-  mask.Add(m_shaper->Tail());
-  ComposeInk(piece, origin, mask, shown, m_pen);
+  ComposeInk(piece, origin, Shown(shown, m_shaper->Tail()), shown, m_pen);
 }
 
 QRect InkLiveStroke::Finish(QImage& cache, const QPoint& origin) {
@@ -49,11 +52,15 @@ QRect InkLiveStroke::Cancel() {
   return End();
 }
 
-QRect InkLiveStroke::AddToMask(const InkPoint& point) {
-  QRect touched;
-  for (const InkCapsule& capsule : m_shaper->Add(point)) touched |= m_mask.Add(capsule);
-  m_touched |= touched;
-  return touched;
+void InkLiveStroke::AddToMask(std::span<const InkCapsule> capsules) {
+  for (const InkCapsule& capsule : capsules) m_touched |= m_mask.Add(capsule);
+}
+
+InkMask InkLiveStroke::Shown(const QRect& area, const InkCapsule& tail) const {
+  InkMask mask(area);
+  mask.Join(m_mask);
+  mask.Add(tail);
+  return mask;
 }
 
 QRect InkLiveStroke::TailArea() const {

@@ -26,7 +26,8 @@ class InkLiveStroke {
   bool IsDown() const { return m_shaper.has_value(); }
   const InkPen& Pen() const { return m_pen; }
 
-  // The pen went on. Returns what has to be shown again. Without Begin nothing happens.
+  // The pen went on. Returns what has to be shown again, the smallest rectangle for which that is
+  // true. Without Begin nothing happens.
   QRect Add(const InkPoint& point);
 
   // The view scrolled or zoomed while the pen is down; the stroke so far is shaped again. What is
@@ -42,7 +43,8 @@ class InkLiveStroke {
   QRect Cancel();
 
  private:
-  QRect AddToMask(const InkPoint& point);
+  void AddToMask(std::span<const InkCapsule> capsules);
+  InkMask Shown(const QRect& area, const InkCapsule& tail) const;
   QRect TailArea() const;
   QRect End();
   void ClearMask(const QRect& area);

@@ -189,6 +189,23 @@ void InkMask::Join(const InkMask& other) {
   }
 }
 
+QRect InkMask::Difference(const InkMask& other) const {
+  QRect changed;
+  const int width = m_area.width();
+  for (int y = m_area.top(); y <= m_area.bottom(); ++y) {
+    const uchar* const row = Row(m_area.left(), y);
+    const uchar* const end = row + width;
+    const uchar* const otherRow = other.Row(m_area.left(), y);
+    const uchar* const first = std::mismatch(row, end, otherRow).first;
+    if (first == end) continue;
+    const uchar* last = end - 1;
+    while (*last == otherRow[last - row]) --last;
+    changed |= QRect(QPoint(m_area.left() + static_cast<int>(first - row), y),
+                     QPoint(m_area.left() + static_cast<int>(last - row), y));
+  }
+  return changed;
+}
+
 void InkMask::Clear(const QRect& area) {
   const QRect cleared = area & m_area;
   for (int y = cleared.top(); y <= cleared.bottom(); ++y) {

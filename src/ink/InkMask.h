@@ -29,6 +29,8 @@ class InkMask {
   QRect Add(const InkCapsule& capsule);
   // Takes what another mask covers, where the two overlap.
   void Join(const InkMask& other);
+  // The smallest rectangle around the bytes that are others than in a mask of the same area.
+  QRect Difference(const InkMask& other) const;
   // Nothing is covered there any more.
   void Clear(const QRect& area);
 

@@ -79,6 +79,17 @@ QImage Shown(const InkLiveStroke& live) {
   return image;
 }
 
+// The smallest rectangle around the pixels that differ.
+QRect ChangedArea(const QImage& before, const QImage& after) {
+  QRect changed;
+  for (int y = 0; y < before.height(); ++y) {
+    for (int x = 0; x < before.width(); ++x) {
+      if (before.pixel(x, y) != after.pixel(x, y)) changed |= QRect(x, y, 1, 1);
+    }
+  }
+  return changed;
+}
+
 QImage Rendered(const InkStroke& stroke, const InkPen& pen = {}) {
   InkNote note;
   note.Pens = {pen};
@@ -214,12 +225,28 @@ TEST(InkLiveStroke, OnlyWhatIsInTheViewIsShown) {
   EXPECT_EQ(cache, Rendered(stroke).copy(view));
 }
 
-TEST(InkLiveStroke, AMoveShowsTheStrokesEndOnly) {
+// Black on white, so that each step of coverage is a colour of its own.
+TEST(InkLiveStroke, AMoveShowsNoMoreThanWhatChanges) {
+  const InkStroke stroke = Scribble(40, 14);
+  InkLiveStroke live;
+  live.Begin({.Color = 0xFF000000}, kScale, stroke.Parts, kView);
+  QImage white = Paper();
+  white.fill(Qt::white);
+  QImage before = white;
+  for (const InkPoint& point : stroke.Points) {
+    const QRect again = live.Add(point);
+    QImage after = white;
+    live.PaintOver(after, {}, kView);
+    ASSERT_EQ(again, ChangedArea(before, after));
+    before = after;
+  }
+}
+
+TEST(InkLiveStroke, AStraightMoveShowsItsEndOnly) {
   InkLiveStroke live;
   live.Begin(InkPen{}, kScale, 0, kView);
   for (int x = 10; x <= 150; x += 10) live.Add(At(x, 50));
-  const QRect again = live.Add(At(160, 50));
-  EXPECT_EQ(again, QRect(QPoint(144, 49), QPoint(160, 50)));
+  EXPECT_EQ(live.Add(At(160, 50)), QRect(QPoint(150, 49), QPoint(160, 50)));
 }
 
 }  // namespace

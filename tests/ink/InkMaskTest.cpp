@@ -182,6 +182,19 @@ TEST(InkMask, JoinsOnlyWhereTheOtherLies) {
   EXPECT_EQ(CountCovered(mask), 4);
 }
 
+TEST(InkMask, DifferenceIsTheRectangleAroundOtherBytes) {
+  InkMask before(kField);
+  before.Add({0, 0, 9, 0, 0, 9});
+  InkMask after = before;
+  EXPECT_TRUE(after.Difference(before).isEmpty());
+  after.Add({-20.5, 5.5, 0.5, -20.5, 5.5, 0.5});
+  EXPECT_EQ(after.Difference(before), QRect(-21, 5, 1, 1));
+  after.Add({30, -10, 3, 30, -10, 3});
+  EXPECT_EQ(after.Difference(before), QRect(QPoint(-21, -13), QPoint(32, 5)));
+  EXPECT_EQ(before.Difference(after), after.Difference(before));
+  EXPECT_TRUE(InkMask().Difference(InkMask()).isEmpty());
+}
+
 TEST(InkMask, ClearingTakesAwayJustThat) {
   InkMask mask(QRect(0, 0, 10, 10));
   mask.Add({5, 5, 20, 5, 5, 20});
