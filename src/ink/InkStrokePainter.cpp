@@ -5,38 +5,60 @@
 namespace quill {
 namespace {
 
-// What strokes are painted onto.
-struct Sheet {
-  QImage& Image;
-  QPoint Origin;
+// A stroke of which something lies in the area.
+struct Hit {
+  const InkStroke* Stroke = nullptr;
+  InkPen Pen;
   QRect Area;
-  double Scale;
 };
 
-Sheet SheetOf(QImage& image, const QPoint& origin, const QRect& area, double scale) {
-  return {image, origin, area & QRect(origin, image.size()), scale};
-}
+// Both kinds, each in its order.
+struct Hits {
+  std::vector<Hit> Highlighters;
+  std::vector<Hit> Round;
+};
 
-// Each stroke is one mask, composed once.
-void PaintStroke(const Sheet& sheet, const InkStroke& stroke, const InkPen& pen, InkMask& mask) {
-  const QRect area = InkStrokeArea(stroke, pen, sheet.Scale) & sheet.Area;
-  if (area.isEmpty() || stroke.Points.empty()) return;
-  mask.Reset(area);
-  InkShaper shaper(pen, sheet.Scale, stroke.Parts);
-  for (const InkPoint& point : stroke.Points) {
-    for (const InkCapsule& capsule : shaper.Add(point)) mask.Add(capsule);
-  }
-  mask.Add(shaper.Tail());
-  ComposeInk(sheet.Image, sheet.Origin, mask, area, pen);
-}
+// Paints onto one picture with one scale.
+class Painter {
+ public:
+  Painter(QImage& image, const QPoint& origin, double scale)
+      : m_image(image), m_origin(origin), m_scale(scale) {}
 
-void PaintTip(const Sheet& sheet, const InkNote& note, InkTip tip, InkMask& mask) {
-  if (sheet.Area.isEmpty()) return;
-  for (const InkStrokePtr& stroke : note.Strokes) {
-    const InkPen pen = InkPenOf(note, *stroke);
-    if (pen.Tip == tip) PaintStroke(sheet, *stroke, pen, mask);
+  Hits Find(const QRect& area, const InkNote& note) const {
+    Hits hits;
+    const QRect painted = area & QRect(m_origin, m_image.size());
+    if (painted.isEmpty()) return hits;
+    for (const InkStrokePtr& stroke : note.Strokes) {
+      const InkPen pen = InkPenOf(note, *stroke);
+      const QRect touched = InkStrokeArea(*stroke, pen, m_scale) & painted;
+      if (touched.isEmpty() || stroke->Points.empty()) continue;
+      auto& kind = pen.Tip == InkTip::Highlighter ? hits.Highlighters : hits.Round;
+      kind.push_back({stroke.get(), pen, touched});
+    }
+    return hits;
   }
-}
+
+  void Paint(const std::vector<Hit>& hits) {
+    for (const Hit& hit : hits) PaintStroke(hit);
+  }
+
+ private:
+  // Each stroke is one mask, composed once.
+  void PaintStroke(const Hit& hit) {
+    m_mask.Reset(hit.Area);
+    InkShaper shaper(hit.Pen, m_scale, hit.Stroke->Parts);
+    for (const InkPoint& point : hit.Stroke->Points) {
+      for (const InkCapsule& capsule : shaper.Add(point)) m_mask.Add(capsule);
+    }
+    m_mask.Add(shaper.Tail());
+    ComposeInk(m_image, m_origin, m_mask, hit.Area, hit.Pen);
+  }
+
+  QImage& m_image;
+  QPoint m_origin;
+  double m_scale;
+  InkMask m_mask;
+};
 
 }  // namespace
 
@@ -46,22 +68,22 @@ InkPen InkPenOf(const InkNote& note, const InkStroke& stroke) {
 
 void PaintStrokes(QImage& image, const QPoint& origin, const QRect& area, double scale,
                   const InkNote& note) {
-  InkMask mask;
-  const Sheet sheet = SheetOf(image, origin, area, scale);
-  PaintTip(sheet, note, InkTip::Highlighter, mask);
-  PaintTip(sheet, note, InkTip::Round, mask);
+  Painter painter(image, origin, scale);
+  const Hits hits = painter.Find(area, note);
+  painter.Paint(hits.Highlighters);
+  painter.Paint(hits.Round);
 }
 
 void PaintHighlighters(QImage& image, const QPoint& origin, const QRect& area, double scale,
                        const InkNote& note) {
-  InkMask mask;
-  PaintTip(SheetOf(image, origin, area, scale), note, InkTip::Highlighter, mask);
+  Painter painter(image, origin, scale);
+  painter.Paint(painter.Find(area, note).Highlighters);
 }
 
 void PaintRoundStrokes(QImage& image, const QPoint& origin, const QRect& area, double scale,
                        const InkNote& note) {
-  InkMask mask;
-  PaintTip(SheetOf(image, origin, area, scale), note, InkTip::Round, mask);
+  Painter painter(image, origin, scale);
+  painter.Paint(painter.Find(area, note).Round);
 }
 
 }  // namespace quill
