@@ -1,8 +1,7 @@
 #include "platform/ChromeLayout.h"
 
+#include <algorithm>
 #include <cmath>
-
-#include "resources/Ids.h"
 
 namespace quill {
 
@@ -19,7 +18,7 @@ constexpr int kOKWidth = 30;
 constexpr int kCloseWidth = 22;
 constexpr int kBarPadding = 7;  // left and right of a menu's title
 constexpr int kPictureSize = 14;
-constexpr int kPanelWidth = 26;
+constexpr int kPictureButtonWidth = 26;
 
 QRect PictureArea(QRect area) {
   return {area.left() + (area.width() - kPictureSize) / 2,
@@ -61,15 +60,20 @@ PaintedRow BarRow(QRect area, int key, const MenuItem& button, bool pressed) {
   return row;
 }
 
-void AddPanelButton(PaintedRow& row, Rgb color) {
-  row.Items.push_back({.Rectangle = PictureArea(row.Rectangle),
-                       .Color = color,
-                       .Picture = &resources::kKeyboardPicture});
+void AddBarPicture(PaintedRow& row, const resources::Picture* picture, Rgb color) {
+  row.Items.push_back(
+      {.Rectangle = PictureArea(row.Rectangle), .Color = color, .Picture = picture});
 }
 
 void AddBarText(PaintedRow& row, const QString& text, Rgb color) {
   row.Items.push_back(
       {.Rectangle = row.Rectangle, .Text = text, .Alignment = TextAlign::Centre, .Color = color});
+}
+
+// Where the first of the buttons with a picture begins, so that the last one ends at the right.
+int PicturesLeft(const MenuBarModel& model, QSize size) {
+  const auto count = std::ranges::count_if(model.Buttons, &MenuItem::Picture);
+  return size.width() - 2 - static_cast<int>(count) * kPictureButtonWidth;
 }
 
 int TextCellWidth(const QString& text, const TextWidth& width) {
@@ -110,20 +114,24 @@ std::vector<PaintedRow> LayOutMenuBar(const MenuBarModel& model, QSize size, int
                                       const TextWidth& width) {
   std::vector<PaintedRow> rows;
   int x = 2;
+  int pictureX = PicturesLeft(model, size);
   const auto nextCell = [&](const QString& text) {
     const QRect cell{x, 0, TextCellWidth(text, width), size.height()};
     x += cell.width();
     return cell;
   };
+  const auto nextPicture = [&] {
+    const QRect cell{pictureX, 0, kPictureButtonWidth, size.height()};
+    pictureX += cell.width();
+    return cell;
+  };
   for (const MenuItem& button : model.Buttons) {
     const int key = static_cast<int>(rows.size());
-    const bool isPanel = button.Id == ID_SHELL_INPUT_PANEL;
-    const QRect area = isPanel
-                           ? QRect{size.width() - kPanelWidth - 2, 0, kPanelWidth, size.height()}
-                           : nextCell(button.Text);
+    const QRect area = button.Picture ? nextPicture() : nextCell(button.Text);
     PaintedRow& row = rows.emplace_back(BarRow(area, key, button, key == open));
     const Rgb color = button.Enabled ? kBarText : kBarDisabled;
-    isPanel ? AddPanelButton(row, color) : AddBarText(row, button.Text, color);
+    button.Picture ? AddBarPicture(row, button.Picture, color)
+                   : AddBarText(row, button.Text, color);
   }
   for (const Menu& menu : model.Menus) {
     const int key = static_cast<int>(rows.size());

@@ -30,7 +30,7 @@ struct TitleBarModel {
 std::vector<PaintedRow> LayOutTitleBar(const TitleBarModel& model, QSize size);
 
 // A row's key is its position in the model: the buttons first, then the menus. `open` is the one
-// shown pressed, -1 none. The input panel's button stands at the right end.
+// shown pressed, -1 none. The buttons with a picture stand at the right end.
 std::vector<PaintedRow> LayOutMenuBar(const MenuBarModel& model, QSize size, int open,
                                       const TextWidth& width);
 

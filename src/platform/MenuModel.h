@@ -7,12 +7,14 @@
 #include <vector>
 
 #include "resources/Menus.h"
+#include "resources/Pictures.h"
 
 namespace quill {
 
 class CommandRoute;
 
-// A line of a menu. With Items it opens a submenu and its id runs nothing.
+// A line of a menu. With Items it opens a submenu and its id runs nothing. Picture is for buttons
+// of a menu bar: it is what they show in place of their text.
 struct MenuItem {
   QString Text = {};
   int Id = 0;
@@ -20,6 +22,7 @@ struct MenuItem {
   bool Checked = false;
   bool Separator = false;
   std::vector<MenuItem> Items = {};
+  const resources::Picture* Picture = nullptr;
 };
 
 struct Menu {
@@ -28,7 +31,7 @@ struct Menu {
 };
 
 // A window's menu bar: command buttons (New, the input panel's) and menus, from left to right; the
-// input panel's button stands at the right end.
+// buttons with a picture stand at the right end.
 struct MenuBarModel {
   std::vector<MenuItem> Buttons;
   std::vector<Menu> Menus;

@@ -83,7 +83,9 @@ class MenuBarLayout : public testing::Test {
  protected:
   MenuBarLayout() {
     m_model.Buttons = {{.Text = QStringLiteral("New"), .Id = ID_FILE_NEW},
-                       {.Text = QStringLiteral("Input panel"), .Id = ID_SHELL_INPUT_PANEL}};
+                       {.Text = QStringLiteral("Input panel"),
+                        .Id = ID_SHELL_INPUT_PANEL,
+                        .Picture = &resources::kKeyboardPicture}};
     m_model.Menus = {{QStringLiteral("Tool"), {}}, {QStringLiteral("View"), {}}};
   }
 
@@ -151,6 +153,18 @@ TEST_F(MenuBarLayout, ThePanelsButtonIsAPictureThatLooksPressedWhileThePanelIsUp
   EXPECT_TRUE(FillOf(rows[1]).has_value());
   ASSERT_FALSE(rows[1].Items.empty());
   EXPECT_EQ(rows[1].Items.back().Picture, &resources::kKeyboardPicture);
+}
+
+TEST_F(MenuBarLayout, PicturesStandAtTheRightEndInTheirOrder) {
+  m_model.Buttons.insert(m_model.Buttons.begin(),
+                         {.Text = QStringLiteral("Cross"), .Picture = &resources::kClosePicture});
+  const auto rows = LayOut();
+  ExpectRowsStandApart(rows, kMenuBar);
+  EXPECT_EQ(rows[0].Items.back().Picture, &resources::kClosePicture);
+  EXPECT_EQ(rows[0].SpokenName, QStringLiteral("Cross"));
+  EXPECT_EQ(rows[0].Rectangle.right() + 1, rows[2].Rectangle.left());
+  EXPECT_GE(rows[2].Rectangle.right(), kMenuBar.width() - 4);
+  EXPECT_LT(rows[4].Rectangle.right(), rows[0].Rectangle.left());
 }
 
 }  // namespace

@@ -128,7 +128,8 @@ MenuItem CScreen::InputPanelButton() const {
   return {.Text = QStringLiteral("Input panel"),
           .Id = ID_SHELL_INPUT_PANEL,
           .Enabled = state.Enabled,
-          .Checked = state.Checked};
+          .Checked = state.Checked,
+          .Picture = &resources::kKeyboardPicture};
 }
 
 void CScreen::ShowShellMenu(QPoint at) {
