@@ -57,6 +57,10 @@ inline constexpr int ID_INK_ZOOM_200 = 32790;
 inline constexpr int ID_INK_ZOOM_300 = 32791;
 inline constexpr int ID_INK_DELETE_NOTE = 32824;
 
+// The buttons of ink notes in the menu bar.
+inline constexpr int ID_INK_TOGGLE = 204;  // between writing and selecting
+inline constexpr int ID_INK_MODE = 205;    // between the page and the close-up
+
 // The shell's own commands: the button for the input panel and the menu behind the title bar.
 inline constexpr int ID_SHELL_INPUT_PANEL = 60000;
 inline constexpr int ID_SHELL_LARGER = 60001;
