@@ -26,19 +26,20 @@ constexpr int kKeepMilliseconds = 2000;
 CEditRecordSheet::CEditRecordSheet(CScreen& screen, const QString& caption)
     : CSheet(screen, caption),
       m_draftBar(new CDraftBar(this)),
+      m_memoPage(new CMemoPage(*this)),
       m_commands({{ID_IMPORTED_DETAILS, ID_IMPORTED_DETAILS, [this](int) { ShowImportedDetails(); },
                    [this](int, CommandState& state) { state.Enabled = m_record.Oid != 0; }}}),
       m_panelWasUp(g_services.InputPanel && g_services.InputPanel->IsUp()) {
   AddPage(*new CBasicPage(*this, m_record));
   AddPage(*new CDetailPage(*this, m_record));
-  AddPage(*new CMemoPage(*this));
+  AddPage(*m_memoPage);
   m_draftBar->RestoreAsked = [this] { RestoreDraft(); };
   m_draftBar->DiscardAsked = [this] { DiscardOffered(); };
 }
 
 // The panel came up for the fields of the sheet. What is closed with the program was not cancelled.
 CEditRecordSheet::~CEditRecordSheet() {
-  if (!m_isDecided) KeepEntered();
+  if (!m_isDecided) KeepAll();
   if (g_services.Timers) g_services.Timers->KillAll(*this);
   if (g_services.InputPanel && !m_panelWasUp) g_services.InputPanel->Lower();
 }
@@ -56,16 +57,24 @@ void CEditRecordSheet::Save() {
   m_isDecided = true;
   g_services.Timers->Kill(*this, kKeepTimer);
   SaveSheet(m_record, g_settings);
+  m_memoPage->Discard();
 }
 
 // What the user cancels is meant to go; a draft that was taken back is offered again as it was.
 void CEditRecordSheet::OnCancel() {
   m_isDecided = true;
   m_restored ? SaveDraft(*m_restored) : DiscardDraft(m_record.Draft);
+  g_contactInk = {};
   CSheet::OnCancel();
 }
 
 void CEditRecordSheet::OnTimer(int) { KeepEntered(); }
+
+// With the ink of a page that was not left.
+void CEditRecordSheet::KeepAll() {
+  if (ActivePage() == m_memoPage) m_memoPage->BecomeInactive();
+  KeepEntered();
+}
 
 void CEditRecordSheet::KeepEntered() {
   auto entered = EnteredSoFar(m_record, g_settings);

@@ -10,6 +10,7 @@
 namespace quill {
 
 class CDraftBar;
+class CMemoPage;
 
 class CEditRecordSheet : public CSheet {
   Q_OBJECT
@@ -41,10 +42,12 @@ class CEditRecordSheet : public CSheet {
   void RestoreDraft();
   void DiscardOffered();
   void KeepEntered();
+  void KeepAll();
   void ShowImportedDetails();
 
   SheetRecord m_record;
   CDraftBar* m_draftBar;
+  CMemoPage* m_memoPage;
   std::optional<Draft> m_offered;
   std::optional<Draft> m_kept;      // what was entered, as it was kept last
   std::optional<Draft> m_restored;  // the draft that was taken back, as it was

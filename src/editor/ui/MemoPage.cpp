@@ -1,53 +1,81 @@
 #include "editor/ui/MemoPage.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 
-#include "platform/ui/RowPainter.h"
+#include <utility>
+
+#include "ink/ui/InkEditing.h"
+#include "ink/ui/InkX.h"
+#include "memo/MemoDeletion.h"
 #include "platform/ui/Screen.h"
 #include "platform/ui/Sheet.h"
-#include "resources/Ids.h"
-#include "resources/Menus.h"
 #include "store/ContactStore.h"
 
 namespace quill {
 
 namespace {
 
-constexpr QRect kTextArea{0, 100, kScreenWidth, kCellHeight};
-
-// Listed in the menus, disabled until there is an ink editor.
-CommandRow Unavailable(int first, int last) { return {first, last, nullptr, nullptr}; }
+// Below the control when it is made. Once the page is resized the control takes all of it:
+// intended.
+constexpr int kRoomBelow = 20;
 
 }  // namespace
 
-CMemoPage::CMemoPage(CSheet& sheet)
-    : CSheetPage(sheet, QStringLiteral("Memo")),
-      m_commands({Unavailable(ID_INK_SELECT_ALL, ID_INK_ZOOM_300),
-                  Unavailable(ID_INK_DELETE_NOTE, ID_INK_DELETE_NOTE)}) {}
+CMemoPage::CMemoPage(CSheet& sheet) : CSheetPage(sheet, QStringLiteral("Memo")) {}
 
-MenuBarModel CMemoPage::MenuBar() const {
-  return {{Sheet().Screen().InputPanelButton()}, BuildMenus(resources::kInkMenu, Route())};
+CMemoPage::~CMemoPage() = default;
+
+void CMemoPage::LoadRows() {
+  if (m_ink) ShowNote();
 }
+
+void CMemoPage::BecomeActive() {
+  if (!m_ink) MakeInk();
+  m_ink->setFocus(Qt::ActiveWindowFocusReason);
+}
+
+void CMemoPage::MakeInk() {
+  m_ink = new InkX(this);
+  m_ink->setGeometry(rect().adjusted(0, 0, 0, -kRoomBelow));
+  m_editing = std::make_unique<InkEditing>(*m_ink, [this] { DeleteNote(); });
+  ShowNote();
+  m_ink->show();
+}
+
+void CMemoPage::ShowNote() {
+  PutInkIn(*m_ink, g_contactInk.Bytes);
+  ShowInkAsPage(*m_ink);
+}
+
+void CMemoPage::BecomeInactive() { g_contactInk.Bytes = TakeInkOut(*m_ink); }
+
+void CMemoPage::DeleteNote() {
+  if (!ConfirmMemoDeletion()) return;
+  g_contactInk = {};
+  EraseInk(*m_ink);
+}
+
+void CMemoPage::Discard() {
+  g_contactInk = {};
+  m_editing.reset();
+  delete std::exchange(m_ink, nullptr);
+}
+
+MenuBarModel CMemoPage::MenuBar() const { return InkMenuBar(Sheet().Screen(), Route()); }
 
 CommandRoute CMemoPage::Route() const {
   CommandRoute route;
-  route.Add(m_commands);
+  if (m_editing) route.Add(*m_editing);
   return route;
 }
 
-void CMemoPage::showEvent(QShowEvent*) {
-  m_text = g_contactInk.Count() > 0 ? QStringLiteral("There are handwritten notes.")
-                                    : QStringLiteral("There are no handwritten notes.");
+void CMemoPage::resizeEvent(QResizeEvent*) {
+  if (m_ink) m_ink->setGeometry(rect());
 }
 
-void CMemoPage::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.fillRect(rect(), Qt::white);
-  DrawRow(painter, {.Rectangle = kTextArea,
-                    .Items = {{.Rectangle = kTextArea,
-                               .Text = m_text,
-                               .Alignment = TextAlign::Centre,
-                               .Color = 0x666666}}});
+void CMemoPage::paintEvent(QPaintEvent* event) {
+  QPainter(this).fillRect(event->rect(), Qt::white);
 }
 
 }  // namespace quill

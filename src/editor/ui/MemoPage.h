@@ -1,26 +1,43 @@
-// The sheet's third page: the contact's ink notes. So far it only says whether there are any; they
-// stay with the contact as they are.
+// The sheet's third page: the contact's ink notes, on a control of its own that is made when the
+// page is first shown. While another page is shown the ink is in g_contactInk.
 #pragma once
+
+#include <memory>
 
 #include "platform/ui/SheetPage.h"
 
 namespace quill {
 
+class InkEditing;
+class InkX;
+
 class CMemoPage : public CSheetPage {
   Q_OBJECT
  public:
   explicit CMemoPage(CSheet& sheet);
+  ~CMemoPage() override;
 
+  void LoadRows() override;
+  void BecomeActive() override;
+  // Brings g_contactInk up to date.
+  void BecomeInactive() override;
   MenuBarModel MenuBar() const override;
   CommandRoute Route() const override;
 
+  // Once the sheet was saved: neither ink nor control is left.
+  void Discard();
+
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
-  CommandTarget m_commands;
-  QString m_text;
+  void MakeInk();
+  void ShowNote();
+  void DeleteNote();
+
+  InkX* m_ink = nullptr;                  // a child
+  std::unique_ptr<InkEditing> m_editing;  // of m_ink, as long as that
 };
 
 }  // namespace quill
