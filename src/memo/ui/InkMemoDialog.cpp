@@ -1,0 +1,81 @@
+#include "memo/ui/InkMemoDialog.h"
+
+#include <QResizeEvent>
+
+#include "ink/ui/InkEditing.h"
+#include "ink/ui/InkX.h"
+#include "memo/MemoDeletion.h"
+#include "memo/MemoState.h"
+#include "platform/DeviceFiles.h"
+#include "platform/Prompt.h"
+#include "platform/Services.h"
+#include "settings/ui/NameEntryDlg.h"
+
+namespace quill {
+
+namespace {
+
+// Below the control when it is made. Once the window is resized the control takes all of it:
+// intended.
+constexpr int kRoomBelow = 25;
+
+}  // namespace
+
+CInkMemoDialog::CInkMemoDialog(CScreen& screen, const QString& path, InkMemoKind kind)
+    : CModalWindow(screen), m_path(path), m_kind(kind) {
+  SetCaption(QStringLiteral("Memo"));
+}
+
+CInkMemoDialog::~CInkMemoDialog() = default;
+
+void CInkMemoDialog::OnInitDialog() {
+  m_ink = new InkX(this);
+  m_ink->setGeometry(rect().adjusted(0, 0, 0, -kRoomBelow));
+  m_editing = std::make_unique<InkEditing>(*m_ink, [this] { DeleteNote(); });
+  ShowInkAsPage(*m_ink);
+  PutInkIn(*m_ink, g_memo.Buffer);
+}
+
+void CInkMemoDialog::FocusFirstControl() { m_ink->setFocus(Qt::ActiveWindowFocusReason); }
+
+MenuBarModel CInkMemoDialog::MenuBar() const { return InkMenuBar(Screen(), Route()); }
+
+CommandRoute CInkMemoDialog::Route() const {
+  CommandRoute route;
+  if (m_editing) route.Add(*m_editing);
+  return route;
+}
+
+void CInkMemoDialog::OnOK() {
+  g_memo.Buffer = TakeInkOut(*m_ink);
+  m_kind == InkMemoKind::New ? SaveNew() : Save(m_path);
+}
+
+void CInkMemoDialog::SaveNew() {
+  if (g_memo.Buffer.isEmpty()) return EndDialog(kResultCancel);
+  CNameEntryDlg dialog(Screen(), NameEntryMode::Save, m_path);
+  if (dialog.DoModal() != kResultOK) return EndDialog(kResultCancel);
+  Save(dialog.Text());
+}
+
+void CInkMemoDialog::Save(const QString& path) {
+  const bool isFile = m_kind == InkMemoKind::New || !path.isEmpty();
+  if (!isFile || g_services.Files->WriteWhole(path, g_memo.Buffer)) return EndDialog(kResultOK);
+  g_services.Prompt->Show({.Text = QStringLiteral("Please check the file name is valid.")});
+}
+
+void CInkMemoDialog::DeleteNote() {
+  if (!ConfirmMemoDeletion()) return;
+  g_memo.Buffer.clear();
+  const bool isFile = m_kind == InkMemoKind::Existing && !m_path.isEmpty();
+  // What cannot be removed stays, and is listed again.
+  if (isFile) g_services.Files->Remove(m_path);
+  EndDialog(isFile ? kResultCancel : kResultOK);
+}
+
+// The event of the first showing tells of no change: the control has its place already.
+void CInkMemoDialog::resizeEvent(QResizeEvent* event) {
+  if (m_ink && event->oldSize().isValid()) m_ink->setGeometry(rect());
+}
+
+}  // namespace quill

@@ -1,0 +1,49 @@
+// The editor of one ink memo. It takes the memo's bytes from g_memo.Buffer and leaves there, on OK,
+// what it wrote.
+#pragma once
+
+#include <memory>
+
+#include "platform/ui/ModalWindow.h"
+
+namespace quill {
+
+class InkEditing;
+class InkX;
+
+enum class InkMemoKind { New, Existing };
+
+class CInkMemoDialog : public CModalWindow {
+  Q_OBJECT
+ public:
+  // The memo's full device path; of a new memo the one that is proposed. An existing memo without a
+  // path is not written: whoever opened it takes g_memo.Buffer.
+  CInkMemoDialog(CScreen& screen, const QString& path, InkMemoKind kind);
+  ~CInkMemoDialog() override;
+
+  WindowKind Kind() const override { return WindowKind::Dialog; }
+  MenuBarModel MenuBar() const override;
+  CommandRoute Route() const override;
+  // Writes the file and ends with OK; of a new memo the user names the file first. A new memo with
+  // nothing on its page, and one that is given no name, end with Cancel and make no file. Where the
+  // file cannot be written the user is told, and the editor stays open.
+  void OnOK() override;
+  void OnVisibleAreaChanged(QRect area) override { setGeometry(area); }
+
+ protected:
+  void OnInitDialog() override;
+  void FocusFirstControl() override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void SaveNew();
+  void Save(const QString& path);
+  void DeleteNote();
+
+  const QString m_path;
+  const InkMemoKind m_kind;
+  InkX* m_ink = nullptr;                  // a child, made by OnInitDialog
+  std::unique_ptr<InkEditing> m_editing;  // of m_ink
+};
+
+}  // namespace quill

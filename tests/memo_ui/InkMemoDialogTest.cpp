@@ -1,0 +1,232 @@
+#include "memo/ui/InkMemoDialog.h"
+
+#include <QApplication>
+
+#include "memo_ui/MemoFixture.h"
+
+namespace quill {
+namespace {
+
+using test::kNote;
+using test::kOther;
+
+class InkMemoDialogTest : public test::MemoFixture {
+ protected:
+  // Runs the editor and the steps in it.
+  int Run(InkMemoKind kind, const QString& path, std::vector<test::Step> steps) {
+    CInkMemoDialog dialog(*m_screen, path, kind);
+    const test::Steps running(*m_screen, std::move(steps));
+    return dialog.DoModal();
+  }
+  int Edit(std::vector<test::Step> steps) {
+    g_memo.Buffer = kNote;
+    Put(Path(u"a.pwi"), kNote);
+    return Run(InkMemoKind::Existing, Path(u"a.pwi"), std::move(steps));
+  }
+  int WriteNew(std::vector<test::Step> steps) {
+    return Run(InkMemoKind::New, Path(u"new.pwi"), std::move(steps));
+  }
+  test::Step Write(const QByteArray& bytes) {
+    return [this, bytes] { Ink().SetData(bytes); };
+  }
+  test::Step OK() {
+    return [this] { m_screen->Topmost()->OnOK(); };
+  }
+  test::Step Cancel() {
+    return [this] { m_screen->Topmost()->OnCancel(); };
+  }
+  test::Step Name(const QString& name) {
+    return [this, name] { EnterName(name); };
+  }
+  test::Step Delete() {
+    return [this] { Editor().RunCommand(ID_INK_DELETE_NOTE); };
+  }
+};
+
+const QString kQuestion = QStringLiteral("This memo will be deleted. Continue?");
+const QString kBadName = QStringLiteral("Please check the file name is valid.");
+
+TEST_F(InkMemoDialogTest, IsAFullScreenDialogWithTheMenusAndButtonsOfInk) {
+  Edit({[&] {
+          EXPECT_EQ(Editor().Caption(), QStringLiteral("Memo"));
+          EXPECT_EQ(Editor().Kind(), WindowKind::Dialog);
+          EXPECT_EQ(Editor().geometry(), kClientArea);
+          const MenuBarModel bar = Editor().MenuBar();
+          ASSERT_EQ(bar.Menus.size(), 2U);
+          EXPECT_EQ(bar.Buttons[0].Id, ID_INK_TOGGLE);
+          EXPECT_EQ(bar.Buttons[1].Id, ID_INK_MODE);
+          Editor().RunCommand(ID_INK_ZOOM_75);
+          EXPECT_EQ(Ink().Zoom(), 75);
+        },
+        Cancel()});
+}
+
+TEST_F(InkMemoDialogTest, BeginsAsAPageOfTheBuffersInkInFocus) {
+  Edit({[&] {
+          EXPECT_EQ(Ink().Data(), kNote);
+          EXPECT_EQ(Ink().PageStyle(), kInkPage);
+          EXPECT_EQ(Ink().Zoom(), 100);
+          EXPECT_EQ(Ink().Wrap(), 1);
+          EXPECT_EQ(Ink().View(), kInkPlainView);
+          EXPECT_TRUE(Ink().isVisible());
+          EXPECT_EQ(QApplication::focusWidget(), &Ink());
+        },
+        Cancel()});
+}
+
+TEST_F(InkMemoDialogTest, TheControlLeavesTwentyFivePixelsUntilTheWindowIsResized) {
+  Edit({[&] {
+          EXPECT_EQ(Ink().geometry(), Editor().rect().adjusted(0, 0, 0, -25));
+          m_panel.Raise();
+          EXPECT_EQ(Editor().geometry(), m_panel.VisibleArea());
+          EXPECT_EQ(Ink().geometry(), Editor().rect());
+          m_panel.Lower();
+          EXPECT_EQ(Ink().geometry(), Editor().rect());
+        },
+        Cancel()});
+}
+
+TEST_F(InkMemoDialogTest, OpenedWithThePanelUpItEndsWhereThePanelBegins) {
+  m_panel.Raise();
+  Edit({[&] {
+          EXPECT_EQ(Editor().geometry(), m_panel.VisibleArea());
+          EXPECT_EQ(Ink().geometry(), Editor().rect().adjusted(0, 0, 0, -25));
+        },
+        Cancel()});
+}
+
+TEST_F(InkMemoDialogTest, OKWritesAnExistingMemo) {
+  EXPECT_EQ(Edit({Write(kOther), OK()}), kResultOK);
+  EXPECT_EQ(Content(Path(u"a.pwi")), kOther);
+  EXPECT_EQ(g_memo.Buffer, kOther);
+}
+
+TEST_F(InkMemoDialogTest, OKAfterMereLookingWritesTheSameBytes) {
+  EXPECT_EQ(Edit({[&] { Editor().RunCommand(ID_INK_MODE); }, OK()}), kResultOK);
+  EXPECT_EQ(Content(Path(u"a.pwi")), kNote);
+}
+
+TEST_F(InkMemoDialogTest, AnExistingMemoMayBecomeEmpty) {
+  EXPECT_EQ(Edit({Write({}), OK()}), kResultOK);
+  EXPECT_EQ(Content(Path(u"a.pwi")), QByteArray());
+}
+
+TEST_F(InkMemoDialogTest, CancelLeavesTheFileAsItWas) {
+  EXPECT_EQ(Edit({Write(kOther), Cancel()}), kResultCancel);
+  EXPECT_EQ(Content(Path(u"a.pwi")), kNote);
+}
+
+TEST_F(InkMemoDialogTest, AnExistingMemoWithoutAPathIsLeftInTheBuffer) {
+  g_memo.Buffer = kNote;
+  EXPECT_EQ(Run(InkMemoKind::Existing, {}, {Write(kOther), OK()}), kResultOK);
+  EXPECT_EQ(g_memo.Buffer, kOther);
+}
+
+TEST_F(InkMemoDialogTest, AnExistingMemoThatCannotBeWrittenStaysOpenWithItsInk) {
+  m_prompt.Expect(PromptAnswer::OK);
+  EXPECT_EQ(Edit({[&] {
+                    ASSERT_TRUE(m_home.Files.Remove(Path(u"a.pwi")));
+                    ASSERT_EQ(m_home.Files.CreateFolder(Path(u"a.pwi")), 0);
+                  },
+                  Write(kOther), OK(),
+                  [&] {
+                    ASSERT_EQ(m_prompt.Shown().size(), 1U);
+                    EXPECT_EQ(m_prompt.Shown()[0].Text, kBadName);
+                    EXPECT_EQ(Ink().Data(), kOther);
+                  },
+                  Cancel()}),
+            kResultCancel);
+}
+
+TEST_F(InkMemoDialogTest, ANewMemoIsWrittenUnderTheNameThatIsEntered) {
+  EXPECT_EQ(WriteNew({Write(kNote), OK(),
+                      [&] {
+                        EXPECT_EQ(m_screen->Topmost()->Caption(), QStringLiteral("Save As"));
+                        EnterName(Path(u"given.pwi"));
+                      }}),
+            kResultOK);
+  EXPECT_EQ(m_proposed, Path(u"new.pwi"));
+  EXPECT_EQ(Content(Path(u"given.pwi")), kNote);
+  EXPECT_EQ(Content(Path(u"new.pwi")), std::nullopt);
+  EXPECT_EQ(g_memo.Buffer, kNote);
+}
+
+TEST_F(InkMemoDialogTest, ANewMemoTakesThePlaceOfAFileOfItsName) {
+  Put(Path(u"new.pwi"), kOther);
+  EXPECT_EQ(WriteNew({Write(kNote), OK(), Name(Path(u"new.pwi"))}), kResultOK);
+  EXPECT_EQ(Content(Path(u"new.pwi")), kNote);
+}
+
+TEST_F(InkMemoDialogTest, ANewMemoWithNothingOnItEndsWithCancelAndMakesNoFile) {
+  EXPECT_EQ(WriteNew({OK()}), kResultCancel);
+  EXPECT_EQ(Content(Path(u"new.pwi")), std::nullopt);
+}
+
+TEST_F(InkMemoDialogTest, ANewMemoThatIsGivenNoNameEndsWithCancel) {
+  EXPECT_EQ(WriteNew({Write(kNote), OK(), Cancel()}), kResultCancel);
+  EXPECT_EQ(Content(Path(u"new.pwi")), std::nullopt);
+}
+
+class InkMemoName : public InkMemoDialogTest,
+                    public testing::WithParamInterface<const char16_t*> {};
+
+TEST_P(InkMemoName, ThatCannotBeMadeKeepsTheEditorOpenWithItsInk) {
+  m_prompt.Expect(PromptAnswer::OK);
+  EXPECT_EQ(WriteNew({Write(kNote), OK(), Name(QString::fromUtf16(GetParam())),
+                      [&] {
+                        ASSERT_EQ(m_prompt.Shown().size(), 1U);
+                        EXPECT_EQ(m_prompt.Shown()[0].Text, kBadName);
+                        EXPECT_EQ(Ink().Data(), kNote);
+                      },
+                      OK(), Name(Path(u"better.pwi"))}),
+            kResultOK);
+  EXPECT_EQ(Content(Path(u"better.pwi")), kNote);
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, InkMemoName,
+                         testing::Values(u"", u"\\My Documents\\Fennick\\A/B.pwi",
+                                         u"\\No such folder\\a.pwi", u"\\My Documents\\Fennick",
+                                         u"\\My Documents\\Fennick\\a?.pwi"));
+
+TEST_F(InkMemoDialogTest, DeleteNoteAsksAndANoChangesNothing) {
+  m_prompt.Expect(PromptAnswer::No);
+  EXPECT_EQ(Edit({Delete(),
+                  [&] {
+                    EXPECT_EQ(m_prompt.Shown()[0].Text, kQuestion);
+                    EXPECT_EQ(Ink().Data(), kNote);
+                    EXPECT_EQ(g_memo.Buffer, kNote);
+                  },
+                  OK()}),
+            kResultOK);
+  EXPECT_EQ(Content(Path(u"a.pwi")), kNote);
+}
+
+TEST_F(InkMemoDialogTest, DeleteNoteRemovesAnExistingMemosFileAndEndsWithCancel) {
+  m_prompt.Expect(PromptAnswer::Yes);
+  EXPECT_EQ(Edit({Delete()}), kResultCancel);
+  EXPECT_EQ(Content(Path(u"a.pwi")), std::nullopt);
+  EXPECT_EQ(g_memo.Buffer, QByteArray());
+}
+
+TEST_F(InkMemoDialogTest, DeleteNoteOfANewMemoEndsWithOKAndAnEmptyBuffer) {
+  Put(Path(u"new.pwi"), kOther);
+  m_prompt.Expect(PromptAnswer::Yes);
+  EXPECT_EQ(WriteNew({Write(kNote), Delete()}), kResultOK);
+  EXPECT_EQ(g_memo.Buffer, QByteArray());
+  EXPECT_EQ(Content(Path(u"new.pwi")), kOther);
+}
+
+TEST_F(InkMemoDialogTest, DeleteNoteOfAMemoWithoutAPathEndsWithOKAndAnEmptyBuffer) {
+  g_memo.Buffer = kNote;
+  m_prompt.Expect(PromptAnswer::Yes);
+  EXPECT_EQ(Run(InkMemoKind::Existing, {}, {Delete()}), kResultOK);
+  EXPECT_EQ(g_memo.Buffer, QByteArray());
+}
+
+TEST_F(InkMemoDialogTest, TheProgramsEndIsACancel) {
+  EXPECT_EQ(Edit({Write(kOther), [&] { m_screen->CloseAll(); }}), kResultCancel);
+  EXPECT_EQ(Content(Path(u"a.pwi")), kNote);
+}
+
+}  // namespace
+}  // namespace quill
