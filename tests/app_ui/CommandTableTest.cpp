@@ -73,7 +73,7 @@ class CommandTableTest : public test::FrameFixture {
     std::vector<CommandRow> rows;
     CContactsView& view = m_frame->View();
     const auto contacts = MakeContactCommands(view);
-    const auto linkedItems = MakeLinkedItemCommands();
+    const auto linkedItems = MakeLinkedItemCommands(view);
     const auto memos = MakeMemoCommands(view);
     const auto modes = MakeViewModeCommands(view);
     const auto categories = MakeCategoryCommands(view);

@@ -3,9 +3,11 @@
 #include <QLineEdit>
 
 #include "ViewFixture.h"
+#include "ink/ui/InkX.h"
 #include "list/Selection.h"
 #include "memo/MemoFolder.h"
 #include "memo/MemoListing.h"
+#include "support/FixedClock.h"
 #include "support/ScriptedPrompt.h"
 
 namespace quill {
@@ -15,6 +17,7 @@ class MemoCommandsTest : public test::ViewFixture {
  protected:
   void SetUp() override {
     g_services.Prompt = &m_prompt;
+    g_services.Clock = &m_clock;
     Open({QStringLiteral("Kim")});
     FixMemoFolder(g_memo);
     for (const char* name : {"a.pwi", "b.pwi", "c.pwi", "d.pwi", "e.pwi"})
@@ -48,7 +51,29 @@ class MemoCommandsTest : public test::ViewFixture {
     m_frame->RunCommand(id);
   }
 
+  QByteArray Content(const char16_t* name) const {
+    return m_deviceHome.Files.ReadWhole(MemoPath(g_memo, QString::fromUtf16(name))).value_or("");
+  }
+  // Puts ink into the memo editor on top and presses OK.
+  test::Step WriteAndOK(const QByteArray& ink) {
+    return [this, ink] {
+      auto* const control = m_screen->Topmost()->findChild<InkX*>();
+      ASSERT_NE(control, nullptr);
+      control->SetData(ink);
+      m_screen->Topmost()->OnOK();
+    };
+  }
+  // OK, or with Escape the cancel, of the dialog for the file's name.
+  test::Step Key(int key) {
+    return [this, key] { m_input.Key(key); };
+  }
+  // Makes the file behind the list's back, so that a list that is built anew shows it.
+  void AddUnlisted() {
+    ASSERT_TRUE(m_deviceHome.Files.WriteWhole(MemoPath(g_memo, QStringLiteral("f.pwi")), "f"));
+  }
+
   test::ScriptedPrompt m_prompt;
+  test::FixedClock m_clock{QDateTime(QDate(2004, 9, 15), QTime(9, 30, 5))};
   QString m_preset;
 };
 
@@ -136,6 +161,53 @@ TEST_F(MemoCommandsTest, OverMemosContactsAreNotCopied) {
   m_frame->RunCommand(ID_COPY_CONTACT, CommandCheck::Anyway);
   View().ShowMode(ViewMode::ByName);
   EXPECT_EQ(g_list.Total, 1);
+}
+
+TEST_F(MemoCommandsTest, NewWritesAMemoOfNobodyAndListsIt) {
+  const test::Steps steps(*m_screen, {WriteAndOK("ink"), Key(Qt::Key_Return)});
+  m_frame->RunCommand(ID_FILE_NEW);
+  EXPECT_EQ(Content(u"Memo_20040915_093005.pwi"), "ink");
+  EXPECT_EQ(g_memo.NameList.size(), 6);
+}
+
+TEST_F(MemoCommandsTest, ANewMemoThatIsGivenNoNameLeavesTheListAlone) {
+  AddUnlisted();
+  const test::Steps steps(*m_screen, {WriteAndOK("ink"), Key(Qt::Key_Escape)});
+  m_frame->RunCommand(ID_FILE_NEW);
+  EXPECT_EQ(g_memo.NameList.size(), 5);
+}
+
+TEST_F(MemoCommandsTest, ANewMemoThatIsDeletedEndsWithOKButLeavesTheListAlone) {
+  AddUnlisted();
+  m_prompt.Expect(PromptAnswer::Yes);
+  const test::Steps steps(*m_screen,
+                          {[&] { m_screen->Topmost()->RunCommand(ID_INK_DELETE_NOTE); }});
+  m_frame->RunCommand(ID_FILE_NEW);
+  EXPECT_EQ(g_memo.NameList.size(), 5);
+}
+
+TEST_F(MemoCommandsTest, TheMemoUnderTheCurrentRowIsOpened) {
+  SelectRow(g_list, 1);
+  const test::Steps steps(*m_screen, {WriteAndOK("other")});
+  List().OpenAsked(1);
+  EXPECT_EQ(Content(u"b.pwi"), "other");
+}
+
+TEST_F(MemoCommandsTest, AfterAMemoWasOpenTheListIsBuiltAnewInAnyCase) {
+  AddUnlisted();
+  SelectRow(g_list, 1);
+  const test::Steps steps(*m_screen, {[&] { m_screen->Topmost()->OnCancel(); }});
+  List().OpenAsked(1);
+  EXPECT_EQ(g_memo.NameList.size(), 6);
+}
+
+TEST_F(MemoCommandsTest, AMemoThatIsGoneIsNotOpenedAndLeavesTheList) {
+  ASSERT_TRUE(m_deviceHome.Files.Remove(MemoPath(g_memo, QStringLiteral("b.pwi"))));
+  SelectRow(g_list, 1);
+  m_prompt.Expect(PromptAnswer::OK);
+  List().OpenAsked(1);
+  EXPECT_EQ(m_prompt.Shown()[0].Text, QStringLiteral("The memo could not be read."));
+  EXPECT_EQ(g_memo.NameList.size(), 4);
 }
 
 }  // namespace

@@ -59,7 +59,7 @@ CContactsView::CContactsView(QWidget* frame)
       m_list(new CContactListCtrl(this)),
       m_scrollBar(new QScrollBar(Qt::Vertical, this)),
       m_contactCommands(MakeContactCommands(*this)),
-      m_linkedItemCommands(MakeLinkedItemCommands()),
+      m_linkedItemCommands(MakeLinkedItemCommands(*this)),
       m_memoCommands(MakeMemoCommands(*this)),
       m_modeCommands(MakeViewModeCommands(*this)),
       m_categoryCommands(MakeCategoryCommands(*this)),

@@ -7,6 +7,9 @@
 
 namespace quill {
 
-std::unique_ptr<CommandTarget> MakeLinkedItemCommands();
+class CContactsView;
+
+// A memo that is opened is one of g_linkedItems. The list stays as it is.
+std::unique_ptr<CommandTarget> MakeLinkedItemCommands(CContactsView& view);
 
 }  // namespace quill

@@ -2,12 +2,12 @@
 
 #include "list/Selection.h"
 #include "list/ui/ContactsView.h"
+#include "memo/MemoDeletion.h"
 #include "memo/MemoFiles.h"
 #include "memo/MemoFolder.h"
 #include "memo/MemoListing.h"
 #include "memo/MemoNames.h"
-#include "platform/Prompt.h"
-#include "platform/Services.h"
+#include "memo/ui/MemoOpening.h"
 #include "platform/ui/Screen.h"
 #include "resources/Ids.h"
 #include "settings/ui/NameEntryDlg.h"
@@ -23,19 +23,9 @@ std::optional<QString> CurrentMemo() {
   return hasRow ? MemoAt(g_memo, CurrentPosition()) : std::nullopt;
 }
 
-bool IsConfirmed(const QString& question) {
-  return g_services.Prompt->Show(
-             {.Text = question, .Icon = PromptIcon::Question, .Buttons = PromptButtons::YesNo}) ==
-         PromptAnswer::Yes;
-}
-
-bool IsDeletionConfirmed() {
-  return IsConfirmed(QStringLiteral("This memo will be deleted. Continue?"));
-}
-
 void DeleteMemoAtRow(CContactsView& view) {
   const auto name = CurrentMemo();
-  if (!name || !IsDeletionConfirmed()) return;
+  if (!name || !ConfirmMemoDeletion()) return;
   DeleteMemo(g_memo, *name);
   view.Rebuild();
 }
@@ -73,7 +63,7 @@ std::unique_ptr<CommandTarget> MakeMemoCommands(CContactsView& view) {
 }
 
 void DeleteSelectedMemos(CContactsView& view) {
-  if (!CurrentMemo() || !IsDeletionConfirmed()) return;
+  if (!CurrentMemo() || !ConfirmMemoDeletion()) return;
   DeleteMemos(g_memo, CurrentPosition(), static_cast<qsizetype>(g_list.SelectedKeys.size()));
   ClearSelectedKeys(g_list);
   view.Rebuild();
@@ -81,7 +71,7 @@ void DeleteSelectedMemos(CContactsView& view) {
 
 void DeleteListedMemos(CContactsView& view) {
   if (g_memo.NameList.isEmpty() ||
-      !IsConfirmed(QStringLiteral("All memos in the list will be deleted. Continue?"))) {
+      !ConfirmDeletion(QStringLiteral("All memos in the list will be deleted. Continue?"))) {
     return;
   }
   DeleteMemos(g_memo, 0, g_memo.NameList.size());
@@ -89,13 +79,15 @@ void DeleteListedMemos(CContactsView& view) {
   view.Rebuild();
 }
 
-void MakeNewMemo(CContactsView&) {
-  g_services.Prompt->Show({.Text = QStringLiteral("Memos cannot be written yet.")});
+void MakeNewMemo(CContactsView& view) {
+  const int result = WriteNewMemo(*ScreenAround(&view), NewUnnamedMemoPath(g_memo));
+  if (result == kResultOK && !g_memo.Buffer.isEmpty()) view.Rebuild();
 }
 
 void OpenMemo(CContactsView& view) {
-  if (!CurrentMemo()) return;
-  g_services.Prompt->Show({.Text = QStringLiteral("Memos cannot be opened yet.")});
+  const auto name = CurrentMemo();
+  if (!name) return;
+  EditMemoFile(*ScreenAround(&view), MemoPath(g_memo, *name));
   view.Rebuild();
 }
 

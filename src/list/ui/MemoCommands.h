@@ -18,6 +18,7 @@ std::unique_ptr<CommandTarget> MakeMemoCommands(CContactsView& view);
 void DeleteSelectedMemos(CContactsView& view);
 void DeleteListedMemos(CContactsView& view);
 
+// Begins a memo of no contact. The list is built anew only for a memo that was written.
 void MakeNewMemo(CContactsView& view);
 void OpenMemo(CContactsView& view);
 
