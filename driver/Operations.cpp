@@ -29,6 +29,7 @@ OperationTable AllOperations() {
   Append(table, FrameOperations());
   Append(table, SettingsOperations());
   Append(table, RecordOperations());
+  Append(table, InkOperations());
   return table;
 }
 

@@ -55,6 +55,7 @@ OperationTable DeviceOperations();
 OperationTable FrameOperations();
 OperationTable SettingsOperations();
 OperationTable RecordOperations();
+OperationTable InkOperations();
 
 // The answer of the operation with this name; unknown ones are refused.
 Answer RunOperation(const OperationTable& table, const Request& request, OperationContext& context);

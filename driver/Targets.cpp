@@ -6,6 +6,7 @@
 #include "driver/Arguments.h"
 #include "editor/ui/PartEditor.h"
 #include "editor/ui/RecordRowList.h"
+#include "ink/ui/InkX.h"
 #include "list/ui/ContactListCtrl.h"
 #include "list/ui/ContactsView.h"
 #include "platform/ChromeLayout.h"
@@ -90,6 +91,14 @@ CPartEditor* FindPartEditor() {
   return nullptr;
 }
 
+InkX* FindInk() {
+  const CWindow* topmost = FindTopmost();
+  if (topmost == nullptr) return nullptr;
+  for (InkX* ink : topmost->findChildren<InkX*>())
+    if (ink->isVisible()) return ink;
+  return nullptr;
+}
+
 CMenuPopup* FindPopup() {
   const CScreen* screen = FindScreen();
   return screen ? screen->Popup() : nullptr;
@@ -111,6 +120,7 @@ std::optional<Target> FindTarget(const QJsonValue& on) {
   if (name == u"page") return FindPage();
   if (name == u"rows") return Whole(FindRecordRows());
   if (name == u"parts") return Whole(FindPartEditor());
+  if (name == u"ink") return Whole(FindInk());
   return std::nullopt;
 }
 

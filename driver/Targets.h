@@ -20,6 +20,7 @@ class CRecordRowList;
 class CScreen;
 class CSheet;
 class CWindow;
+class InkX;
 }  // namespace quill
 
 namespace quill::driver {
@@ -35,6 +36,8 @@ CSheet* FindSheet();
 // The row list of the uppermost sheet's page, and the part editor that is open over it.
 CRecordRowList* FindRecordRows();
 CPartEditor* FindPartEditor();
+// The ink control that the topmost window shows.
+InkX* FindInk();
 // The popup menu that was opened first, when submenus of it are open.
 CMenuPopup* FindPopup();
 
