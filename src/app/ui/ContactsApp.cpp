@@ -12,6 +12,7 @@
 #include "app/ui/FileExchange.h"
 #include "app/ui/MainFrame.h"
 #include "app/ui/ShellCommands.h"
+#include "ink/ui/InkAccessibility.h"
 #include "list/ui/ContactsView.h"
 #include "platform/Services.h"
 #include "platform/ui/Accessibility.h"
@@ -43,6 +44,7 @@ CContactsApp::CContactsApp(Program& program, const ShellStart& start)
       m_outer(std::make_unique<COuterWindow>()) {
   SetUpLook(*qApp);
   InstallAccessibility();
+  InstallInkAccessibility();
   QGuiApplication::setQuitOnLastWindowClosed(false);
   QGuiApplication::setDesktopFileName(QStringLiteral("org.fennick.Quill"));
   g_services.Timers = &m_timers;

@@ -25,9 +25,17 @@ void PrepareEnvironment(Scale scale) {
     qputenv("QT_WAYLAND_CLIENT_BUFFER_INTEGRATION", "none");
 }
 
+// A pen's moves are its line: none may be left out. Set before the application is there, it would
+// not last under X11.
+void SendEveryMove() {
+  QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
+  QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
+}
+
 ShellEnd RunOnce(Program& program, const ShellStart& start, int& argc, char** argv) {
   PrepareEnvironment(start.At);
   const QApplication application(argc, argv);
+  SendEveryMove();
   return CContactsApp(program, start).Run();
 }
 
