@@ -9,8 +9,6 @@ namespace {
 
 class InkAccessibilityTest : public test::InkFixture {
  protected:
-  InkAccessibilityTest() { InstallInkAccessibility(); }
-
   QAccessibleInterface& Spoken() { return *QAccessible::queryAccessibleInterface(m_ink); }
   QString Say(QAccessible::Text text) { return Spoken().text(text); }
 };

@@ -4,6 +4,7 @@
 #include <QInputMethodEvent>
 #include <QMouseEvent>
 
+#include "ink/ui/InkAccessibility.h"
 #include "platform/ui/Look.h"
 
 namespace quill::test {
@@ -18,6 +19,7 @@ constexpr auto kPenAbilities =
 InkFixture::InkFixture(InkAccess access) {
   g_services = {.Clock = &m_clock};
   SetUpLook(*qApp);
+  InstallInkAccessibility();
   m_window = std::make_unique<QWidget>();
   m_ink = new InkX(m_window.get(), access);
   TurnPen(QPointingDevice::PointerType::Pen);
