@@ -111,7 +111,7 @@ void BM_InkAppend(benchmark::State& state) {
   QImage window = WhitePicture(kView.size());
   AppendTimes times;
   bool fullFirst = false;
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     std::vector<double> round;
     for (const InkStrokePtr& stroke : strokes) {
       WriteSegments(window, *stroke, scale, times.Segments);
@@ -150,7 +150,7 @@ void BM_InkPaintedArea(benchmark::State& state) {
   const double scale = InkScale(static_cast<double>(state.range(0)), 1);
   qint64 painted = 0;
   qint64 changed = 0;
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     Desk desk(EmptyPage(), scale);
     for (const InkStrokePtr& stroke : GenerateStrokes(kWritten, kPointsPerStroke, kOtherSeed)) {
       desk.PenDown();

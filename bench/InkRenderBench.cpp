@@ -20,7 +20,7 @@ template <typename Work, typename Baseline>
 void Compare(benchmark::State& state, Work work, Baseline baseline) {
   std::vector<double> ours;
   std::vector<double> theirs;
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     theirs.push_back(MicrosecondsOf(baseline));
     ours.push_back(MicrosecondsOf(work));
     state.SetIterationTime(ours.back() / 1e6);

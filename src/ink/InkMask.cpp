@@ -105,10 +105,10 @@ std::pair<double, double> RowCut(const InkCapsule& capsule, const Axis& axis, do
   return interval;
 }
 
-// The pixels whose centres lie in the interval, and one more at either end.
+// The pixels whose centres lie in the interval, and at most one more at either end.
 Span Around(const std::pair<double, double>& interval) {
-  return {static_cast<int>(std::floor(interval.first - 0.5)),
-          static_cast<int>(std::ceil(interval.second + 0.5))};
+  return {static_cast<int>(std::floor(interval.first)),
+          static_cast<int>(std::ceil(interval.second))};
 }
 
 // The pixels whose centres lie well within the interval.
