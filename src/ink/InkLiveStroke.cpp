@@ -69,10 +69,8 @@ QRect InkLiveStroke::TailArea() const {
 }
 
 QRect InkLiveStroke::End() {
-  const QRect shown = m_touched;
   m_shaper.reset();
-  m_points.clear();
-  return shown;
+  return m_touched;
 }
 
 // The mask of a stroke before is cheaper to wipe than to make anew.

@@ -67,7 +67,8 @@ void CoverRow(uchar* bytes, Span pixels, const AxisRow& row, const Axis& axis) {
     const float reach = radius + 0.5F;
     if (square >= reach * reach) continue;
     const float cover = std::min(reach - std::sqrt(square), std::min(1.0F, 2 * radius));
-    *bytes = std::max(*bytes, static_cast<uchar>(std::max(cover, 0.0F) * 255 + 0.5F));
+    const float rounded = cover * 255 + 0.5F;
+    *bytes = std::max(*bytes, static_cast<uchar>(rounded));
   }
 }
 

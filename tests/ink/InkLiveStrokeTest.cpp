@@ -33,7 +33,7 @@ void Show(QImage& shown, const QImage& cache, const InkLiveStroke& live, const Q
 TEST_P(InkLiveStrokePixels, AreThoseOfRenderingWhatIsThereAfterEveryPoint) {
   const InkNote before = ScribbledNote(20, 5);
   InkNote after = before;
-  InkStroke stroke = Scribble(40, 9);
+  InkStroke stroke = Scribble(24, 9);
   QImage cache = PageOf(before, Scale());
   QImage shown = cache;
   InkLiveStroke live;
@@ -198,6 +198,9 @@ TEST(InkLiveStroke, NothingOfTheStrokeBeforeIsLeft) {
     live.Begin({.Color = 0xFFFF0000}, kScale, 0, view);
     for (const InkPoint& point : stroke.Points) live.Add(point);
     EXPECT_EQ(Shown(live), Rendered(stroke, {.Color = 0xFFFF0000}));
+    live.MoveTo(kScale, kView);
+    EXPECT_EQ(Shown(live), Rendered(stroke, {.Color = 0xFFFF0000}));
+    EXPECT_EQ(live.Cancel(), QRect(QPoint(69, 19), QPoint(80, 30)));
   }
 }
 

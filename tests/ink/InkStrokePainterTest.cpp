@@ -4,6 +4,7 @@
 
 #include <random>
 
+#include "ink/InkFormat.h"
 #include "ink/InkPictures.h"
 
 namespace quill {
@@ -154,6 +155,12 @@ TEST_P(InkPieces, AreThoseOfTheWholePage) {
     const QRect area = QRect(at, size) & whole.rect();
     ASSERT_EQ(PieceOf(note, scale, area), whole.copy(area)) << "round " << round;
   }
+}
+
+TEST_P(InkPieces, AreTheSameOfThePageThatWasSavedAndLoaded) {
+  const InkNote note = ScribbledNote(60, 11);
+  const double scale = InkScale(GetParam(), 1);
+  EXPECT_EQ(PageOf(ReadInk(WriteInk(note)).Note, scale), PageOf(note, scale));
 }
 
 INSTANTIATE_TEST_SUITE_P(Zooms, InkPieces, testing::Values(75, 100, 150, 200, 300));
