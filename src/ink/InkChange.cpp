@@ -1,6 +1,6 @@
 #include "ink/InkChange.h"
 
-#include <ranges>
+#include <algorithm>
 #include <unordered_set>
 
 #include "ink/InkDocument.h"
@@ -81,8 +81,8 @@ void InkStep::redo() {
 }
 
 void InkStep::undo() {
-  for (const InkChange& change : m_changes | std::views::reverse)
-    m_document.Apply(Reversed(change));
+  std::for_each(m_changes.rbegin(), m_changes.rend(),
+                [this](const InkChange& change) { m_document.Apply(Reversed(change)); });
 }
 
 bool InkStep::mergeWith(const QUndoCommand* other) {

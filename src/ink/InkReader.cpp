@@ -153,9 +153,10 @@ void NoteReader::AddLostPens() {
 
 // Strokes that were put behind an open note come as they were written.
 void NoteReader::PutHighlightersFirst() {
-  std::ranges::stable_partition(m_note.Strokes, [this](const InkStrokePtr& stroke) {
+  const auto isHighlighter = [this](const InkStrokePtr& stroke) {
     return m_note.Pens[stroke->Pen].Tip == InkTip::Highlighter;
-  });
+  };
+  std::stable_partition(m_note.Strokes.begin(), m_note.Strokes.end(), isHighlighter);
 }
 
 }  // namespace

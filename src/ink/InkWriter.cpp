@@ -66,9 +66,10 @@ void NoteWriter::WriteOpen(const InkNote& note) {
   std::vector<InkStrokePtr> strokes;
   strokes.reserve(note.Strokes.size());
   for (const InkStrokePtr& stroke : note.Strokes) AppendWritable(stroke, strokes);
-  std::ranges::stable_partition(strokes, [&pens](const InkStrokePtr& stroke) {
+  const auto isHighlighter = [&pens](const InkStrokePtr& stroke) {
     return pens[std::min<std::size_t>(stroke->Pen, pens.size() - 1)].Tip == InkTip::Highlighter;
-  });
+  };
+  std::stable_partition(strokes.begin(), strokes.end(), isHighlighter);
   m_bytes = InkSignature().toByteArray();
   Add(InkChunkType::kHead,
       HeadChunkPayload({.Page = note.Page, .Strokes = static_cast<quint32>(strokes.size())}));

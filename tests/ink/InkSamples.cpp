@@ -1,5 +1,7 @@
 #include "ink/InkSamples.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <random>
 
@@ -99,9 +101,10 @@ InkNote NoteMaker::Make() {
   for (int i = 0; i < pens; ++i) note.Pens.push_back(Pen());
   note.Text = Text();
   for (int i = 1 + Below(200); i > 0; --i) note.Strokes.push_back(Stroke(pens));
-  std::ranges::stable_partition(note.Strokes, [&note](const InkStrokePtr& stroke) {
+  const auto isHighlighter = [&note](const InkStrokePtr& stroke) {
     return note.Pens[stroke->Pen].Tip == InkTip::Highlighter;
-  });
+  };
+  std::stable_partition(note.Strokes.begin(), note.Strokes.end(), isHighlighter);
   if (Below(2) == 0) note.Extras.push_back({"wiND", QByteArray(Below(40), 'w')});
   return note;
 }
