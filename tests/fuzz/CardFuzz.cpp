@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "FuzzTarget.h"
 #include "exchange/CardMapper.h"
 #include "exchange/CardMerge.h"
 
@@ -35,6 +36,34 @@ void LookAt(const Card& card, ContactItem& before) {
 }
 
 }  // namespace
+
+const char* const kFuzzSuffix = ".vcf";
+
+std::vector<QByteArray> FuzzWords() {
+  return {"\r\n",
+          "\n ",
+          ";",
+          ":",
+          "\\",
+          "=",
+          "\"",
+          ",",
+          "=\r\n",
+          "BEGIN:VCARD\n",
+          "END:VCARD\n",
+          "AGENT:\n",
+          "VERSION:2.1\n",
+          ";ENCODING=QUOTED-PRINTABLE",
+          ";BASE64",
+          ";CHARSET=EUC-KR",
+          "item1.",
+          "TEL;CELL:1\n",
+          "N:a;b\n",
+          "\xFF\xFE",
+          "\xB0",
+          "\r"};
+}
+
 }  // namespace quill::test
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

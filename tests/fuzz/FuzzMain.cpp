@@ -1,4 +1,4 @@
-// quill-card-fuzz ROUNDS FOLDER...: gives the fuzz target every file of the folders and as many
+// quill-...-fuzz ROUNDS FOLDER...: gives the fuzz target every file of the folders and as many
 // seeded changes of each as there are rounds. The same rounds are the same bytes on every machine.
 // What fails is in the file failing-input then.
 #include <QCoreApplication>
@@ -9,41 +9,22 @@
 #include <cstdio>
 #include <random>
 
+#include "FuzzTarget.h"
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace {
 
 using Random = std::mt19937;
 
-// What means something in a card.
-constexpr const char* kWords[] = {"\r\n",
-                                  "\n ",
-                                  ";",
-                                  ":",
-                                  "\\",
-                                  "=",
-                                  "\"",
-                                  ",",
-                                  "=\r\n",
-                                  "BEGIN:VCARD\n",
-                                  "END:VCARD\n",
-                                  "AGENT:\n",
-                                  "VERSION:2.1\n",
-                                  ";ENCODING=QUOTED-PRINTABLE",
-                                  ";BASE64",
-                                  ";CHARSET=EUC-KR",
-                                  "item1.",
-                                  "TEL;CELL:1\n",
-                                  "N:a;b\n",
-                                  "\xFF\xFE",
-                                  "\xB0",
-                                  "\r"};
-
 qsizetype Below(Random& random, qsizetype limit) {
   return static_cast<qsizetype>(random() % static_cast<Random::result_type>(limit));
 }
 
-QByteArray Word(Random& random) { return kWords[Below(random, std::size(kWords))]; }
+QByteArray Word(Random& random) {
+  static const std::vector<QByteArray> kWords = quill::test::FuzzWords();
+  return kWords[static_cast<std::size_t>(Below(random, std::ssize(kWords)))];
+}
 
 void Change(QByteArray& bytes, Random& random) {
   const qsizetype at = Below(random, bytes.size() + 1);
@@ -91,9 +72,10 @@ int main(int argc, char* argv[]) {
   const QStringList words = QCoreApplication::arguments();
   const int rounds = words.value(1).toInt();
   Random random(1);
+  const QString pattern = u'*' + QString::fromLatin1(quill::test::kFuzzSuffix);
   int files = 0;
   for (const QString& folder : words.mid(2)) {
-    for (const QString& name : QDir(folder).entryList({QStringLiteral("*.vcf")}, QDir::Files)) {
+    for (const QString& name : QDir(folder).entryList({pattern}, QDir::Files)) {
       QFile file(QDir(folder).filePath(name));
       if (!file.open(QIODevice::ReadOnly)) return 1;
       TryChangesOf(file.readAll(), rounds, random);
