@@ -20,7 +20,6 @@ namespace {
 
 Q_LOGGING_CATEGORY(logFiles, "quill.files")
 
-constexpr QStringView kMyDocuments = u"My Documents";
 constexpr mode_t kNewFolderMode = S_IRWXU | S_IRWXG | S_IRWXO;  // less the user's mask
 
 bool IsSameName(QStringView a, QStringView b) { return a.compare(b, Qt::CaseInsensitive) == 0; }

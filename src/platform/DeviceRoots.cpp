@@ -16,6 +16,13 @@ QString RealEntry(const QString& file) {
   return folder.isEmpty() ? QString() : folder + u'/' + info.fileName();
 }
 
+// The path from a folder on, in the device's signs; empty for a file that lies elsewhere.
+QString Below(const QString& folder, const QString& real) {
+  const QString start = RealPath(folder) + u'/';
+  if (!real.startsWith(start)) return {};
+  return u'\\' + real.mid(start.size()).replace(u'/', u'\\');
+}
+
 }  // namespace
 
 QString RealPath(const QString& file) {
@@ -23,6 +30,17 @@ QString RealPath(const QString& file) {
   const QFileInfo info(file);
   if (info.exists()) return info.canonicalFilePath();
   return info.isSymLink() ? QString() : RealEntry(file);
+}
+
+QString DevicePathOf(const DeviceRoots& roots, const QString& file) {
+  const QString real = QFileInfo(file).canonicalFilePath();
+  if (real.contains(u'\\') || !DeviceReach(roots).Includes(real)) return {};
+  const QString documents = u'\\' + kMyDocuments.toString();
+  const QString inDocuments = Below(roots.MyDocuments, real);
+  if (!inDocuments.isEmpty()) return documents + inDocuments;
+  const QString onDevice = Below(roots.Device, real);
+  // What has the documents' name without being them cannot be reached.
+  return onDevice.startsWith(documents + u'\\', Qt::CaseInsensitive) ? QString() : onDevice;
 }
 
 DeviceReach::DeviceReach(const DeviceRoots& roots) : m_places({roots.Device, roots.MyDocuments}) {

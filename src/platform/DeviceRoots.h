@@ -12,6 +12,9 @@ class QFileInfo;
 
 namespace quill {
 
+// The device's name of the folder in which its user's documents lie.
+inline constexpr QStringView kMyDocuments = u"My Documents";
+
 // They need not exist before something is made in them.
 struct DeviceRoots {
   QString Device;       // "\" and what is not below My Documents
@@ -24,6 +27,9 @@ struct DeviceRoots {
 // The path without symbolic links, whether or not the file is there; empty when a link on the way
 // leads to nothing, and for an empty path.
 QString RealPath(const QString& file);
+
+// The device's path of a file that is there; empty when it is not among the device's files.
+QString DevicePathOf(const DeviceRoots& roots, const QString& file);
 
 // Answers for many files of the same roots, whose own places are looked up once.
 class DeviceReach {

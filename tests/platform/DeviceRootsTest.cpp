@@ -125,5 +125,35 @@ TEST_F(DeviceRootsTest, ARealPathHasNoLinks) {
   EXPECT_EQ(RealPath({}), QString());
 }
 
+struct DevicePathCase {
+  QString File;
+  QString Path;
+};
+
+class DevicePathOfTest : public DeviceRootsTest,
+                         public testing::WithParamInterface<DevicePathCase> {};
+
+TEST_P(DevicePathOfTest, NamesTheFilesOfTheDeviceOnly) {
+  ASSERT_TRUE(QDir(m_place.path()).mkpath(u"home/my documents"_qs));
+  for (const QString& file : {u"home/documents/below/b"_qs, u"home/c"_qs, u"home/my documents/d"_qs,
+                              u"home/documents/e\\f"_qs})
+    ASSERT_TRUE(QFile(Path(file)).open(QIODevice::WriteOnly));
+  EXPECT_EQ(DevicePathOf(Roots(), Path(GetParam().File)), GetParam().Path);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, DevicePathOfTest,
+    testing::Values(DevicePathCase{u"home/documents/a"_qs, u"\\My Documents\\a"_qs},
+                    DevicePathCase{u"home/documents/below/b"_qs, u"\\My Documents\\below\\b"_qs},
+                    DevicePathCase{u"home/documents/inside/b"_qs, u"\\My Documents\\below\\b"_qs},
+                    DevicePathCase{u"outside/back"_qs, u"\\My Documents\\a"_qs},
+                    DevicePathCase{u"home/c"_qs, u"\\c"_qs},
+                    DevicePathCase{u"home/my documents/d"_qs, QString()},
+                    DevicePathCase{u"home/documents/e\\f"_qs, QString()},
+                    DevicePathCase{u"home/documents/missing"_qs, QString()},
+                    DevicePathCase{u"home/store.db"_qs, QString()},
+                    DevicePathCase{u"home/secret"_qs, QString()},
+                    DevicePathCase{u"outside/secret"_qs, QString()}));
+
 }  // namespace
 }  // namespace quill
