@@ -43,6 +43,11 @@ RequestAnswer TakeRequest(PendingRequest& request, int kind, const QString& text
   return NamesNobody(request) ? RequestAnswer::NotFound : RequestAnswer::Kept;
 }
 
+void TakeMemo(PendingRequest& request, const QString& path) {
+  if (request.Kind != PendingKind::Memos) request = {.Kind = PendingKind::Memos};
+  request.Memos.append(path);
+}
+
 bool NamesNobody(const PendingRequest& request) {
   const bool shows = request.Kind == PendingKind::Show || request.Kind == PendingKind::ShowAgain;
   return shows && request.Contact == 0;

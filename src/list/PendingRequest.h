@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include "list/ListState.h"
 
@@ -16,6 +17,7 @@ enum class PendingKind {
   Show = 1,       // the contact that the text names
   New = 2,        // a new contact that holds the text
   ShowAgain = 4,  // the same by another entry
+  Memos = -1,     // memo files; comes by no message
 };
 
 inline constexpr qsizetype kRequestTextLimit = 128;  // UTF-16 units; what is longer is cut
@@ -24,8 +26,9 @@ inline constexpr qsizetype kRequestTextLimit = 128;  // UTF-16 units; what is lo
 // told so.
 struct PendingRequest {
   PendingKind Kind = PendingKind::None;
-  Oid Contact = 0;    // to be shown; 0 when the text names nobody
-  QString Text = {};  // of the new contact
+  Oid Contact = 0;         // to be shown; 0 when the text names nobody
+  QString Text = {};       // of the new contact
+  QStringList Memos = {};  // device paths, to be opened one after the other
 };
 extern PendingRequest g_pendingRequest;
 
@@ -36,6 +39,9 @@ enum class RequestAnswer {
 };
 // Of several contacts of one name the first in the store's order is meant.
 RequestAnswer TakeRequest(PendingRequest& request, int kind, const QString& text);
+
+// Memos that wait already stay before it.
+void TakeMemo(PendingRequest& request, const QString& path);
 
 // True for a request to show a contact that was not found.
 bool NamesNobody(const PendingRequest& request);

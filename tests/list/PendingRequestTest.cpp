@@ -44,6 +44,21 @@ TEST_F(PendingRequestTest, QuotesInANameAreFound) {
   EXPECT_EQ(m_request.Contact, oid);
 }
 
+TEST_F(PendingRequestTest, MemosWaitForOneAnother) {
+  TakeRequest(m_request, 2, u"010"_qs);
+  TakeMemo(m_request, u"\\a.pwi"_qs);
+  TakeMemo(m_request, u"\\b.pwi"_qs);
+  EXPECT_EQ(m_request.Kind, PendingKind::Memos);
+  EXPECT_EQ(m_request.Memos, QStringList({u"\\a.pwi"_qs, u"\\b.pwi"_qs}));
+  EXPECT_EQ(m_request.Text, QString());
+  TakeRequest(m_request, 2, u"010"_qs);
+  EXPECT_TRUE(m_request.Memos.isEmpty());
+}
+
+TEST_F(PendingRequestTest, MemosDoNotComeByAMessage) {
+  EXPECT_EQ(TakeRequest(m_request, -1, u"\\a.pwi"_qs), RequestAnswer::Ignored);
+}
+
 TEST_F(PendingRequestTest, TheLatestTakesTheEarliersPlaceAlsoWhenItNamesNobody) {
   const Oid kim = Add(u"Kim"_qs);
   const Oid lee = Add(u"Lee"_qs);

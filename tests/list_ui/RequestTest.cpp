@@ -3,6 +3,7 @@
 
 #include "SheetSteps.h"
 #include "ViewFixture.h"
+#include "memo/MemoFolder.h"
 #include "support/ScriptedPrompt.h"
 
 namespace quill {
@@ -82,6 +83,26 @@ TEST_F(RequestTest, TheNextNewContactIsEmptyAgain) {
     m_input.Key(Qt::Key_Escape);
   });
   m_frame->RunCommand(ID_FILE_NEW);
+}
+
+TEST_F(RequestTest, MemosAreOpenedOneAfterTheOther) {
+  FixMemoFolder(g_memo);
+  for (const char* name : {"a.pwi", "b.pwi"})
+    ASSERT_TRUE(m_deviceHome.Files.WriteWhole(MemoPath(g_memo, QLatin1String(name)), name));
+  View().ShowMode(ViewMode::ByMemo);
+  ASSERT_TRUE(m_deviceHome.Files.WriteWhole(MemoPath(g_memo, QStringLiteral("c.pwi")), "c"));
+  View().OpenMemoFile(MemoPath(g_memo, QStringLiteral("a.pwi")));
+  View().OpenMemoFile(MemoPath(g_memo, QStringLiteral("b.pwi")));
+  const auto cancel = [this](const QByteArray& content) {
+    return [this, content] {
+      EXPECT_EQ(g_memo.Buffer, content);
+      EXPECT_EQ(m_screen->Topmost()->Caption(), QStringLiteral("Memo"));
+      m_screen->Topmost()->OnCancel();
+    };
+  };
+  const test::Steps steps(*m_screen, {cancel("a.pwi"), cancel("b.pwi")});
+  m_timers.Advance(100);
+  EXPECT_EQ(g_memo.NameList.size(), 3);
 }
 
 TEST_F(RequestTest, ANameThatNobodyHasIsSaidOnceTheAnswerIsGiven) {

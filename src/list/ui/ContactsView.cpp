@@ -172,6 +172,11 @@ bool CContactsView::OnCopyData(int kind, const QString& text) {
   return answer == RequestAnswer::Kept;
 }
 
+void CContactsView::OpenMemoFile(const QString& path) {
+  TakeMemo(g_pendingRequest, path);
+  WaitForPending();
+}
+
 void CContactsView::WaitForPending() {
   if (g_pendingRequest.Kind != PendingKind::None)
     g_services.Timers->Set(*this, kRequestTimer, kRequestMilliseconds);
@@ -189,6 +194,8 @@ void CContactsView::ShowRequest(const PendingRequest& request) {
   if (request.Kind == PendingKind::New) {
     g_sheet.SeedText = request.Text;
     MakeNewContact(*this);
+  } else if (request.Kind == PendingKind::Memos) {
+    OpenMemoFiles(*this, request.Memos);
   } else if (NamesNobody(request)) {
     g_services.Prompt->Show({.Text = QStringLiteral("Related name not found.")});
   } else {

@@ -47,6 +47,8 @@ class CContactsView : public QWidget, public TimerTarget {
   // open and the pen is up. That nobody has the name asked for is said then, too, unless another
   // request has come meanwhile.
   bool OnCopyData(int kind, const QString& text);
+  // The same for a memo file, by its device path.
+  void OpenMemoFile(const QString& path);
   void OnTimer(int id) override;
 
   // Fills the page again with the filter in force.

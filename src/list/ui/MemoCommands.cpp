@@ -91,4 +91,9 @@ void OpenMemo(CContactsView& view) {
   view.Rebuild();
 }
 
+void OpenMemoFiles(CContactsView& view, const QStringList& paths) {
+  for (const QString& path : paths) EditMemoFile(*ScreenAround(&view), path);
+  if (g_list.Mode == ViewMode::ByMemo) view.Rebuild();
+}
+
 }  // namespace quill

@@ -2,6 +2,8 @@
 // lists the folder anew.
 #pragma once
 
+#include <QStringList>
+
 #include <memory>
 
 #include "platform/CommandTarget.h"
@@ -21,5 +23,7 @@ void DeleteListedMemos(CContactsView& view);
 // Begins a memo of no contact. The list is built anew only for a memo that was written.
 void MakeNewMemo(CContactsView& view);
 void OpenMemo(CContactsView& view);
+// One after the other, by their device paths.
+void OpenMemoFiles(CContactsView& view, const QStringList& paths);
 
 }  // namespace quill
