@@ -17,7 +17,7 @@ inline constexpr qsizetype kRequestLineLimit = 64 * 1024;  // bytes, the line fe
 enum class RequestKind {
   Show,      // show the contact that Text names
   New,       // begin a new contact with Text
-  Open,      // bring in the contacts of Files
+  Open,      // bring in the contacts of Files, and open those that are memos
   Activate,  // come to the front
 };
 

@@ -209,7 +209,8 @@ QString HelpText(const Verb* verb) {
   options.reserve(kOptions.size());
   for (const ProgramOption& option : kOptions) options.push_back(RowOf(option.Shown));
   return QStringLiteral(
-             "quill [FILE...]      open the window, with the contacts of these files brought in\n"
+             "quill [FILE...]      open the window, with the contacts of these files brought in;\n"
+             "                     of memos (.pwi) it opens the editor\n"
              "quill COMMAND ...    do something without a window\n") +
          HelpLines(QStringLiteral("Commands (quill COMMAND --help tells more):"), verbs) +
          HelpLines(QStringLiteral("Options:"), options);

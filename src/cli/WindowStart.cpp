@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "app/MemoTaking.h"
 #include "app/RequestChannel.h"
 #include "cli/ImportVerb.h"
 #include "cli/PrepareHome.h"
@@ -42,6 +43,16 @@ bool FilesExist(const CommandLine& line, const Console& console) {
     return false;
   }
   return true;
+}
+
+// Memo files are for the window, which is asked to open them.
+CommandLine WithMemosAsked(CommandLine line) {
+  QStringList memos;
+  for (const QString& file : line.Arguments)
+    if (IsMemoFile(file)) memos.append(QFileInfo(file).absoluteFilePath());
+  line.Arguments.removeIf(IsMemoFile);
+  if (!memos.isEmpty()) line.FirstRequest = Request{RequestKind::Open, {}, memos};
+  return line;
 }
 
 // True also when there was nothing to bring in.
@@ -89,9 +100,10 @@ WindowStart OpenOrHandOver(const CommandLine& line, const Places& places, const 
 
 }  // namespace
 
-WindowStart StartWindow(const CommandLine& line, const QProcessEnvironment& environment,
+WindowStart StartWindow(const CommandLine& words, const QProcessEnvironment& environment,
                         const Console& console) {
-  if (!FilesExist(line, console)) return Ended(kExitFailed);
+  if (!FilesExist(words, console)) return Ended(kExitFailed);
+  const CommandLine line = WithMemosAsked(words);
   if (!HasDisplay(environment)) {
     ExplainMissingDisplay(console);
     return Ended(kExitFailed);

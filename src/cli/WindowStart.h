@@ -17,9 +17,10 @@ struct WindowStart {
   int ExitCode = 0;                  // of the process, then
 };
 
-// Brings the line's files in first; a file that cannot be read ends the start. A window that is
-// open gets the line's request, or is asked to come to the front. Needs an application object.
-WindowStart StartWindow(const CommandLine& line, const QProcessEnvironment& environment,
+// Brings the line's contacts in first; a file that cannot be read ends the start. A window that is
+// open gets the line's request, which its memo files are too, or is asked to come to the front.
+// Needs an application object.
+WindowStart StartWindow(const CommandLine& words, const QProcessEnvironment& environment,
                         const Console& console);
 
 }  // namespace quill

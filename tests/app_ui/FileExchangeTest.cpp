@@ -50,6 +50,20 @@ TEST_F(FileExchangeTest, TakesFilesAndTellsThatContactsCameIn) {
   EXPECT_EQ(m_imports, 1);
 }
 
+TEST_F(FileExchangeTest, MemosAreHandedOnAndNoContactsCameIn) {
+  QStringList taken;
+  m_files.MemoTaken = [&taken](const QString& path) { taken.append(path); };
+  m_files.Take({Write(QStringLiteral("a.pwi"), "ink")});
+  EXPECT_EQ(taken, QStringList{QStringLiteral("\\a.pwi")});
+  EXPECT_EQ(m_imports, 0);
+}
+
+TEST_F(FileExchangeTest, AMemoThatIsNotThereIsToldByItsName) {
+  m_prompt.Expect(PromptAnswer::OK);
+  m_files.Take({Path(QStringLiteral("gone.pwi"))});
+  EXPECT_EQ(m_prompt.Shown()[0].Text, QStringLiteral("gone.pwi could not be brought in."));
+}
+
 TEST_F(FileExchangeTest, WhatComesMeanwhileWaitsForItsTurn) {
   const QString first = Write(QStringLiteral("first.vcf"), CardOf("\xB1\xE8"));
   const QString second = Write(QStringLiteral("second.vcf"), CardOf("Kim"));

@@ -112,6 +112,25 @@ TEST_F(WindowStartOf, FilesAreBroughtInBesideAnOpenWindow) {
   EXPECT_EQ(Run({u"list"_qs}), kExitDone);
 }
 
+TEST_F(WindowStartOf, MemosAreForTheWindowToOpen) {
+  const QString memo = MakeFile(u"a.pwi"_qs, "ink");
+  const WindowStart start = Start({CardFile(), memo});
+  ASSERT_TRUE(start.Running);
+  EXPECT_THAT(TakeOut(), HasSubstr("1 new"));
+  start.Running->HandleFirstRequest([this](const Request& request) {
+    m_seen.append(request);
+    return true;
+  });
+  EXPECT_EQ(m_seen, QList<Request>({{RequestKind::Open, {}, {memo}}}));
+}
+
+TEST_F(WindowStartOf, MemosAreHandedOverToAnOpenWindow) {
+  const QString memo = MakeFile(u"a.PWI"_qs, "ink");
+  const WindowStart first = Start({});
+  EXPECT_EQ(StartBesideWindow(*first.Running, {memo}), kExitDone);
+  EXPECT_EQ(m_seen, QList<Request>({Request{RequestKind::Open, {}, {memo}}}));
+}
+
 TEST_F(WindowStartOf, AFileThatCannotBeReadEndsTheStart) {
   const WindowStart start = Start({u"/proc/self/mem"_qs});
   EXPECT_FALSE(start.Running);

@@ -105,6 +105,7 @@ void CContactsApp::InitInstance() {
 
 void CContactsApp::AcceptDrops() {
   m_files->Imported = [this] { m_frame->View().Rebuild(); };
+  m_files->MemoTaken = [this](const QString& path) { m_frame->View().OpenMemoFile(path); };
   m_outer->MayDrop = [this] { return IsIdle(); };
   m_outer->FilesDropped = [this](const QStringList& files) { TakeLater(files); };
 }

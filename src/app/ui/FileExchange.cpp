@@ -2,10 +2,13 @@
 
 #include <QFileInfo>
 
+#include "app/MemoTaking.h"
 #include "app/ui/FileExport.h"
 #include "app/ui/FileImport.h"
 #include "cli/CardFiles.h"
 #include "list/ListState.h"
+#include "platform/Prompt.h"
+#include "platform/Services.h"
 #include "platform/ui/FileListDlg.h"
 
 namespace quill {
@@ -58,8 +61,17 @@ void FileExchange::Export() {
 }
 
 void FileExchange::Take(const QStringList& files) {
-  m_waiting.append(files);
+  QStringList cards;
+  for (const QString& file : files) IsMemoFile(file) ? TakeMemo(file) : cards.append(file);
+  if (!cards.isEmpty()) m_waiting.append(cards);
   if (!m_isBusy) TakeWaiting();
+}
+
+void FileExchange::TakeMemo(const QString& file) {
+  const QString path = TakeMemoFile(file, DeviceRootsOf(m_places), g_memo);
+  if (!path.isEmpty()) return MemoTaken(path);
+  g_services.Prompt->Show(
+      {.Text = QStringLiteral("%1 could not be brought in.").arg(QFileInfo(file).fileName())});
 }
 
 void FileExchange::TakeWaiting() {

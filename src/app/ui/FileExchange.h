@@ -27,14 +27,17 @@ class FileExchange {
   // Ask for a file, do it, tell what came of it.
   void Import();
   void Export();
-  // Files and folders, as the import command takes them.
+  // Files and folders, as the import command takes them; memo files are opened instead.
   void Take(const QStringList& files);
 
   // Called after each import.
   std::function<void()> Imported;
+  // Called with the device path of each memo that is to be opened.
+  std::function<void(const QString& path)> MemoTaken;
 
  private:
   QString Folder() const;
+  void TakeMemo(const QString& file);
   void TakeWaiting();
 
   CScreen& m_screen;
