@@ -1,10 +1,10 @@
 #include "ink/InkTextLayout.h"
 
-#include <QGuiApplication>
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "ink/InkTextEditing.h"
 
@@ -12,351 +12,218 @@ namespace quill {
 
 namespace {
 
-// A paragraph without breaks that is so many times wider than a line was never laid out.
-constexpr qreal kNeverLaidOut = 1.25;
+constexpr qreal kLineEndWidth = 4;  // shows that a line's end is selected
+constexpr int kNowhere = -1;
 
 qreal Pixels(qint64 units) { return static_cast<qreal>(units) / kInkUnitsPerPixel; }
 
-QFont FontOf(const InkTextRun& run) {
-  QFont font = QGuiApplication::font();
-  font.setPixelSize(std::clamp(qRound(Pixels(run.Size)), 1, 1000));
-  font.setBold((run.Flags & kInkBold) != 0);
-  font.setItalic((run.Flags & kInkItalic) != 0);
-  font.setUnderline((run.Flags & kInkUnderline) != 0);
-  font.setHintingPreference(QFont::PreferNoHinting);
-  return font;
-}
-
-QList<QTextLayout::FormatRange> FormatsOf(const std::vector<InkTextRun>& runs) {
-  QList<QTextLayout::FormatRange> formats;
-  int start = 0;
-  for (const InkTextRun& run : runs) {
-    QTextCharFormat format;
-    format.setFont(FontOf(run));
-    format.setForeground(QColor::fromRgba(run.Color));
-    formats.append({start, run.Length, format});
-    start += run.Length;
-  }
-  return formats;
-}
-
-// The lines' own height is that of their fonts: they are moved so that all stand on their rules.
-void PlaceLine(QTextLine line, qreal lineHeight) {
-  const qreal baseline = (line.lineNumber() + 1) * lineHeight - kInkBaselineAboveRule;
-  line.setPosition(QPointF(0, baseline - line.ascent()));
+qreal OverhangOf(const InkText& text) {
+  int pixels = InkFontPixels({});
+  for (const InkTextRun& run : text.Runs) pixels = std::max(pixels, InkFontPixels(run));
+  return pixels;
 }
 
 }  // namespace
 
+InkTextLayout::InkTextLayout() { Load({}, kDefaultRulePitch); }
+
 void InkTextLayout::Load(const InkText& text, quint32 linePitch) {
   m_origin = {Pixels(text.X), Pixels(text.Y)};
   const qreal width = Pixels(text.WrapWidth);
-  const qreal lineHeight = linePitch > 0 ? Pixels(linePitch) : 24;
-  if (width != m_width || lineHeight != m_lineHeight) m_paragraphs.clear();
+  if (width != m_width) m_paragraphs.clear();
   m_width = width;
-  m_lineHeight = lineHeight;
-  Adopt(Split(text));
+  m_lineHeight = Pixels(linePitch > 0 ? linePitch : kDefaultRulePitch);
+  Adopt(text);
+  LayOutMissing(kNowhere, kNowhere);
 }
 
 void InkTextLayout::Edit(const InkText& text, int from, int to) {
-  Adopt(Split(text));
-  for (Paragraph& paragraph : m_paragraphs)
-    if (paragraph.Start <= to && paragraph.Start + paragraph.Size() >= from)
-      LayOut(paragraph, Breaking::Anew);
-  PlaceParagraphs();
+  Adopt(text);
+  LayOutMissing(from, to);
 }
 
-void InkTextLayout::SetPreedit(const InkPreedit& preedit) {
-  if (preedit == m_preedit) return;
-  const int before = m_preedit.Position;
-  const bool had = !m_preedit.Text.isEmpty();
+// Paragraphs that are as before, from the front and from the back, keep their lines.
+void InkTextLayout::Adopt(const InkText& text) {
   m_preedit = {};
-  if (had) LayOutAt(before, Breaking::Stored);
-  m_preedit = preedit;
-  if (!preedit.Text.isEmpty()) LayOutAt(preedit.Position, Breaking::Anew);
-}
-
-void InkTextLayout::LayOutAt(int position, Breaking breaking) {
-  if (m_paragraphs.empty()) Adopt(Split({.Text = QString(), .Runs = {}, .SoftBreaks = {}}));
-  auto& paragraph = const_cast<Paragraph&>(ParagraphAt(position));
-  LayOut(paragraph, breaking);
-  PlaceParagraphs();
-}
-
-std::vector<InkTextLayout::Paragraph> InkTextLayout::Split(const InkText& text) const {
-  std::vector<Paragraph> paragraphs;
-  auto nextBreak = text.SoftBreaks.begin();
-  for (int start = 0; start <= text.Text.size();) {
-    const int end = ParagraphEnd(text.Text, start);
-    Paragraph paragraph;
-    paragraph.Start = start;
-    paragraph.Text = text.Text.mid(start, end - start);
-    for (; nextBreak != text.SoftBreaks.end() && *nextBreak <= end; ++nextBreak)
-      paragraph.Breaks.push_back(*nextBreak - start);
-    paragraphs.push_back(std::move(paragraph));
-    start = end + 1;
-  }
-  std::size_t at = 0;
-  int start = 0;
-  for (const InkTextRun& run : text.Runs) {  // each paragraph's share of the runs
-    const int end = start + run.Length;
-    for (; at < paragraphs.size() && paragraphs[at].Start < end; ++at) {
-      Paragraph& paragraph = paragraphs[at];
-      const int paragraphEnd = paragraph.Start + paragraph.Size();
-      InkTextRun share = run;
-      share.Length = std::min(end, paragraphEnd) - std::max(start, paragraph.Start);
-      if (share.Length > 0) paragraph.Runs.push_back(share);
-      if (paragraphEnd >= end) break;
-    }
-    start = end;
-  }
-  return paragraphs;
-}
-
-// Paragraphs that are as before, from the front and from the back, keep their layout.
-void InkTextLayout::Adopt(std::vector<Paragraph> paragraphs) {
-  const auto same = [](const Paragraph& one, const Paragraph& other) {
-    return one.Text == other.Text && one.Runs == other.Runs && one.Breaks == other.Breaks;
+  m_overhang = OverhangOf(text);
+  const std::vector<Placed> before = std::exchange(m_paragraphs, {});
+  for (InkParagraph& paragraph : SplitInkText(text))
+    m_paragraphs.push_back({.Paragraph = std::move(paragraph)});
+  const auto isAsBefore = [](const Placed& now, const Placed& then) {
+    return now.Paragraph == then.Paragraph;
   };
-  std::size_t front = 0;
-  const std::size_t shared = std::min(paragraphs.size(), m_paragraphs.size());
-  for (; front < shared && same(paragraphs[front], m_paragraphs[front]); ++front)
-    paragraphs[front].Layout = m_paragraphs[front].Layout;
-  for (std::size_t back = 1; back <= shared - front; ++back) {
-    Paragraph& now = paragraphs[paragraphs.size() - back];
-    const Paragraph& before = m_paragraphs[m_paragraphs.size() - back];
-    if (!same(now, before)) break;
-    now.Layout = before.Layout;
-  }
-  for (Paragraph& paragraph : paragraphs)
-    if (!paragraph.Layout) LayOut(paragraph, Breaking::Stored);
-  m_paragraphs = std::move(paragraphs);
-  PlaceParagraphs();
+  const auto keep = [](auto now, auto end, auto then) {
+    for (; now != end; ++now, ++then) now->Stored = then->Stored;
+  };
+  const auto front = std::ranges::mismatch(m_paragraphs, before, isAsBefore);
+  keep(m_paragraphs.begin(), front.in1, before.begin());
+  const auto left = std::min(m_paragraphs.end() - front.in1, before.end() - front.in2);
+  const auto back = std::mismatch(m_paragraphs.rbegin(), m_paragraphs.rbegin() + left,
+                                  before.rbegin(), isAsBefore);
+  keep(m_paragraphs.rbegin(), back.first, before.rbegin());
 }
 
-void InkTextLayout::LayOut(Paragraph& paragraph, Breaking breaking) const {
-  const InkTextRun first = paragraph.Runs.empty() ? InkTextRun{} : paragraph.Runs.front();
-  auto layout = std::make_shared<QTextLayout>(paragraph.Text, FontOf(first));
-  QList<QTextLayout::FormatRange> formats = FormatsOf(paragraph.Runs);
-  const int preeditAt = m_preedit.Position - paragraph.Start;
-  if (!m_preedit.Text.isEmpty() && preeditAt >= 0 && preeditAt <= paragraph.Size()) {
-    layout->setPreeditArea(preeditAt, m_preedit.Text);
-    for (QTextLayout::FormatRange format : m_preedit.Formats) {
-      format.start += preeditAt;
-      formats.append(format);
-    }
+void InkTextLayout::LayOutMissing(int editedFrom, int editedTo) {
+  int start = 0;
+  for (Placed& placed : m_paragraphs) {
+    placed.Start = start;
+    start = placed.End() + 1;
+    if (placed.Stored) continue;
+    const bool isEdited = placed.Start <= editedTo && placed.End() >= editedFrom;
+    placed.Stored = std::make_shared<InkLines>(placed.Paragraph, m_width,
+                                               isEdited ? InkBreaking::Anew : InkBreaking::Stored);
+    placed.Paragraph.Breaks = placed.Stored->Breaks();
   }
-  layout->setFormats(formats);
-  layout->beginLayout();
-  if (breaking == Breaking::Stored) {
-    int start = 0;
-    for (const int at : paragraph.Breaks) {
-      if (QTextLine line = layout->createLine(); line.isValid()) line.setNumColumns(at - start);
-      start = at;
-    }
-  }
-  const bool keepsLast = breaking == Breaking::Stored && !paragraph.Breaks.empty();
-  for (QTextLine line = layout->createLine(); line.isValid(); line = layout->createLine()) {
-    line.setNumColumns(std::max(paragraph.Size() + static_cast<int>(m_preedit.Text.size()), 1));
-    const bool mayStay = breaking == Breaking::Stored &&
-                         (keepsLast || line.naturalTextWidth() <= m_width * kNeverLaidOut);
-    if (!mayStay && m_width > 0) line.setLineWidth(m_width);
-  }
-  layout->endLayout();
-  for (int i = 0; i < layout->lineCount(); ++i) PlaceLine(layout->lineAt(i), m_lineHeight);
-  paragraph.Layout = std::move(layout);
-  if (m_preedit.Text.isEmpty()) {
-    paragraph.Breaks.clear();
-    for (int i = 1; i < paragraph.Layout->lineCount(); ++i)
-      paragraph.Breaks.push_back(paragraph.Layout->lineAt(i).textStart());
-  }
+  PlaceParagraphs();
 }
 
 void InkTextLayout::PlaceParagraphs() {
   int line = 0;
-  for (Paragraph& paragraph : m_paragraphs) {
-    paragraph.FirstLine = line;
-    line += paragraph.LineCount();
+  for (Placed& placed : m_paragraphs) {
+    placed.FirstLine = line;
+    line += placed.Lines().Count();
   }
+}
+
+void InkTextLayout::SetPreedit(const InkPreedit& preedit) {
+  if (preedit == m_preedit) return;
+  m_paragraphs[IndexOf(m_preedit.Position)].Composed.reset();
+  m_preedit = preedit;
+  if (!preedit.Text.isEmpty()) Compose(m_paragraphs[IndexOf(preedit.Position)]);
+  PlaceParagraphs();
+}
+
+void InkTextLayout::Compose(Placed& placed) {
+  const InkComposed composed{.At = m_preedit.Position - placed.Start,
+                             .Text = m_preedit.Text,
+                             .Formats = m_preedit.Formats};
+  placed.Composed = std::make_shared<InkLines>(placed.Paragraph, m_width, composed);
 }
 
 std::vector<int> InkTextLayout::SoftBreaks() const {
   std::vector<int> breaks;
-  for (const Paragraph& paragraph : m_paragraphs)
-    for (const int at : paragraph.Breaks) breaks.push_back(paragraph.Start + at);
+  for (const Placed& placed : m_paragraphs)
+    for (const int at : placed.Stored->Breaks()) breaks.push_back(placed.Start + at);
   return breaks;
 }
 
-const InkTextLayout::Paragraph& InkTextLayout::ParagraphAt(int position) const {
-  const auto after = std::ranges::upper_bound(m_paragraphs, position, {}, &Paragraph::Start);
-  return after == m_paragraphs.begin() ? *after : *std::prev(after);
+std::size_t InkTextLayout::IndexOf(int position) const {
+  const auto after = std::ranges::upper_bound(m_paragraphs, position, {}, &Placed::Start);
+  return static_cast<std::size_t>(after - m_paragraphs.begin()) - 1;
 }
 
-const InkTextLayout::Paragraph& InkTextLayout::ParagraphOfLine(int line) const {
-  const auto after = std::ranges::upper_bound(m_paragraphs, line, {}, &Paragraph::FirstLine);
-  return after == m_paragraphs.begin() ? *after : *std::prev(after);
+InkTextLayout::Found InkTextLayout::FindLine(int line) const {
+  const auto after = std::ranges::upper_bound(m_paragraphs, line, {}, &Placed::FirstLine);
+  const Placed& placed = *std::prev(after);
+  return {placed, line - placed.FirstLine};
 }
 
-int InkTextLayout::ShownPosition(const Paragraph& paragraph, int position) const {
-  const int within = position - paragraph.Start;
-  if (m_preedit.Text.isEmpty() || position < m_preedit.Position) return within;
+// Lines may be longer by what is composed in them; its caret stands within that.
+int InkTextLayout::ShownPosition(const Placed& placed, int position) const {
+  const int within = position - placed.Start;
+  if (!placed.Composed || position < m_preedit.Position) return within;
   const bool isCaret = position == m_preedit.Position;
   return within + (isCaret ? m_preedit.Cursor : static_cast<int>(m_preedit.Text.size()));
 }
 
-int InkTextLayout::StoredPosition(const Paragraph& paragraph, int shown) const {
-  const int length = static_cast<int>(m_preedit.Text.size());
-  const int at = m_preedit.Position - paragraph.Start;
-  if (length == 0 || shown <= at || at < 0) return paragraph.Start + shown;
-  return paragraph.Start + std::max(at, shown - length);
+int InkTextLayout::StoredPosition(const Placed& placed, int shown) const {
+  const int at = m_preedit.Position - placed.Start;
+  if (!placed.Composed || shown <= at) return placed.Start + shown;
+  return placed.Start + std::max(at, shown - static_cast<int>(m_preedit.Text.size()));
 }
 
 QRectF InkTextLayout::Bounds() const {
-  if (m_paragraphs.empty() || (m_paragraphs.size() == 1 && m_paragraphs.front().Text.isEmpty() &&
-                               m_preedit.Text.isEmpty())) {
-    return {};
-  }
+  const bool isEmpty = End() == 0 && m_preedit.Text.isEmpty();
+  if (isEmpty) return {};
   qreal width = 1;  // empty lines are there too
-  for (const Paragraph& paragraph : m_paragraphs)
-    for (int i = 0; i < paragraph.Layout->lineCount(); ++i)
-      width = std::max(width, paragraph.Layout->lineAt(i).naturalTextWidth());
+  for (const Placed& placed : m_paragraphs) width = std::max(width, placed.Lines().Width());
   return {m_origin.x(), m_origin.y(), width, LineCount() * m_lineHeight};
+}
+
+QRectF InkTextLayout::PaintedBounds() const {
+  const QRectF bounds = Bounds();
+  if (bounds.isNull()) return {};
+  return bounds.adjusted(-m_overhang, -m_overhang, m_overhang, m_overhang);
 }
 
 std::vector<InkTextLine> InkTextLayout::Lines() const {
   std::vector<InkTextLine> lines;
-  for (const Paragraph& paragraph : m_paragraphs)
-    for (int i = 0; i < paragraph.Layout->lineCount(); ++i) {
-      const QTextLine line = paragraph.Layout->lineAt(i);
-      const int from = paragraph.Start + line.textStart();
-      const qreal below = TopOfLine(paragraph.FirstLine + i + 1);
-      lines.push_back(
-          {{m_origin.x(), below - kInkBaselineAboveRule}, from, from + line.textLength()});
+  for (const Placed& placed : m_paragraphs)
+    for (int i = 0; i < placed.Stored->Count(); ++i) {
+      const qreal below = TopOfLine(placed.FirstLine + i + 1);
+      lines.push_back({{m_origin.x(), below - kInkBaselineAboveRule},
+                       placed.Start + placed.Stored->Begin(i),
+                       placed.Start + placed.Stored->End(i)});
     }
   return lines;
 }
 
 int InkTextLayout::LineOf(int position) const {
-  if (m_paragraphs.empty()) return 0;
-  const Paragraph& paragraph = ParagraphAt(position);
-  const QTextLine line = paragraph.Layout->lineForTextPosition(ShownPosition(paragraph, position));
-  return paragraph.FirstLine + (line.isValid() ? line.lineNumber() : 0);
+  const Placed& placed = ParagraphAt(position);
+  return placed.FirstLine + placed.Lines().LineOf(ShownPosition(placed, position));
 }
 
 int InkTextLayout::LineCount() const {
-  return m_paragraphs.empty() ? 0 : m_paragraphs.back().FirstLine + m_paragraphs.back().LineCount();
+  return m_paragraphs.back().FirstLine + m_paragraphs.back().Lines().Count();
 }
 
 qreal InkTextLayout::TopOfLine(int line) const { return m_origin.y() + line * m_lineHeight; }
 
-QTextLine InkTextLayout::LineAt(int line) const {
-  const Paragraph& paragraph = ParagraphOfLine(line);
-  return paragraph.Layout->lineAt(line - paragraph.FirstLine);
-}
-
 int InkTextLayout::PositionAt(QPointF at) const {
-  if (m_paragraphs.empty()) return 0;
   const qreal wanted = std::floor((at.y() - m_origin.y()) / m_lineHeight);
-  const int line = static_cast<int>(std::clamp<qreal>(wanted, 0, LineCount() - 1));
-  const Paragraph& paragraph = ParagraphOfLine(line);
-  const QTextLine shown = LineAt(line);
-  if (!shown.isValid()) return paragraph.Start;
-  int within = shown.xToCursor(at.x() - m_origin.x());
-  // A click behind the end of a broken line stays in that line.
-  const bool isLastLine = shown.lineNumber() + 1 == paragraph.Layout->lineCount();
-  if (!isLastLine && within >= shown.textStart() + shown.textLength())
-    within = paragraph.Layout->previousCursorPosition(within);
-  return StoredPosition(paragraph, within);
+  const Found found = FindLine(static_cast<int>(std::clamp<qreal>(wanted, 0, LineCount() - 1)));
+  return StoredPosition(found.In, found.In.Lines().PositionAt(found.Line, at.x() - m_origin.x()));
 }
 
 bool InkTextLayout::IsTextAt(QPointF at) const {
   if (!Bounds().contains(at)) return false;
-  const QTextLine line = LineAt(static_cast<int>((at.y() - m_origin.y()) / m_lineHeight));
-  return line.isValid() && at.x() - m_origin.x() <= line.naturalTextWidth();
+  const int line = static_cast<int>((at.y() - m_origin.y()) / m_lineHeight);
+  const Found found = FindLine(std::min(line, LineCount() - 1));
+  return at.x() - m_origin.x() <= found.In.Lines().Width(found.Line);
+}
+
+qreal InkTextLayout::X(const Found& found, int position) const {
+  return m_origin.x() + found.In.Lines().X(found.Line, ShownPosition(found.In, position));
 }
 
 QRectF InkTextLayout::Caret(int position) const {
-  const qreal top = TopOfLine(LineOf(position)) + 3;
-  qreal x = m_origin.x();
-  if (!m_paragraphs.empty()) {
-    const Paragraph& paragraph = ParagraphAt(position);
-    const int shown = ShownPosition(paragraph, position);
-    const QTextLine line = paragraph.Layout->lineForTextPosition(shown);
-    if (line.isValid()) x += line.cursorToX(shown);
-  }
-  return {x, top, 1, m_lineHeight - 5};
+  const int line = LineOf(position);
+  return {X(FindLine(line), position), TopOfLine(line) + 3, 1, m_lineHeight - 5};
 }
 
 std::vector<QRectF> InkTextLayout::Selection(int from, int to) const {
   std::vector<QRectF> rectangles;
-  if (m_paragraphs.empty() || from >= to) return rectangles;
+  if (from >= to) return rectangles;
   for (int line = LineOf(from); line <= LineOf(to); ++line) {
-    const Paragraph& paragraph = ParagraphOfLine(line);
-    const QTextLine shown = LineAt(line);
-    if (!shown.isValid()) continue;
-    const int start = paragraph.Start + shown.textStart();
-    const int end = start + shown.textLength();
-    const qreal left = shown.cursorToX(std::max(from, start) - paragraph.Start);
-    const qreal right = shown.cursorToX(std::min(to, end) - paragraph.Start);
-    const qreal lineEnd = to > end ? 4 : 0;  // shows that the line's end is selected
-    if (right + lineEnd > left)
-      rectangles.emplace_back(m_origin.x() + left, TopOfLine(line), right - left + lineEnd,
-                              m_lineHeight);
+    const Found found = FindLine(line);
+    const int begin = StoredPosition(found.In, found.In.Lines().Begin(found.Line));
+    const int end = StoredPosition(found.In, found.In.Lines().End(found.Line));
+    const qreal left = X(found, std::max(from, begin));
+    const qreal right = X(found, std::min(to, end)) + (to > end ? kLineEndWidth : 0);
+    const QRectF shown(QPointF(left, TopOfLine(line)), QPointF(right, TopOfLine(line + 1)));
+    if (left != right) rectangles.push_back(shown.normalized());
   }
   return rectangles;
 }
 
-int InkTextLayout::End() const { return m_paragraphs.back().Start + m_paragraphs.back().Size(); }
-
-int InkTextLayout::BesideLine(int position, int line) const {
-  const QRectF caret = Caret(position);
-  return PositionAt({caret.x(), TopOfLine(line) + m_lineHeight / 2});
+int InkTextLayout::LineBegin(int line) const {
+  const Found found = FindLine(line);
+  return StoredPosition(found.In, found.In.Lines().Begin(found.Line));
 }
 
-int InkTextLayout::WordEdge(int position, InkCaretMove move) const {
-  const Paragraph& paragraph = ParagraphAt(position);
-  const int within = position - paragraph.Start;
-  const bool left = move == InkCaretMove::Left || move == InkCaretMove::WordLeft;
-  const auto mode = move == InkCaretMove::WordLeft || move == InkCaretMove::WordRight
-                        ? QTextLayout::SkipWords
-                        : QTextLayout::SkipCharacters;
-  if (left && within == 0) return std::max(position - 1, 0);
-  const Paragraph& last = m_paragraphs.back();
-  if (!left && within == paragraph.Size()) return std::min(position + 1, last.Start + last.Size());
-  return paragraph.Start + (left ? paragraph.Layout->previousCursorPosition(within, mode)
-                                 : paragraph.Layout->nextCursorPosition(within, mode));
-}
-
-int InkTextLayout::Moved(int position, InkCaretMove move) const {
-  if (m_paragraphs.empty()) return 0;
-  const int line = LineOf(position);
-  const Paragraph& paragraph = ParagraphAt(position);
-  const QTextLine shown = LineAt(line);
-  switch (move) {
-    case InkCaretMove::Up:
-      return line == 0 ? 0 : BesideLine(position, line - 1);
-    case InkCaretMove::Down:
-      return line + 1 >= LineCount() ? End() : BesideLine(position, line + 1);
-    case InkCaretMove::LineStart:
-      return paragraph.Start + (shown.isValid() ? shown.textStart() : 0);
-    case InkCaretMove::LineEnd:
-      return shown.isValid() ? PositionAt({1e6, TopOfLine(line) + 1}) : paragraph.Start;
-    case InkCaretMove::TextStart:
-      return 0;
-    case InkCaretMove::TextEnd:
-      return End();
-    default:
-      return WordEdge(position, move);
-  }
+int InkTextLayout::LineLast(int line) const {
+  const Found found = FindLine(line);
+  return StoredPosition(found.In, found.In.Lines().Last(found.Line));
 }
 
 void InkTextLayout::Paint(QPainter& painter, const QRectF& area) const {
-  for (const Paragraph& paragraph : m_paragraphs) {
-    const qreal top = TopOfLine(paragraph.FirstLine);
-    if (top > area.bottom()) return;
-    if (top + paragraph.LineCount() * m_lineHeight < area.top()) continue;
-    paragraph.Layout->draw(&painter, {m_origin.x(), top}, {}, area);
-  }
+  for (const Placed& placed : m_paragraphs)
+    for (int i = 0; i < placed.Lines().Count(); ++i) {
+      const qreal below = TopOfLine(placed.FirstLine + i + 1);
+      if (below + m_overhang < area.top()) continue;
+      if (below - m_lineHeight - m_overhang > area.bottom()) return;
+      placed.Lines().Paint(painter, i, {m_origin.x(), below - kInkBaselineAboveRule});
+    }
 }
 
 }  // namespace quill

@@ -6,15 +6,10 @@
 // or when it has no breaks and is far wider than a line.
 #pragma once
 
-#include <QTextLayout>
-
 #include <memory>
-#include <optional>
 #include <vector>
 
-#include "ink/InkNote.h"
-
-class QPainter;
+#include "ink/InkParagraph.h"
 
 namespace quill {
 
@@ -37,39 +32,33 @@ struct InkTextLine {
   int To = 0;
 };
 
-enum class InkCaretMove {
-  Left,
-  Right,
-  WordLeft,
-  WordRight,
-  Up,
-  Down,
-  LineStart,
-  LineEnd,
-  TextStart,
-  TextEnd,
-};
-
 class InkTextLayout {
  public:
-  // Keeps what is laid out already. linePitch: units.
+  InkTextLayout();
+
+  // Keeps what is laid out already; nothing is composed any more. linePitch: units.
   void Load(const InkText& text, quint32 linePitch);
   // The same after an edit: the paragraphs from one position to another are broken anew.
   void Edit(const InkText& text, int from, int to);
   void SetPreedit(const InkPreedit& preedit);
   const InkPreedit& Preedit() const { return m_preedit; }
 
-  // Of the lines as they are now.
+  // Of the lines as they are without what is composed.
   std::vector<int> SoftBreaks() const;
 
-  // Empty without text.
+  // The place of the lines; empty without text.
   QRectF Bounds() const;
+  // What is painted of them: more, since letters may be taller than a line.
+  QRectF PaintedBounds() const;
   qreal LineHeight() const { return m_lineHeight; }
-  // 0 without text.
+  // At least 1.
   int LineCount() const;
   std::vector<InkTextLine> Lines() const;
   int LineOf(int position) const;
   qreal TopOfLine(int line) const;
+  // The first and the last place in a line.
+  int LineBegin(int line) const;
+  int LineLast(int line) const;
 
   // The nearest position.
   int PositionAt(QPointF at) const;
@@ -77,43 +66,45 @@ class InkTextLayout {
   bool IsTextAt(QPointF at) const;
   QRectF Caret(int position) const;
   std::vector<QRectF> Selection(int from, int to) const;
-  int Moved(int position, InkCaretMove move) const;
 
   // Draws what lies in the area.
   void Paint(QPainter& painter, const QRectF& area) const;
 
  private:
-  struct Paragraph {
+  struct Placed {
+    InkParagraph Paragraph = {};
     int Start = 0;      // in the text
     int FirstLine = 0;  // of the whole text
-    QString Text = {};
-    std::vector<InkTextRun> Runs = {};
-    std::vector<int> Breaks = {};  // within the paragraph
-    std::shared_ptr<QTextLayout> Layout = {};
+    std::shared_ptr<const InkLines> Stored = {};
+    std::shared_ptr<const InkLines> Composed = {};  // instead, while something is
 
-    int LineCount() const { return std::max(Layout->lineCount(), 1); }
-    int Size() const { return static_cast<int>(Text.size()); }
+    const InkLines& Lines() const { return Composed ? *Composed : *Stored; }
+    int Size() const { return static_cast<int>(Paragraph.Text.size()); }
+    int End() const { return Start + Size(); }
   };
-  enum class Breaking { Stored, Anew };
+  // A line and the paragraph that it is in.
+  struct Found {
+    const Placed& In;
+    int Line;  // in the paragraph
+  };
 
-  std::vector<Paragraph> Split(const InkText& text) const;
-  void Adopt(std::vector<Paragraph> paragraphs);
-  void LayOut(Paragraph& paragraph, Breaking breaking) const;
+  void Adopt(const InkText& text);
+  void LayOutMissing(int editedFrom, int editedTo);
   void PlaceParagraphs();
-  void LayOutAt(int position, Breaking breaking);
-  const Paragraph& ParagraphAt(int position) const;
-  const Paragraph& ParagraphOfLine(int line) const;
-  QTextLine LineAt(int line) const;
-  int ShownPosition(const Paragraph& paragraph, int position) const;
-  int StoredPosition(const Paragraph& paragraph, int shown) const;
-  int End() const;
-  int BesideLine(int position, int line) const;
-  int WordEdge(int position, InkCaretMove move) const;
+  void Compose(Placed& placed);
+  std::size_t IndexOf(int position) const;
+  const Placed& ParagraphAt(int position) const { return m_paragraphs[IndexOf(position)]; }
+  Found FindLine(int line) const;
+  qreal X(const Found& found, int position) const;
+  int ShownPosition(const Placed& placed, int position) const;
+  int StoredPosition(const Placed& placed, int shown) const;
+  int End() const { return m_paragraphs.back().End(); }
 
   QPointF m_origin;
   qreal m_width = 0;  // 0: lines end with their paragraphs only
-  qreal m_lineHeight = 24;
-  std::vector<Paragraph> m_paragraphs;
+  qreal m_lineHeight = 0;
+  qreal m_overhang = 0;              // of letters beyond their lines
+  std::vector<Placed> m_paragraphs;  // at least one
   InkPreedit m_preedit;
 };
 

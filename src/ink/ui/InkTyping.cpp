@@ -84,11 +84,16 @@ bool InkTyping::TakeCaretKey(const QKeyEvent& key) {
   for (const CaretKey& row : kCaretKeys) {
     const bool selects = key.matches(row.Select);
     if (!selects && !key.matches(row.Move)) continue;
-    m_selection.SetCaret(m_document.TextLayout().Moved(m_selection.Caret(), row.Way),
+    m_selection.SetCaret(CaretAfter(row.Way),
                          selects ? InkSelection::Extend::Yes : InkSelection::Extend::No);
     return true;
   }
   return false;
+}
+
+int InkTyping::CaretAfter(InkCaretMove move) const {
+  return MovedCaret(m_document.TextLayout(), m_document.Note().Text.Text, m_selection.Caret(),
+                    move);
 }
 
 void InkTyping::Type(const QString& text) {
@@ -103,7 +108,7 @@ void InkTyping::DeleteSelection() {
 void InkTyping::DeleteTo(InkCaretMove move) {
   if (!m_selection.IsEmpty()) return DeleteSelection();
   const int caret = m_selection.Caret();
-  const int other = m_document.TextLayout().Moved(caret, move);
+  const int other = CaretAfter(move);
   m_document.Type(std::min(caret, other), std::max(caret, other), {});
 }
 

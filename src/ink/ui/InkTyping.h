@@ -5,6 +5,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 
+#include "ink/InkCaret.h"
 #include "ink/InkSelection.h"
 
 namespace quill {
@@ -28,6 +29,7 @@ class InkTyping {
 
  private:
   void DeleteTo(InkCaretMove move);
+  int CaretAfter(InkCaretMove move) const;
 
   InkDocument& m_document;
   InkSelection& m_selection;
