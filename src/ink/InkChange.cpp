@@ -3,13 +3,11 @@
 #include <algorithm>
 #include <unordered_set>
 
-#include "ink/InkDocument.h"
+#include "ink/InkSelect.h"
 
 namespace quill {
 
 namespace {
-
-constexpr qint64 kTypingPause = 1000;
 
 InkTextChange Reversed(const InkTextChange& change) {
   return {.At = change.At,
@@ -46,11 +44,30 @@ void PutIn(std::vector<InkStrokePtr>& strokes, const std::vector<InkPlacedStroke
 
 }  // namespace
 
+bool InkChange::IsNothing() const {
+  return Removed.empty() && Added.empty() && Shifted.Indices.empty() && !Text && !Whole;
+}
+
 InkChange Reversed(const InkChange& change) {
-  InkChange reversed{.Removed = change.Added, .Added = change.Removed};
+  InkChange reversed{.Removed = change.Added,
+                     .Added = change.Removed,
+                     .Shifted = {change.Shifted.Indices, -change.Shifted.By}};
   if (change.Text) reversed.Text = Reversed(*change.Text);
   if (change.Whole) reversed.Whole = std::pair(change.Whole->second, change.Whole->first);
   return reversed;
+}
+
+std::optional<InkTextChange> Joined(const InkTextChange& first, const InkTextChange& later) {
+  const qsizetype typed = first.Inserted.size();
+  const qsizetype kept = later.At - first.At;  // of what was typed; less than 0: of what was before
+  if (kept + later.Removed.size() != typed) return std::nullopt;
+  InkTextChange joined = first;
+  joined.At = std::min(first.At, later.At);
+  joined.Removed.prepend(later.Removed.left(std::max<qsizetype>(-kept, 0)));
+  joined.Inserted = first.Inserted.left(std::max<qsizetype>(kept, 0)) + later.Inserted;
+  joined.After = later.After;
+  joined.CaretAfter = later.CaretAfter;
+  return joined;
 }
 
 std::vector<InkPlacedStroke> PlacesOf(const InkNote& note,
@@ -69,31 +86,8 @@ void ApplyStrokes(std::vector<InkStrokePtr>& strokes, const InkChange& change) {
     strokes.push_back(change.Added.front().Stroke);  // writing must not cost what the page holds
   else if (!change.Added.empty())
     PutIn(strokes, change.Added);
-}
-
-InkStep::InkStep(InkDocument& document, InkChange change, const InkStepKind& kind)
-    : m_document(document), m_kind(kind) {
-  m_changes.push_back(std::move(change));
-}
-
-void InkStep::redo() {
-  for (const InkChange& change : m_changes) m_document.Apply(change);
-}
-
-void InkStep::undo() {
-  std::for_each(m_changes.rbegin(), m_changes.rend(),
-                [this](const InkChange& change) { m_document.Apply(Reversed(change)); });
-}
-
-bool InkStep::mergeWith(const QUndoCommand* other) {
-  const auto& later = static_cast<const InkStep&>(*other);
-  const bool goesOn = m_kind.Merge == InkStepMerge::Erasing
-                          ? later.m_kind.Gesture == m_kind.Gesture
-                          : later.m_kind.Time - m_kind.Time <= kTypingPause;
-  if (!goesOn) return false;
-  m_changes.insert(m_changes.end(), later.m_changes.begin(), later.m_changes.end());
-  m_kind = later.m_kind;
-  return true;
+  for (const std::size_t index : change.Shifted.Indices)
+    strokes[index] = MovedStroke(*strokes[index], change.Shifted.By);
 }
 
 }  // namespace quill

@@ -1,7 +1,7 @@
-// One change of a page, which can be turned round, and the undo steps made of such changes.
+// What changes of a page in one go, which can be turned round.
 #pragma once
 
-#include <QUndoCommand>
+#include <QPoint>
 
 #include <optional>
 #include <utility>
@@ -11,11 +11,16 @@
 
 namespace quill {
 
-class InkDocument;
-
 struct InkPlacedStroke {
   std::size_t Index = 0;  // in the note's strokes
   InkStrokePtr Stroke = {};
+};
+
+// Strokes that go elsewhere by the same way, units. They are named by their places alone: to keep
+// each of them as it was would fill the memory with copies of whole pages.
+struct InkShift {
+  std::vector<std::size_t> Indices = {};
+  QPoint By = {};
 };
 
 // Text replaced at a position. The texts' other parts are kept whole; their Text is empty.
@@ -30,48 +35,28 @@ struct InkTextChange {
 };
 
 // First strokes go, by their places before, then strokes come, by their places after; both in
-// ascending order. Whole is the page before and after and stands alone.
+// ascending order. Shifted and Whole each stand alone; Whole is the page before and after.
 struct InkChange {
   std::vector<InkPlacedStroke> Removed = {};
   std::vector<InkPlacedStroke> Added = {};
+  InkShift Shifted = {};
   std::optional<InkTextChange> Text = {};
   std::optional<std::pair<InkNote, InkNote>> Whole = {};
 
-  bool IsNothing() const { return Removed.empty() && Added.empty() && !Text && !Whole; }
+  bool IsNothing() const;
 };
 
 InkChange Reversed(const InkChange& change);
 
-// The change that takes these strokes away; those that are not there are left out.
+// Two changes of text as one, where the later one ends at the end of what the first typed: it types
+// on, or takes back some of it and of what is before it.
+std::optional<InkTextChange> Joined(const InkTextChange& first, const InkTextChange& later);
+
+// These strokes with their places; those that are not there are left out.
 std::vector<InkPlacedStroke> PlacesOf(const InkNote& note,
                                       const std::vector<InkStrokePtr>& strokes);
 
 // Carries a change out on a list of strokes.
 void ApplyStrokes(std::vector<InkStrokePtr>& strokes, const InkChange& change);
-
-enum class InkStepMerge { Never, Erasing, Typing };
-
-// What a step is, for going on with the one before it: the same gesture of erasing, or typing at
-// most a second later.
-struct InkStepKind {
-  InkStepMerge Merge = InkStepMerge::Never;
-  int Gesture = 0;
-  qint64 Time = 0;  // milliseconds
-};
-
-class InkStep : public QUndoCommand {
- public:
-  InkStep(InkDocument& document, InkChange change, const InkStepKind& kind);
-
-  void undo() override;
-  void redo() override;
-  int id() const override { return static_cast<int>(m_kind.Merge) - 1; }  // -1: never merges
-  bool mergeWith(const QUndoCommand* other) override;
-
- private:
-  InkDocument& m_document;
-  std::vector<InkChange> m_changes;
-  InkStepKind m_kind;
-};
 
 }  // namespace quill

@@ -8,8 +8,8 @@
 #include <QObject>
 #include <QUndoStack>
 
-#include "ink/InkChange.h"
-#include "ink/InkTextLayout.h"
+#include "ink/InkLeaf.h"
+#include "ink/InkStep.h"
 
 namespace quill {
 
@@ -34,29 +34,30 @@ class InkDocument : public QObject {
   // A note that is foreign or newer can only be cleared as a whole.
   bool IsLocked() const;
 
-  const InkNote& Note() const { return m_note; }
+  const InkNote& Note() const { return m_leaf.Note(); }
   // Around all strokes' points.
-  const QRect& InkBounds() const { return m_inkBounds; }
-  const InkTextLayout& TextLayout() const { return m_layout; }
+  const QRect& InkBounds() const { return m_leaf.InkBounds(); }
+  const InkTextLayout& TextLayout() const { return m_leaf.TextLayout(); }
   QUndoStack& Steps() { return m_steps; }
   const QUndoStack& Steps() const { return m_steps; }
 
-  // The page's width where nothing says otherwise, until there is content.
+  // An empty page is so wide until its first content fixes that; later steps change nothing of it.
   void SetNewPageWidth(quint32 width);
 
   // Writes a stroke with this pen on top of all others.
   void AddStroke(InkStroke stroke, const InkPen& pen);
   // gesture: takes of one number are one step.
   void Erase(const std::vector<InkStrokePtr>& strokes, int gesture);
-  // Returns the moved strokes.
+  // Not over the page's left and top edge. Returns the moved strokes.
   std::vector<InkStrokePtr> Move(const std::vector<InkStrokePtr>& strokes, QPoint by);
   // Deletes strokes and the text between two positions, as one step.
   void Delete(const std::vector<InkStrokePtr>& strokes, int from, int to);
   // Puts the strokes of a fragment on the page, moved, and its text in place of what is between two
   // positions. Returns the strokes as they are on the page.
   std::vector<InkStrokePtr> Paste(const InkNote& fragment, QPoint by, int from, int to);
-  // Types a text in place of what is between two positions; ink that lies wholly below the line of
-  // the first one moves with the lines that follow. Typing goes on in one step within a second.
+  // Types a text in place of what is between two positions. Typing goes on in one step within a
+  // second. However text changes, ink that lies wholly below the line of the second position moves
+  // with the lines that follow.
   void Type(int from, int to, const QString& text);
   // Shows what an input method composes; it is not part of the page.
   void SetPreedit(const InkPreedit& preedit);
@@ -79,22 +80,12 @@ class InkDocument : public QObject {
  private:
   friend class InkStep;
 
-  void PreparePage();
-  quint32 PenFor(const InkPen& pen);
-  void PushChange(InkChange change, const InkStepKind& kind = {});
-  InkTextChange TextChangeTo(int from, int to, const QString& text);
-  InkText TextAfter(const InkTextChange& change) const;
-  void MoveInkBelow(int line, int lines, InkChange& change) const;
-  void Apply(const InkChange& change);
-  void FollowStrokes(const InkChange& change);
-  QRect ApplyText(const InkTextChange& change);
-  QRect ApplyWhole(const InkNote& note);
-  QRect TextArea() const;
-  QRect WholeArea() const;
+  bool WasNeverWritten() const;
+  void FollowNewPageWidth();
+  void Push(std::vector<InkChange> changes, const InkStepKind& kind = {});
+  void Apply(const std::vector<InkChange>& changes);
 
-  InkNote m_note;
-  QRect m_inkBounds;
-  InkTextLayout m_layout;
+  InkLeaf m_leaf;
   QByteArray m_original;
   InkNotice m_notice = InkNotice::None;
   quint32 m_newPageWidth = kDefaultPageWidth;

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <ranges>
 
+#include "ink/InkFormat.h"
+
 namespace quill {
 
 namespace {
@@ -101,13 +103,22 @@ QRect PaintedBounds(const InkNote& note, const InkStroke& stroke) {
   return stroke.Bounds.adjusted(-margin, -margin, margin, margin);
 }
 
+QPoint WithinReach(const QRect& bounds, QPoint by) {
+  const auto way = [](int wanted, int first, int last) {
+    const qint64 most = std::max<qint64>(kFarthestInk - last, 0);
+    return static_cast<int>(std::clamp<qint64>(wanted, std::min(-first, 0), most));
+  };
+  return {way(by.x(), bounds.left(), bounds.right()), way(by.y(), bounds.top(), bounds.bottom())};
+}
+
 InkStrokePtr MovedStroke(const InkStroke& stroke, QPoint by) {
-  InkStroke moved = stroke;
-  for (InkPoint& point : moved.Points) {
+  auto moved = std::make_shared<InkStroke>(stroke);
+  for (InkPoint& point : moved->Points) {
     point.X += by.x();
     point.Y += by.y();
   }
-  return SealInkStroke(std::move(moved));
+  moved->Bounds.translate(by);
+  return moved;
 }
 
 }  // namespace quill

@@ -27,6 +27,10 @@ QRect BoundsOf(const std::vector<InkStrokePtr>& strokes);
 // What has to be painted again when this stroke comes or goes.
 QRect PaintedBounds(const InkNote& note, const InkStroke& stroke);
 
+// As much of a way as these bounds can go: neither over the page's left and top edge nor farther
+// than a note's ink may lie.
+QPoint WithinReach(const QRect& bounds, QPoint by);
+
 // The stroke moved by an offset.
 InkStrokePtr MovedStroke(const InkStroke& stroke, QPoint by);
 

@@ -1,0 +1,50 @@
+#include "ink/InkStep.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "ink/InkDocument.h"
+
+namespace quill {
+
+namespace {
+
+constexpr qint64 kTypingPause = 1000;
+
+bool IsTextAlone(const std::vector<InkChange>& changes) {
+  return changes.size() == 1 && changes.front().Text;
+}
+
+}  // namespace
+
+InkStep::InkStep(InkDocument& document, std::vector<InkChange> changes, const InkStepKind& kind)
+    : m_document(document), m_changes(std::move(changes)), m_kind(kind) {}
+
+void InkStep::redo() { m_document.Apply(m_changes); }
+
+void InkStep::undo() {
+  std::vector<InkChange> reversed;
+  std::transform(m_changes.rbegin(), m_changes.rend(), std::back_inserter(reversed),
+                 [](const InkChange& change) { return Reversed(change); });
+  m_document.Apply(reversed);
+}
+
+bool InkStep::mergeWith(const QUndoCommand* other) {
+  const auto& later = static_cast<const InkStep&>(*other);
+  const bool goesOn = m_kind.Merge == InkStepMerge::Erasing
+                          ? later.m_kind.Gesture == m_kind.Gesture
+                          : later.m_kind.Time - m_kind.Time <= kTypingPause;
+  if (!goesOn) return false;
+  m_kind = later.m_kind;
+  std::optional<InkTextChange> joined;
+  if (IsTextAlone(m_changes) && IsTextAlone(later.m_changes))
+    joined = Joined(*m_changes.front().Text, *later.m_changes.front().Text);
+  if (joined)
+    m_changes.front().Text = std::move(joined);
+  else
+    std::ranges::copy(later.m_changes, std::back_inserter(m_changes));
+  return true;
+}
+
+}  // namespace quill
