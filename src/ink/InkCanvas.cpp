@@ -12,17 +12,22 @@ namespace quill {
 
 namespace {
 
-void PaintText(QImage& image, QPoint imageOrigin, const QRect& area, double scale,
-               const InkTextLayout& layout) {
-  const double zoom = scale * kInkUnitsPerPixel;
+void PaintText(const InkPiece& piece, const InkTextLayout& layout) {
+  const double zoom = piece.Scale * kInkUnitsPerPixel;
+  const QRect& area = piece.Area;
   const QRectF onPage(area.left() / zoom, area.top() / zoom, area.width() / zoom,
                       area.height() / zoom);
-  if (!layout.Bounds().adjusted(-20, -20, 20, 20).intersects(onPage)) return;
-  QPainter painter(&image);
-  painter.translate(-imageOrigin);
+  if (!layout.PaintedBounds().intersects(onPage)) return;
+  QPainter painter(&piece.Image);
+  painter.translate(-piece.Origin);
   painter.setClipRect(area);
   painter.scale(zoom, zoom);
   layout.Paint(painter, onPage);
+}
+
+void PaintBelowInk(const InkPiece& piece, const InkDocument& document, const InkPaper& paper) {
+  PaintPaper(piece, document.Note().Page, paper);
+  PaintText(piece, document.TextLayout());
 }
 
 // A part of an image, without a copy; it lives no longer than the image.
@@ -33,11 +38,9 @@ QImage PartOf(const QImage& image, const QRect& part) {
 
 }  // namespace
 
-void PaintInkPage(QImage& image, QPoint imageOrigin, const QRect& area, double scale,
-                  const InkDocument& document, const InkPaper& paper) {
-  PaintPaper(image, imageOrigin, area, scale, document.Note().Page, paper);
-  PaintText(image, imageOrigin, area, scale, document.TextLayout());
-  PaintStrokes(image, imageOrigin, area, scale, document.Note());
+void PaintInkPage(const InkPiece& piece, const InkDocument& document, const InkPaper& paper) {
+  PaintBelowInk(piece, document, paper);
+  PaintStrokes(piece.Image, piece.Origin, piece.Area, piece.Scale, document.Note());
 }
 
 void InkCanvas::SetWindow(QSize window, QSize covered, qreal devicePixelRatio) {
@@ -110,16 +113,33 @@ QRect InkCanvas::Repaint(const QRect& units) {
 
 void InkCanvas::BeginStroke(const InkPen& pen, quint8 parts) {
   Refresh();
+  m_isLifted = false;
   m_live.Begin(pen, m_view.Scale(), parts, m_view.Shown());
 }
 
 QRect InkCanvas::TakeStroke(const InkStroke& stroke) {
-  if (!m_live.IsDown()) return Repaint(PaintedBounds(m_document.Note(), stroke));
-  return m_live.Finish(m_picture, m_view.Scroll());
+  if (!std::exchange(m_isLifted, false)) return Repaint(PaintedBounds(m_document.Note(), stroke));
+  if (m_isStale) return m_live.Cancel();
+  const bool isOnTop = m_live.Pen().Tip == InkTip::Round;
+  const QRect area = m_live.Finish(m_picture, m_view.Scroll());
+  if (!isOnTop && !area.isEmpty()) PaintPicture(area);
+  return area;
 }
 
 void InkCanvas::PaintPicture(const QRect& area) {
-  PaintInkPage(m_picture, m_view.Scroll(), area, m_view.Scale(), m_document, m_paper);
+  PaintInkPage({m_picture, m_view.Scroll(), area, m_view.Scale()}, m_document, m_paper);
+}
+
+// A highlighter lies under the page's round ink.
+void InkCanvas::PaintLive(const InkPiece& piece) {
+  const bool isOnTop = m_live.Pen().Tip == InkTip::Round;
+  const InkNote& note = m_document.Note();
+  if (!isOnTop) {
+    PaintBelowInk(piece, m_document, m_paper);
+    PaintHighlighters(piece.Image, piece.Origin, piece.Area, piece.Scale, note);
+  }
+  m_live.PaintOver(piece.Image, piece.Origin, piece.Area);
+  if (!isOnTop) PaintRoundStrokes(piece.Image, piece.Origin, piece.Area, piece.Scale, note);
 }
 
 void InkCanvas::Refresh() {
@@ -141,7 +161,7 @@ void InkCanvas::Paint(QPainter& painter, const QRect& window) {
   const QPoint origin = m_view.Scroll() + part.topLeft();
   if (m_live.IsDown()) {
     piece = piece.copy();
-    m_live.PaintOver(piece, origin, QRect(origin, part.size()));
+    PaintLive({piece, origin, QRect(origin, part.size()), m_view.Scale()});
   }
   piece.setDevicePixelRatio(ratio);
   painter.drawImage(QPointF(part.topLeft()) / ratio, piece);

@@ -15,10 +15,8 @@ class QPainter;
 
 namespace quill {
 
-// Paints a piece of a page as it looks. scale: device pixels per unit; imageOrigin: which device
-// pixel the image begins with.
-void PaintInkPage(QImage& image, QPoint imageOrigin, const QRect& area, double scale,
-                  const InkDocument& document, const InkPaper& paper);
+// Paints a piece of a page as it looks.
+void PaintInkPage(const InkPiece& piece, const InkDocument& document, const InkPaper& paper);
 
 class InkCanvas {
  public:
@@ -46,7 +44,9 @@ class InkCanvas {
   bool HasStroke() const { return m_live.IsDown(); }
   QRect ExtendStroke(const InkPoint& point) { return m_live.Add(point); }
   QRect CancelStroke() { return m_live.Cancel(); }
-  // A stroke came on top of the page; where it is the one in the air, that one is done.
+  // The pen was lifted: the next stroke on top of the page is the one in the air.
+  void LiftStroke() { m_isLifted = m_live.IsDown(); }
+  // A stroke came on top of the page; where it was the one in the air, that one is done.
   QRect TakeStroke(const InkStroke& stroke);
 
   // Draws what a rectangle of the window (logical pixels) shows.
@@ -54,6 +54,7 @@ class InkCanvas {
 
  private:
   void PaintPicture(const QRect& area);
+  void PaintLive(const InkPiece& piece);
   void Refresh();
   void FollowScroll(QPoint before);
 
@@ -64,6 +65,7 @@ class InkCanvas {
   InkLiveStroke m_live;
   InkPage m_paintedPage;
   bool m_isStale = true;
+  bool m_isLifted = false;
 };
 
 }  // namespace quill

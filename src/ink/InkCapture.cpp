@@ -8,8 +8,6 @@ namespace quill {
 
 namespace {
 
-bool IsPen(InkDevice device) { return device == InkDevice::Pen || device == InkDevice::Eraser; }
-
 qint32 Units(qreal pixels) {
   return static_cast<qint32>(std::floor(pixels * kInkUnitsPerPixel + 0.5));
 }
@@ -18,6 +16,8 @@ qint32 Units(qreal pixels) {
 qreal Share(qreal from, qreal to, qreal limit) { return (limit - from) / (to - from); }
 
 }  // namespace
+
+bool IsPen(InkDevice device) { return device == InkDevice::Pen || device == InkDevice::Eraser; }
 
 bool IsTouching(const InkInput& input) { return !IsPen(input.Device) || input.Pressure > 0; }
 
@@ -82,9 +82,8 @@ void InkCapture::Press(const InkInput& input, std::vector<InkCaptured>& out) {
 
 void InkCapture::Extend(const InkInput& input, std::vector<InkCaptured>& out) {
   const QPointF before = std::exchange(m_last, input.At);
-  const bool wasOnPage = IsOnPage(before);
   if (IsOnPage(input.At)) {
-    if (!m_writing) Begin(input, wasOnPage ? before : EdgePoint(input.At, before), out);
+    if (!m_writing) Begin(input, EdgePoint(input.At, before), out);
     out.push_back({InkAction::Extend, PointOf(input, input.At)});
   } else if (m_writing) {
     out.push_back({InkAction::Extend, PointOf(input, EdgePoint(before, input.At))});
@@ -97,7 +96,8 @@ std::vector<InkCaptured> InkCapture::Take(const InkInput& input) {
   const bool isOther = m_down && input.Device != m_device;
   switch (input.Phase) {
     case InkPhase::Press:
-      if (IsTouching(input) && !(isOther && IsPen(m_device))) Press(input, out);
+      if (IsTouching(input) && !(m_down && IsPen(m_device) && !IsPen(input.Device)))
+        Press(input, out);
       break;
     case InkPhase::Move:
       if (m_down && !isOther && IsTouching(input)) Extend(input, out);

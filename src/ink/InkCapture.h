@@ -27,6 +27,9 @@ struct InkInput {
   qint64 Time = 0;     // milliseconds of any clock that does not go back
 };
 
+// Either end of one.
+bool IsPen(InkDevice device);
+
 // A pen's tip that reports no pressure does not touch.
 bool IsTouching(const InkInput& input);
 

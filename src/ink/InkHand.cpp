@@ -2,6 +2,7 @@
 
 #include <QLineF>
 
+#include <algorithm>
 #include <utility>
 
 #include "ink/InkSelect.h"
@@ -48,25 +49,27 @@ InkHand::Gesture InkHand::GestureFor(const InkInput& input) const {
 void InkHand::Take(const InkInput& input) {
   if (input.Phase == InkPhase::Press) return Press(input);
   if (m_gesture == Gesture::Write) return Write(input);
-  if (m_gesture == Gesture::None) return;
-  input.Phase == InkPhase::Move ? Go(input) : End(input);
+  if (m_gesture == Gesture::None || input.Device != m_device) return;
+  if (input.Phase != InkPhase::Move) return End(input);
+  if (IsTouching(input)) Go(input);
 }
 
-// A press while another one is down ends that one.
+// A press while another one is down ends that one; but while a pen is down no finger and no mouse
+// does anything.
 void InkHand::Press(const InkInput& input) {
-  if (!IsTouching(input)) return;
+  if (!IsTouching(input) || (IsDown() && IsPen(m_device) && !IsPen(input.Device))) return;
   const Gesture gesture = GestureFor(input);
   const bool writesOn = m_gesture == Gesture::Write && gesture == Gesture::Write;
   if (IsDown() && !writesOn) Lift(input);
   m_gesture = gesture;
+  m_device = input.Device;
   gesture == Gesture::Write ? Write(input) : Begin(input);
 }
 
 void InkHand::Lift(InkInput input) {
-  if (m_gesture != Gesture::Write) return End(input);
   input.Phase = InkPhase::Release;
-  input.Device = m_capture.Device();
-  Write(input);
+  input.Device = m_device;
+  m_gesture == Gesture::Write ? Write(input) : End(input);
 }
 
 void InkHand::Begin(const InkInput& input) {
@@ -93,13 +96,20 @@ void InkHand::Go(const InkInput& input) {
 }
 
 void InkHand::End(const InkInput& input) {
-  const Gesture gesture = std::exchange(m_gesture, Gesture::None);
-  const bool isTap = QLineF(m_windowBegin, input.At).length() < kTapDistance && m_path.size() < 8;
-  if (gesture == Gesture::MoveSelection && !isTap) DropSelection();
-  const bool taps = gesture == Gesture::Select || gesture == Gesture::MoveSelection;
+  const bool isTap = IsTap(input.At);
+  const bool taps = m_gesture == Gesture::Select || m_gesture == Gesture::MoveSelection;
+  if (m_gesture == Gesture::MoveSelection && !isTap) DropSelection();
   if (taps && isTap) m_selection.SetCaret(m_document.TextLayout().PositionAt(m_path.first()));
+  m_gesture = Gesture::None;
   m_path.clear();
   if (taps) AllShown();
+}
+
+// It never went far from where it began.
+bool InkHand::IsTap(QPointF window) const {
+  const QRectF way = m_path.boundingRect();
+  const qreal farthest = std::max(way.width(), way.height()) * m_canvas.View().Zoom() / 100;
+  return farthest < kTapDistance && QLineF(m_windowBegin, window).length() < kTapDistance;
 }
 
 void InkHand::Cancel() {
@@ -121,19 +131,22 @@ void InkHand::Write(const InkInput& input) {
 
 void InkHand::Carry(const InkCaptured& captured) {
   if (captured.Action == InkAction::End) return FinishStroke();
-  if (captured.Action == InkAction::Begin) {
-    m_selection.SelectNothing();
-    m_stroke = {.Parts = InkCapture::PartsOf(m_capture.Device()),
-                .Start = g_services.Clock->Now().toMSecsSinceEpoch()};
-    m_canvas.BeginStroke(InkPen{}, m_stroke.Parts);
-  }
+  if (captured.Action == InkAction::Begin) BeginStroke();
   m_stroke.Points.push_back(captured.Point);
   m_lastPlace = QPointF(captured.Point.X, captured.Point.Y) / kInkUnitsPerPixel;
   Shown(m_canvas.ExtendStroke(captured.Point));
 }
 
+void InkHand::BeginStroke() {
+  if (!m_selection.IsEmpty()) AllShown();
+  m_selection.SelectNothing();
+  m_stroke = {.Parts = InkCapture::PartsOf(m_capture.Device()),
+              .Start = g_services.Clock->Now().toMSecsSinceEpoch()};
+  m_canvas.BeginStroke(InkPen{}, m_stroke.Parts);
+}
+
 void InkHand::FinishStroke() {
-  if (m_stroke.Points.empty()) return;
+  m_canvas.LiftStroke();
   m_document.AddStroke(std::exchange(m_stroke, {}), InkPen{});
   Wrote(*m_lastPlace);
 }
@@ -164,7 +177,7 @@ void InkHand::DropSelection() {
 QPolygonF InkHand::Lasso() const { return m_gesture == Gesture::Select ? m_path : QPolygonF(); }
 
 QPointF InkHand::Dragged() const {
-  return m_path.isEmpty() ? QPointF() : m_path.last() - m_path.first();
+  return m_gesture == Gesture::MoveSelection ? m_path.last() - m_path.first() : QPointF();
 }
 
 }  // namespace quill

@@ -33,7 +33,8 @@ class InkHand {
   std::optional<QPointF> LastPlace() const { return m_lastPlace; }
   void ForgetPlace() { m_lastPlace.reset(); }
 
-  // While something is being dragged: the way so far, and how far it went, page pixels.
+  // The way of a selection that is being drawn, and how far the selected strokes are being dragged;
+  // page pixels.
   QPolygonF Lasso() const;
   QPointF Dragged() const;
 
@@ -53,8 +54,10 @@ class InkHand {
   void Begin(const InkInput& input);
   void Go(const InkInput& input);
   void End(const InkInput& input);
+  bool IsTap(QPointF window) const;
   void Write(const InkInput& input);
   void Carry(const InkCaptured& captured);
+  void BeginStroke();
   void FinishStroke();
   void EraseTo(QPointF at);
   void SelectAlongPath();
@@ -66,10 +69,11 @@ class InkHand {
   InkSelection& m_selection;
   InkTask m_task = InkTask::Write;
   Gesture m_gesture = Gesture::None;
+  InkDevice m_device = InkDevice::Mouse;  // of the gesture
   InkCapture m_capture;
-  InkStroke m_stroke;     // in the air
-  QPolygonF m_path;       // of another gesture; page pixels
-  QPointF m_windowBegin;  // of a scroll
+  InkStroke m_stroke;  // in the air
+  QPolygonF m_path;    // of another gesture; page pixels
+  QPointF m_windowBegin;
   QPoint m_scrollBegin;
   int m_eraseGesture = 0;
   std::optional<QPointF> m_lastPlace;

@@ -15,20 +15,14 @@ constexpr QRgb kDot = 0xFFA9BCD2;
 constexpr int kMarginX = 6 * kInkUnitsPerPixel;
 constexpr int kDotsPerRule = 2;
 
-// Fills what lies in the area; all in device pixels of the page.
-struct PaperBrush {
-  QImage& Image;
-  QPoint Origin;
-  QRect Area;
-
-  void Fill(QRect rectangle, QRgb color) {
-    rectangle = rectangle.intersected(Area).translated(-Origin).intersected(Image.rect());
-    for (int y = rectangle.top(); y <= rectangle.bottom(); ++y) {
-      auto* const line = reinterpret_cast<QRgb*>(Image.scanLine(y)) + rectangle.left();
-      std::fill_n(line, rectangle.width(), color);
-    }
+void Fill(const InkPiece& piece, const QRect& rectangle, QRgb color) {
+  const QRect shown = rectangle.intersected(piece.Area).translated(-piece.Origin);
+  const QRect part = shown.intersected(piece.Image.rect());
+  for (int y = part.top(); y <= part.bottom(); ++y) {
+    auto* const line = reinterpret_cast<QRgb*>(piece.Image.scanLine(y)) + part.left();
+    std::fill_n(line, part.width(), color);
   }
-};
+}
 
 int Device(double units, double scale) { return static_cast<int>(std::floor(units * scale)); }
 
@@ -46,40 +40,40 @@ void ForEachStep(double pitch, double scale, int from, int to, Found found) {
   }
 }
 
-void PaintRules(PaperBrush& brush, double scale, const InkPage& page, const QRect& sheet) {
-  const int width = LineWidth(scale);
-  ForEachStep(page.RulePitch, scale, brush.Area.top() - width, brush.Area.bottom(), [&](int y) {
-    brush.Fill({sheet.left(), y, sheet.width(), width}, kRule);
+// Rules and dots are as wide as the sheet, which is the piece's area.
+void PaintRules(const InkPiece& sheet, const InkPage& page) {
+  const QRect& area = sheet.Area;
+  const int width = LineWidth(sheet.Scale);
+  ForEachStep(page.RulePitch, sheet.Scale, area.top() - width, area.bottom(), [&](int y) {
+    Fill(sheet, {area.left(), y, area.width(), width}, kRule);
   });
-  brush.Fill({Device(kMarginX, scale), brush.Area.top(), width, brush.Area.height()}, kMarginLine);
+  Fill(sheet, {Device(kMarginX, sheet.Scale), area.top(), width, area.height()}, kMarginLine);
 }
 
-void PaintDots(PaperBrush& brush, double scale, const InkPage& page, const QRect& sheet) {
+void PaintDots(const InkPiece& sheet, const InkPage& page) {
+  const QRect& area = sheet.Area;
   const double pitch = static_cast<double>(page.RulePitch) / kDotsPerRule;
-  const int width = LineWidth(scale);
-  ForEachStep(pitch, scale, brush.Area.top() - width, brush.Area.bottom(), [&](int y) {
-    const int right = std::min(sheet.right(), brush.Area.right());
-    ForEachStep(pitch, scale, brush.Area.left() - width, right, [&](int x) {
-      brush.Fill({x, y, width, width}, kDot);
+  const int width = LineWidth(sheet.Scale);
+  ForEachStep(pitch, sheet.Scale, area.top() - width, area.bottom(), [&](int y) {
+    ForEachStep(pitch, sheet.Scale, area.left() - width, area.right(), [&](int x) {
+      Fill(sheet, {x, y, width, width}, kDot);
     });
   });
 }
 
 }  // namespace
 
-void PaintPaper(QImage& image, QPoint imageOrigin, const QRect& area, double scale,
-                const InkPage& page, const InkPaper& paper) {
-  PaperBrush brush{image, imageOrigin, area};
-  const int pageWidth = static_cast<int>(std::ceil(page.Width * scale));
-  QRect sheet = area;
-  if (!paper.IsEndless) sheet.setRight(std::min(area.right(), pageWidth - 1));
-  brush.Fill(area, kBesidePage);
-  brush.Fill(sheet, kPaper);
-  brush.Area = sheet.intersected(area);
+void PaintPaper(const InkPiece& piece, const InkPage& page, const InkPaper& paper) {
+  InkPiece sheet = piece;
+  const int pageWidth = static_cast<int>(std::ceil(page.Width * piece.Scale));
+  if (!paper.IsEndless) sheet.Area.setRight(std::min(piece.Area.right(), pageWidth - 1));
+  Fill(piece, piece.Area, kBesidePage);
+  Fill(sheet, sheet.Area, kPaper);
+  if (sheet.Area.isEmpty()) return;
   if (paper.Style == kDottedPaper)
-    PaintDots(brush, scale, page, sheet);
+    PaintDots(sheet, page);
   else
-    PaintRules(brush, scale, page, sheet);
+    PaintRules(sheet, page);
 }
 
 }  // namespace quill

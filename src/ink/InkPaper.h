@@ -15,9 +15,15 @@ struct InkPaper {
   bool IsEndless = false;   // to the right; otherwise what lies right of the page is grey
 };
 
-// Fills an area, in device pixels of the zoomed page; imageOrigin: which of these the image begins
-// with. scale: device pixels per unit.
-void PaintPaper(QImage& image, QPoint imageOrigin, const QRect& area, double scale,
-                const InkPage& page, const InkPaper& paper);
+// A piece of the zoomed page to be painted; in its device pixels.
+struct InkPiece {
+  QImage& Image;
+  QPoint Origin;  // of the image
+  QRect Area;     // which part of it
+  double Scale;   // device pixels per unit
+};
+
+// The same whichever way the page is cut into pieces.
+void PaintPaper(const InkPiece& piece, const InkPage& page, const InkPaper& paper);
 
 }  // namespace quill
