@@ -124,9 +124,10 @@ void TextReader::ReadBreaks() {
 }  // namespace
 
 qint64 InkMemory(const InkText& text) {
-  return static_cast<qint64>(static_cast<std::size_t>(text.Text.size()) * sizeof(QChar) +
-                             text.Runs.size() * sizeof(InkTextRun) +
-                             text.SoftBreaks.size() * sizeof(int));
+  const qint64 runs = std::ssize(text.Runs);
+  const qint64 breaks = std::ssize(text.SoftBreaks);
+  return text.Text.size() * qint64{sizeof(QChar)} + runs * qint64{sizeof(InkTextRun)} +
+         breaks * qint64{sizeof(int)};
 }
 
 InkPartFate ReadTextChunk(QByteArrayView payload, qint64 memory, InkText& text) {
