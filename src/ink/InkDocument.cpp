@@ -75,15 +75,19 @@ void InkDocument::FollowNewPageWidth() {
   Q_EMIT Changed({});
 }
 
+void InkDocument::BeginPage() {
+  if (WasNeverWritten()) m_leaf.SetCreated(NowInMilliseconds());
+}
+
 void InkDocument::Push(std::vector<InkChange> changes, const InkStepKind& kind) {
   std::erase_if(changes, [](const InkChange& change) { return change.IsNothing(); });
   if (changes.empty()) return;
-  if (WasNeverWritten()) m_leaf.SetCreated(NowInMilliseconds());
   m_steps.push(new InkStep(*this, std::move(changes), kind));
 }
 
 void InkDocument::AddStroke(InkStroke stroke, const InkPen& pen) {
   if (IsLocked() || stroke.Points.empty()) return;
+  BeginPage();
   stroke.Pen = m_leaf.PenFor(pen);
   Push({{.Added = {{Note().Strokes.size(), SealInkStroke(std::move(stroke))}}}});
 }
@@ -116,6 +120,7 @@ void InkDocument::Delete(const std::vector<InkStrokePtr>& strokes, int from, int
 
 std::vector<InkStrokePtr> InkDocument::Paste(const InkNote& fragment, QPoint by, int from, int to) {
   if (IsLocked()) return {};
+  BeginPage();
   const QPoint way = WithinReach(BoundsOf(fragment.Strokes), by);
   const std::vector<InkStrokePtr> pasted = m_leaf.WithPensOfPage(fragment).Strokes;
   InkChange change;
@@ -132,6 +137,7 @@ std::vector<InkStrokePtr> InkDocument::Paste(const InkNote& fragment, QPoint by,
 
 void InkDocument::Type(int from, int to, const QString& text) {
   if (IsLocked()) return;
+  BeginPage();
   Push(m_leaf.Typed(from, to, text, Note().Strokes),
        {.Merge = InkStepMerge::Typing, .Time = NowInMilliseconds()});
 }

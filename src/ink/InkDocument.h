@@ -82,6 +82,7 @@ class InkDocument : public QObject {
 
   bool WasNeverWritten() const;
   void FollowNewPageWidth();
+  void BeginPage();
   void Push(std::vector<InkChange> changes, const InkStepKind& kind = {});
   void Apply(const std::vector<InkChange>& changes);
 
