@@ -87,6 +87,12 @@ std::optional<Draft> LoadDraft() {
   return drafts.empty() ? std::nullopt : std::optional(drafts.back());
 }
 
+QString TitleOf(const Draft& draft) {
+  if (!draft.FileAs.isEmpty()) return draft.FileAs;
+  const auto first = std::ranges::find_if_not(draft.Record.Texts, &QString::isEmpty);
+  return first == draft.Record.Texts.end() ? QStringLiteral("a contact") : *first;
+}
+
 bool DiscardDraft(int number) {
   RecoveryFiles* const files = g_services.Recovery;
   if (!files) return true;

@@ -34,6 +34,9 @@ int SaveDraft(const Draft& draft);
 // The one of the greatest number, which is the latest.
 std::optional<Draft> LoadDraft();
 
+// The name that it is filed under or would be, else the first thing that was entered.
+QString TitleOf(const Draft& draft);
+
 // True when there is none of this number afterwards.
 bool DiscardDraft(int number);
 

@@ -88,6 +88,12 @@ inline constexpr int kRestoreDraft = 1101;
 inline constexpr int kDiscardDraft = 1102;
 }  // namespace RecordSheetIds
 
+// What the front ends of ink offer.
+namespace InkIds {
+inline constexpr int kRestore = 1103;
+inline constexpr int kDiscard = 1104;
+}  // namespace InkIds
+
 // The menu of a tap-and-hold on a record sheet's row.
 namespace RowMenuIds {
 inline constexpr int kOpen = 1;

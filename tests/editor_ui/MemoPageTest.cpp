@@ -1,9 +1,11 @@
 #include "editor/ui/MemoPage.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 
 #include "SheetFixture.h"
 #include "editor/Draft.h"
+#include "ink/InkRecovery.h"
 #include "ink/ui/InkX.h"
 #include "support/ScriptedPrompt.h"
 
@@ -209,6 +211,118 @@ TEST_F(MemoPageTest, InkThatTheProgramsEndClosesIsADraft) {
   });
   ASSERT_TRUE(LoadDraft().has_value());
   EXPECT_EQ(LoadDraft()->Ink, kOther);
+}
+
+// Recovery files in which no drafts can be written.
+class WithoutDrafts : public RecoveryFiles {
+ public:
+  explicit WithoutDrafts(RecoveryFiles& inner) : m_inner(inner) {}
+
+  std::optional<QByteArray> Read(const QString& name) const override { return m_inner.Read(name); }
+  bool Write(const QString& name, const QByteArray& content) override {
+    return name != QStringLiteral("drafts.json") && m_inner.Write(name, content);
+  }
+  bool Append(const QString& name, const QByteArray& bytes) override {
+    return m_inner.Append(name, bytes);
+  }
+  bool Remove(const QString& name) override { return m_inner.Remove(name); }
+  bool SetAside(const QString& name) override { return m_inner.SetAside(name); }
+
+ private:
+  RecoveryFiles& m_inner;
+};
+
+// What a crash would leave of Kim's ink.
+class MemoPageRecovery : public MemoPageTest {
+ protected:
+  MemoPageRecovery() {
+    ContactRecord record;
+    record[FileAs] = QStringLiteral("Kim");
+    m_kim = Add(record);
+  }
+  void Draw() {
+    InkStroke dot;
+    dot.Points = {{.X = 320, .Y = 320}};
+    Ink()->Document().AddStroke(dot, {});
+    EXPECT_TRUE(IsKept());
+  }
+  bool IsKept() const { return FindUnsavedInk(ContactInkRecoveryName(m_kim)).has_value(); }
+
+  Oid m_kim = 0;
+};
+
+TEST_F(MemoPageRecovery, NothingIsKeptOfInkThatWasStored) {
+  InSheet(m_kim, [&] {
+    ShowMemo();
+    Draw();
+    PressOK();
+  });
+  EXPECT_FALSE(IsKept());
+  EXPECT_NE(Stored(m_kim).BodyInk, QByteArray());
+}
+
+TEST_F(MemoPageRecovery, NothingIsKeptOfInkThatWasGivenUp) {
+  InSheet(m_kim, [&] {
+    ShowMemo();
+    Draw();
+  });
+  EXPECT_FALSE(IsKept());
+}
+
+TEST_F(MemoPageRecovery, NothingIsKeptOfADeletedNote) {
+  m_prompt.Expect(PromptAnswer::Yes);
+  InSheet(m_kim, [&] {
+    ShowMemo();
+    Draw();
+    m_sheet->RunCommand(ID_INK_DELETE_NOTE);
+    EXPECT_FALSE(IsKept());
+    m_sheet->RunCommand(ID_INK_UNDO);
+    EXPECT_EQ(Ink()->Document().Note().Strokes.size(), 1U);
+  });
+}
+
+TEST_F(MemoPageRecovery, InkThatBecomesADraftIsKeptThereOnly) {
+  InSheet(m_kim, [&] {
+    ShowMemo();
+    Draw();
+    m_isEnded = true;
+    m_sheet->EndDialog(kResultCancel);
+  });
+  EXPECT_NE(LoadDraft(), std::nullopt);
+  EXPECT_FALSE(IsKept());
+}
+
+TEST_F(MemoPageRecovery, InkThatCanBeNeitherStoredNorADraftIsStillKept) {
+  WithoutDrafts withoutDrafts(m_home.Recovery);
+  InSheet(m_kim, [&] {
+    ShowMemo();
+    Draw();
+    m_store.Faults().Save = true;
+    g_services.Recovery = &withoutDrafts;
+    PressOK();
+  });
+  EXPECT_TRUE(IsKept());
+}
+
+TEST_F(MemoPageRecovery, WhatACrashLeftIsOfferedOnThePage) {
+  {
+    InkDocument document;
+    InkRecovery crashed(document, ContactInkRecoveryName(m_kim));
+    InkStroke dot;
+    dot.Points = {{.X = 320, .Y = 320}};
+    document.AddStroke(dot, {});
+  }
+  InSheet(m_kim, [&] {
+    ShowMemo();
+    m_panel.Raise();
+    EXPECT_EQ(m_sheet->Control(InkIds::kRestore), nullptr);
+    m_panel.Lower();
+    ASSERT_NE(m_sheet->Control(InkIds::kRestore), nullptr);
+    qobject_cast<QAbstractButton*>(m_sheet->Control(InkIds::kRestore))->click();
+    PressOK();
+  });
+  EXPECT_NE(Stored(m_kim).BodyInk, QByteArray());
+  EXPECT_FALSE(IsKept());
 }
 
 TEST_F(MemoPageTest, ADraftThatIsTakenBackShowsItsInk) {

@@ -1,7 +1,9 @@
 #include "memo/ui/InkMemoDialog.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 
+#include "ink/InkRecovery.h"
 #include "memo_ui/MemoFixture.h"
 
 namespace quill {
@@ -221,6 +223,87 @@ TEST_F(InkMemoDialogTest, DeleteNoteOfAMemoWithoutAPathEndsWithOKAndAnEmptyBuffe
   m_prompt.Expect(PromptAnswer::Yes);
   EXPECT_EQ(Run(InkMemoKind::Existing, {}, {Delete()}), kResultOK);
   EXPECT_EQ(g_memo.Buffer, QByteArray());
+}
+
+// What a crash would leave of a memo.
+class InkMemoRecovery : public InkMemoDialogTest {
+ protected:
+  test::Step Draw() {
+    return [this] {
+      InkStroke dot;
+      dot.Points = {{.X = 320, .Y = 320}};
+      Ink().Document().AddStroke(dot, {});
+      EXPECT_TRUE(IsKept());
+    };
+  }
+  bool IsKept() const {
+    return FindUnsavedInk(InkRecoveryName(Path(u"a.pwi"))).has_value() ||
+           FindUnsavedInk(kNewInkRecoveryName.toString()).has_value();
+  }
+  int EditEmpty(std::vector<test::Step> steps) {
+    return Run(InkMemoKind::Existing, Path(u"a.pwi"), std::move(steps));
+  }
+};
+
+TEST_F(InkMemoRecovery, NothingIsKeptOfAMemoThatWasSaved) {
+  EXPECT_EQ(EditEmpty({Draw(), OK()}), kResultOK);
+  EXPECT_FALSE(IsKept());
+}
+
+TEST_F(InkMemoRecovery, NothingIsKeptOfAMemoThatWasGivenUp) {
+  EXPECT_EQ(EditEmpty({Draw(), Cancel()}), kResultCancel);
+  EXPECT_FALSE(IsKept());
+}
+
+TEST_F(InkMemoRecovery, NothingIsKeptOfADeletedMemo) {
+  m_prompt.Expect(PromptAnswer::Yes);
+  EXPECT_EQ(EditEmpty({Draw(), Delete()}), kResultCancel);
+  EXPECT_FALSE(IsKept());
+}
+
+TEST_F(InkMemoRecovery, TheProgramsEndIsACancelToo) {
+  EXPECT_EQ(EditEmpty({Draw(), [&] { m_screen->CloseAll(); }}), kResultCancel);
+  EXPECT_FALSE(IsKept());
+}
+
+TEST_F(InkMemoRecovery, ANewMemoThatIsGivenNoNameIsOfferedToTheNext) {
+  EXPECT_EQ(WriteNew({Draw(), OK(), Cancel()}), kResultCancel);
+  EXPECT_TRUE(IsKept());
+  m_panel.Lower();
+  g_memo.Buffer.clear();
+  EXPECT_EQ(WriteNew({[&] {
+                        ASSERT_NE(Editor().Control(InkIds::kRestore), nullptr);
+                        qobject_cast<QAbstractButton*>(Editor().Control(InkIds::kRestore))->click();
+                        EXPECT_EQ(Ink().Document().Note().Strokes.size(), 1U);
+                      },
+                      OK(), Name(Path(u"b.pwi"))}),
+            kResultOK);
+  EXPECT_FALSE(IsKept());
+  EXPECT_NE(Content(Path(u"b.pwi")), std::nullopt);
+}
+
+TEST_F(InkMemoRecovery, TheOfferGivesWayToThePanel) {
+  EXPECT_EQ(WriteNew({Draw(), OK(), Cancel()}), kResultCancel);
+  m_panel.Lower();
+  g_memo.Buffer.clear();
+  WriteNew({[&] {
+              EXPECT_NE(Editor().Control(InkIds::kRestore), nullptr);
+              m_panel.Raise();
+              EXPECT_EQ(Editor().Control(InkIds::kRestore), nullptr);
+            },
+            Cancel()});
+}
+
+TEST_F(InkMemoRecovery, AMemoWithoutAPathIsNotKept) {
+  EXPECT_EQ(Run(InkMemoKind::Existing, {},
+                {[&] {
+                   InkStroke dot;
+                   dot.Points = {{}};
+                   Ink().Document().AddStroke(dot, {});
+                 },
+                 OK()}),
+            kResultOK);
+  EXPECT_EQ(FindUnsavedInk(InkRecoveryName({})), std::nullopt);
 }
 
 TEST_F(InkMemoDialogTest, TheProgramsEndIsACancel) {

@@ -10,6 +10,7 @@
 #include "platform_ui/ScreenFixture.h"
 #include "resources/Ids.h"
 #include "support/DeviceHome.h"
+#include "support/FixedClock.h"
 #include "support/ScriptedPrompt.h"
 
 namespace quill::test {
@@ -22,11 +23,13 @@ class MemoFixture : public ScreenFixture {
   MemoFixture() {
     g_memo = {};
     g_services.Prompt = &m_prompt;
+    g_services.Clock = &m_clock;
     FixMemoFolder(g_memo);
   }
   ~MemoFixture() override {
     g_memo = {};
     g_services.Prompt = nullptr;
+    g_services.Clock = nullptr;
   }
 
   static QString Path(const char16_t* name) { return MemoPath(g_memo, QString::fromUtf16(name)); }
@@ -51,6 +54,7 @@ class MemoFixture : public ScreenFixture {
 
   DeviceHome m_home;
   ScriptedPrompt m_prompt;
+  FixedClock m_clock{QDateTime(QDate(2004, 9, 15), QTime(9, 30, 5))};
   QString m_proposed;
 };
 

@@ -1,13 +1,13 @@
 #include "editor/ui/EditRecordSheet.h"
 
 #include "editor/SheetSaving.h"
-#include "editor/ui/DraftBar.h"
 #include "editor/ui/ImportedDetailsDlg.h"
 #include "editor/ui/MemoPage.h"
 #include "editor/ui/RecordPage.h"
 #include "exchange/CarriedDetails.h"
 #include "platform/InputPanel.h"
 #include "platform/Services.h"
+#include "platform/ui/OfferBar.h"
 #include "platform/ui/Screen.h"
 #include "resources/Ids.h"
 #include "resources/Menus.h"
@@ -25,8 +25,9 @@ constexpr int kKeepMilliseconds = 2000;
 
 CEditRecordSheet::CEditRecordSheet(CScreen& screen, const QString& caption)
     : CSheet(screen, caption),
-      m_draftBar(new CDraftBar(this)),
-      m_memoPage(new CMemoPage(*this)),
+      m_draftBar(
+          new COfferBar(this, {RecordSheetIds::kRestoreDraft, RecordSheetIds::kDiscardDraft})),
+      m_memoPage(new CMemoPage(*this, m_record)),
       m_commands({{ID_IMPORTED_DETAILS, ID_IMPORTED_DETAILS, [this](int) { ShowImportedDetails(); },
                    [this](int, CommandState& state) { state.Enabled = m_record.Oid != 0; }}}),
       m_panelWasUp(g_services.InputPanel && g_services.InputPanel->IsUp()) {
@@ -56,7 +57,8 @@ void CEditRecordSheet::OnInitDialog() {
 void CEditRecordSheet::Save() {
   m_isDecided = true;
   g_services.Timers->Kill(*this, kKeepTimer);
-  SaveSheet(m_record, g_settings);
+  // Ink that is neither stored nor a draft is offered again, as after a crash.
+  if (SaveSheet(m_record, g_settings) != SheetOutcome::Lost) m_memoPage->ForgetUnsaved();
   m_memoPage->Discard();
 }
 
@@ -64,6 +66,7 @@ void CEditRecordSheet::Save() {
 void CEditRecordSheet::OnCancel() {
   m_isDecided = true;
   m_restored ? SaveDraft(*m_restored) : DiscardDraft(m_record.Draft);
+  m_memoPage->ForgetUnsaved();
   g_contactInk = {};
   CSheet::OnCancel();
 }
@@ -74,6 +77,7 @@ void CEditRecordSheet::OnTimer(int) { KeepEntered(); }
 void CEditRecordSheet::KeepAll() {
   if (ActivePage() == m_memoPage) m_memoPage->BecomeInactive();
   KeepEntered();
+  if (m_record.Draft != 0) m_memoPage->ForgetUnsaved();
 }
 
 void CEditRecordSheet::KeepEntered() {
@@ -105,10 +109,9 @@ void CEditRecordSheet::resizeEvent(QResizeEvent* event) {
   OfferDraft();
 }
 
-// Not while the input panel is up: the page has no room to spare then.
 void CEditRecordSheet::OfferDraft() {
-  const bool isPanelUp = g_services.InputPanel && g_services.InputPanel->IsUp();
-  m_offered && !isPanelUp ? m_draftBar->Offer(*m_offered, PageArea()) : m_draftBar->hide();
+  if (!m_offered) return m_draftBar->hide();
+  m_draftBar->Offer(QStringLiteral("Not saved: ") + TitleOf(*m_offered), PageArea());
 }
 
 // What was entered until now becomes a draft of its own.

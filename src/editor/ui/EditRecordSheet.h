@@ -9,8 +9,8 @@
 
 namespace quill {
 
-class CDraftBar;
 class CMemoPage;
+class COfferBar;
 
 class CEditRecordSheet : public CSheet {
   Q_OBJECT
@@ -46,7 +46,7 @@ class CEditRecordSheet : public CSheet {
   void ShowImportedDetails();
 
   SheetRecord m_record;
-  CDraftBar* m_draftBar;
+  COfferBar* m_draftBar;
   CMemoPage* m_memoPage;
   std::optional<Draft> m_offered;
   std::optional<Draft> m_kept;      // what was entered, as it was kept last

@@ -5,7 +5,9 @@
 
 #include <utility>
 
+#include "editor/SheetRecord.h"
 #include "ink/ui/InkEditing.h"
+#include "ink/ui/InkKeeping.h"
 #include "ink/ui/InkX.h"
 #include "memo/MemoDeletion.h"
 #include "platform/ui/Screen.h"
@@ -22,12 +24,15 @@ constexpr int kRoomBelow = 20;
 
 }  // namespace
 
-CMemoPage::CMemoPage(CSheet& sheet) : CSheetPage(sheet, QStringLiteral("Memo")) {}
+CMemoPage::CMemoPage(CSheet& sheet, const SheetRecord& record)
+    : CSheetPage(sheet, QStringLiteral("Memo")), m_record(record) {}
 
 CMemoPage::~CMemoPage() = default;
 
 void CMemoPage::LoadRows() {
-  if (m_ink) ShowNote();
+  if (!m_ink) return;
+  ForgetUnsaved();  // the sheet has kept it
+  ShowNote();
 }
 
 void CMemoPage::BecomeActive() {
@@ -46,6 +51,7 @@ void CMemoPage::MakeInk() {
 void CMemoPage::ShowNote() {
   PutInkIn(*m_ink, g_contactInk.Bytes);
   ShowInkAsPage(*m_ink);
+  m_keeping = std::make_unique<InkKeeping>(*m_ink, ContactInkRecoveryName(m_record.Oid), *this);
 }
 
 void CMemoPage::BecomeInactive() { g_contactInk.Bytes = TakeInkOut(*m_ink); }
@@ -54,12 +60,24 @@ void CMemoPage::DeleteNote() {
   if (!ConfirmMemoDeletion()) return;
   g_contactInk = {};
   EraseInk(*m_ink);
+  m_keeping->DiscardAll();
+}
+
+void CMemoPage::ForgetUnsaved() {
+  if (m_keeping) m_keeping->Discard();
 }
 
 void CMemoPage::Discard() {
   g_contactInk = {};
+  m_keeping.reset();
   m_editing.reset();
   delete std::exchange(m_ink, nullptr);
+}
+
+ControlMap CMemoPage::Controls() const {
+  ControlMap controls = CSheetPage::Controls();
+  if (m_keeping) controls.merge(m_keeping->Controls());
+  return controls;
 }
 
 MenuBarModel CMemoPage::MenuBar() const { return InkMenuBar(Sheet().Screen(), Route()); }
@@ -71,7 +89,9 @@ CommandRoute CMemoPage::Route() const {
 }
 
 void CMemoPage::resizeEvent(QResizeEvent*) {
-  if (m_ink) m_ink->setGeometry(rect());
+  if (!m_ink) return;
+  m_ink->setGeometry(rect());
+  m_keeping->PlaceBar();
 }
 
 void CMemoPage::paintEvent(QPaintEvent* event) {

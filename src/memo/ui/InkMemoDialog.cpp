@@ -3,6 +3,7 @@
 #include <QResizeEvent>
 
 #include "ink/ui/InkEditing.h"
+#include "ink/ui/InkKeeping.h"
 #include "ink/ui/InkX.h"
 #include "memo/MemoDeletion.h"
 #include "memo/MemoState.h"
@@ -26,7 +27,10 @@ CInkMemoDialog::CInkMemoDialog(CScreen& screen, const QString& path, InkMemoKind
   SetCaption(QStringLiteral("Memo"));
 }
 
-CInkMemoDialog::~CInkMemoDialog() = default;
+// However it ended, the note is saved or given up; also with the program.
+CInkMemoDialog::~CInkMemoDialog() {
+  if (m_keeping) m_keeping->Discard();
+}
 
 void CInkMemoDialog::OnInitDialog() {
   m_ink = new InkX(this);
@@ -34,9 +38,23 @@ void CInkMemoDialog::OnInitDialog() {
   m_editing = std::make_unique<InkEditing>(*m_ink, [this] { DeleteNote(); });
   ShowInkAsPage(*m_ink);
   PutInkIn(*m_ink, g_memo.Buffer);
+  const QString name = RecoveryName();
+  if (!name.isEmpty()) m_keeping = std::make_unique<InkKeeping>(*m_ink, name, *this);
+}
+
+// Whoever opened an existing memo without a path keeps it.
+QString CInkMemoDialog::RecoveryName() const {
+  if (m_kind == InkMemoKind::New) return kNewInkRecoveryName.toString();
+  return m_path.isEmpty() ? QString() : InkRecoveryName(m_path);
 }
 
 void CInkMemoDialog::FocusFirstControl() { m_ink->setFocus(Qt::ActiveWindowFocusReason); }
+
+ControlMap CInkMemoDialog::Controls() const {
+  ControlMap controls = CModalWindow::Controls();
+  if (m_keeping) controls.merge(m_keeping->Controls());
+  return controls;
+}
 
 MenuBarModel CInkMemoDialog::MenuBar() const { return InkMenuBar(Screen(), Route()); }
 
@@ -54,8 +72,9 @@ void CInkMemoDialog::OnOK() {
 void CInkMemoDialog::SaveNew() {
   if (g_memo.Buffer.isEmpty()) return EndDialog(kResultCancel);
   CNameEntryDlg dialog(Screen(), NameEntryMode::Save, m_path);
-  if (dialog.DoModal() != kResultOK) return EndDialog(kResultCancel);
-  Save(dialog.Text());
+  if (dialog.DoModal() == kResultOK) return Save(dialog.Text());
+  m_keeping.reset();  // its file stays
+  EndDialog(kResultCancel);
 }
 
 void CInkMemoDialog::Save(const QString& path) {
@@ -67,6 +86,7 @@ void CInkMemoDialog::Save(const QString& path) {
 void CInkMemoDialog::DeleteNote() {
   if (!ConfirmMemoDeletion()) return;
   g_memo.Buffer.clear();
+  if (m_keeping) m_keeping->DiscardAll();
   const bool isFile = m_kind == InkMemoKind::Existing && !m_path.isEmpty();
   // What cannot be removed stays, and is listed again.
   if (isFile) g_services.Files->Remove(m_path);
@@ -75,7 +95,9 @@ void CInkMemoDialog::DeleteNote() {
 
 // The event of the first showing tells of no change: the control has its place already.
 void CInkMemoDialog::resizeEvent(QResizeEvent* event) {
-  if (m_ink && event->oldSize().isValid()) m_ink->setGeometry(rect());
+  if (!m_ink || !event->oldSize().isValid()) return;
+  m_ink->setGeometry(rect());
+  if (m_keeping) m_keeping->PlaceBar();
 }
 
 }  // namespace quill

@@ -9,6 +9,7 @@
 namespace quill {
 
 class InkEditing;
+class InkKeeping;
 class InkX;
 
 enum class InkMemoKind { New, Existing };
@@ -22,11 +23,13 @@ class CInkMemoDialog : public CModalWindow {
   ~CInkMemoDialog() override;
 
   WindowKind Kind() const override { return WindowKind::Dialog; }
+  ControlMap Controls() const override;
   MenuBarModel MenuBar() const override;
   CommandRoute Route() const override;
   // Writes the file and ends with OK; of a new memo the user names the file first. A new memo with
-  // nothing on its page, and one that is given no name, end with Cancel and make no file. Where the
-  // file cannot be written the user is told, and the editor stays open.
+  // nothing on its page, and one that is given no name, end with Cancel and make no file; what was
+  // given no name is offered to the next new memo. Where the file cannot be written the user is
+  // told, and the editor stays open.
   void OnOK() override;
   void OnVisibleAreaChanged(QRect area) override { setGeometry(area); }
 
@@ -39,11 +42,13 @@ class CInkMemoDialog : public CModalWindow {
   void SaveNew();
   void Save(const QString& path);
   void DeleteNote();
+  QString RecoveryName() const;
 
   const QString m_path;
   const InkMemoKind m_kind;
   InkX* m_ink = nullptr;                  // a child, made by OnInitDialog
   std::unique_ptr<InkEditing> m_editing;  // of m_ink
+  std::unique_ptr<InkKeeping> m_keeping;  // of m_ink; null when it is not a file's
 };
 
 }  // namespace quill

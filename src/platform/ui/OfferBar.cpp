@@ -1,32 +1,24 @@
-#include "editor/ui/DraftBar.h"
+#include "platform/ui/OfferBar.h"
 
 #include <QLabel>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPushButton>
 
-#include <algorithm>
-
+#include "platform/InputPanel.h"
+#include "platform/Services.h"
 #include "platform/TextFitting.h"
 #include "platform/ui/RowPainter.h"
-#include "resources/Ids.h"
 
 namespace quill {
 
 namespace {
 
 constexpr int kHeight = 22;
-constexpr QRect kTextArea{4, 3, 112, 16};
-constexpr QRect kRestoreArea{122, 1, 56, 20};
-constexpr QRect kDiscardArea{180, 1, 58, 20};
+constexpr QRect kTextArea{4, 3, 134, 16};
+constexpr QRect kRestoreArea{140, 1, 48, 20};
+constexpr QRect kDiscardArea{190, 1, 48, 20};
 constexpr Rgb kBarColor = 0xFFF4CE;
-
-// The name that it is filed under or would be, else the first thing that was entered.
-QString TitleOf(const Draft& draft) {
-  if (!draft.FileAs.isEmpty()) return draft.FileAs;
-  const auto first = std::ranges::find_if_not(draft.Record.Texts, &QString::isEmpty);
-  return first == draft.Record.Texts.end() ? QStringLiteral("a contact") : *first;
-}
 
 QPushButton* MakeButton(const QString& text, const QRect& area, QWidget* bar) {
   auto* const button = new QPushButton(text, bar);
@@ -37,8 +29,9 @@ QPushButton* MakeButton(const QString& text, const QRect& area, QWidget* bar) {
 
 }  // namespace
 
-CDraftBar::CDraftBar(QWidget* sheet)
-    : QWidget(sheet),
+COfferBar::COfferBar(QWidget* window, OfferIds ids)
+    : QWidget(window),
+      m_ids(ids),
       m_text(new QLabel(this)),
       m_restore(MakeButton(QStringLiteral("Restore"), kRestoreArea, this)),
       m_discard(MakeButton(QStringLiteral("Discard"), kDiscardArea, this)) {
@@ -49,20 +42,20 @@ CDraftBar::CDraftBar(QWidget* sheet)
   connect(m_discard, &QPushButton::clicked, this, [this] { DiscardAsked(); });
 }
 
-void CDraftBar::Offer(const Draft& draft, const QRect& area) {
-  const QString text = QStringLiteral("Not saved: ") + OnOneLine(TitleOf(draft));
-  m_text->setText(ElideText(text, kTextArea.width(), NormalTextWidth()));
+void COfferBar::Offer(const QString& text, const QRect& area) {
+  m_text->setText(ElideText(OnOneLine(text), kTextArea.width(), NormalTextWidth()));
+  m_text->setAccessibleName(text);
   setGeometry(area.left(), area.bottom() + 1 - kHeight, area.width(), kHeight);
-  show();
+  setVisible(!g_services.InputPanel || !g_services.InputPanel->IsUp());
   raise();
 }
 
-ControlMap CDraftBar::Controls() const {
+ControlMap COfferBar::Controls() const {
   if (isHidden()) return {};
-  return {{RecordSheetIds::kRestoreDraft, m_restore}, {RecordSheetIds::kDiscardDraft, m_discard}};
+  return {{m_ids.Restore, m_restore}, {m_ids.Discard, m_discard}};
 }
 
-void CDraftBar::paintEvent(QPaintEvent* event) {
+void COfferBar::paintEvent(QPaintEvent* event) {
   QPainter(this).fillRect(event->rect(), QColor::fromRgb(kBarColor));
 }
 

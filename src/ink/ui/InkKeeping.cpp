@@ -1,0 +1,94 @@
+#include "ink/ui/InkKeeping.h"
+
+#include <QDateTime>
+
+#include <utility>
+
+#include "ink/ui/InkX.h"
+#include "platform/Clock.h"
+#include "platform/RecoveryFiles.h"
+#include "platform/Services.h"
+#include "resources/ControlIds.h"
+
+namespace quill {
+
+namespace {
+
+// So many runs in a row may leave ink that nobody decides about before the last one's is lost.
+constexpr int kFiles = 4;
+
+QString FileName(const QString& name, int number) {
+  return number == 1 ? name : QStringLiteral("%1-%2").arg(name).arg(number);
+}
+
+QString OfferText(const UnsavedInk& ink) {
+  if (ink.Time == 0) return QStringLiteral("Unsaved ink");
+  const QDateTime time = QDateTime::fromMSecsSinceEpoch(ink.Time);
+  const bool isToday = time.date() == g_services.Clock->Now().date();
+  return QStringLiteral("Unsaved ink from ") +
+         time.toString(isToday ? QStringLiteral("HH:mm") : QStringLiteral("MM/dd"));
+}
+
+void RemoveFile(const QString& name) {
+  // Where that fails it is offered once more, which loses nothing.
+  if (g_services.Recovery) g_services.Recovery->Remove(name);
+}
+
+}  // namespace
+
+InkKeeping::InkKeeping(InkX& ink, const QString& name, QWidget& window)
+    : m_ink(ink),
+      m_window(window),
+      m_bar(std::make_unique<COfferBar>(&window, OfferIds{InkIds::kRestore, InkIds::kDiscard})) {
+  m_bar->RestoreAsked = [this] { Restore(); };
+  m_bar->DiscardAsked = [this] { DropOffer(); };
+  FindOffers(name);
+  PlaceBar();
+}
+
+InkKeeping::~InkKeeping() = default;
+
+void InkKeeping::FindOffers(const QString& name) {
+  QString free;
+  for (int number = 1; number <= kFiles; ++number) {
+    const QString file = FileName(name, number);
+    if (auto ink = FindUnsavedInk(file))
+      m_offers.push_back({file, std::move(*ink)});
+    else if (free.isEmpty())
+      free = file;
+  }
+  if (free.isEmpty()) free = FileName(name, kFiles);
+  m_recovery = std::make_unique<InkRecovery>(m_ink.Document(), free);
+}
+
+void InkKeeping::PlaceBar() {
+  if (m_offers.empty()) return m_bar->hide();
+  m_bar->Offer(OfferText(m_offers.front().Ink), m_window.rect());
+}
+
+// The note goes on in the file that it came from, so that no crash in between loses it.
+void InkKeeping::Restore() {
+  const Offer offer = std::move(m_offers.front());
+  m_offers.pop_front();
+  m_recovery->Discard();
+  m_recovery = std::make_unique<InkRecovery>(m_ink.Document(), offer.Name);
+  m_ink.Document().Replace(offer.Ink.Note);
+  m_ink.setFocus(Qt::ActiveWindowFocusReason);
+  PlaceBar();
+}
+
+void InkKeeping::DropOffer() {
+  RemoveFile(m_offers.front().Name);
+  m_offers.pop_front();
+  m_ink.setFocus(Qt::ActiveWindowFocusReason);
+  PlaceBar();
+}
+
+void InkKeeping::Discard() { m_recovery->Discard(); }
+
+void InkKeeping::DiscardAll() {
+  Discard();
+  while (!m_offers.empty()) DropOffer();
+}
+
+}  // namespace quill
