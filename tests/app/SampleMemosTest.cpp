@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "ink/InkFormat.h"
 #include "support/DeviceHome.h"
 
 namespace quill {
@@ -10,14 +11,18 @@ namespace {
 const QString kFirst =
     QStringLiteral("\\My Documents\\Fennick\\Ahlberg, Ingrid_20240311_101500.pwi");
 
-TEST(SampleMemos, HoldSomething) {
+TEST(SampleMemos, HoldALineAndASketchEach) {
   test::DeviceHome home;
   EXPECT_TRUE(PutSampleMemos(home.Files));
   const QStringList names = home.Files.Find(u"\\My Documents\\Fennick\\*.pwi"_qs);
   EXPECT_EQ(names.size(), 8);
-  for (const QString& name : names)
-    EXPECT_NE(home.Files.ReadWhole(u"\\My Documents\\Fennick\\"_qs + name), QByteArray())
-        << name.toStdString();
+  for (const QString& name : names) {
+    const auto content = home.Files.ReadWhole(u"\\My Documents\\Fennick\\"_qs + name);
+    const InkContent ink = ReadInk(content.value_or(QByteArray()));
+    EXPECT_EQ(ink.Reading, InkReading::Whole) << name.toStdString();
+    EXPECT_FALSE(ink.Note.Text.Text.isEmpty()) << name.toStdString();
+    EXPECT_GE(ink.Note.Strokes.size(), 2U) << name.toStdString();
+  }
 }
 
 TEST(SampleMemos, LeaveMemosThatAreThereAlready) {
