@@ -81,7 +81,7 @@ std::unique_ptr<QIODevice> OpenTarget(const QString& name, const Console& consol
 
 // Whether all of it is where it belongs now.
 bool Finish(QIODevice& target) {
-  if (auto* whole = qobject_cast<QSaveFile*>(&target)) return whole->commit();
+  if (auto* whole = qobject_cast<QSaveFile*>(&target)) return whole->flush() && whole->commit();
   auto* file = qobject_cast<QFile*>(&target);
   return !file || file->flush();
 }

@@ -12,7 +12,8 @@ bool RejectsFile::Open() { return Path().isEmpty() || m_file.open(QIODevice::Wri
 bool RejectsFile::Finish() {
   if (!m_file.isOpen()) return true;
   // Bytes that a full disk did not take count here: commit knows of them.
-  if (m_file.pos() > 0 || m_file.error() != QFileDevice::NoError) return m_file.commit();
+  if (m_file.pos() > 0 || m_file.error() != QFileDevice::NoError)
+    return m_file.flush() && m_file.commit();
   m_file.cancelWriting();
   return true;
 }

@@ -70,7 +70,7 @@ void InkCanvas::FollowExtent() {
   const QRect textUnits =
       QRectF(text.topLeft() * kInkUnitsPerPixel, text.size() * kInkUnitsPerPixel).toAlignedRect();
   const QPoint before = m_view.Scroll();
-  m_view.SetExtent({.PageWidth = static_cast<int>(std::min<quint32>(note.Page.Width, 1 << 28)),
+  m_view.SetExtent({.PageWidth = static_cast<int>(UsedPageWidth(note.Page)),
                     .Content = m_document.InkBounds().united(textUnits),
                     .GrowsRight = m_paper.IsEndless});
   FollowScroll(before);

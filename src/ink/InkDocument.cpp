@@ -1,5 +1,7 @@
 #include "ink/InkDocument.h"
 
+#include <QSignalBlocker>
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -15,6 +17,10 @@ namespace quill {
 namespace {
 
 constexpr int kMostSteps = 1000;
+// All of a page must be read again: of what a reader takes the rest is for text and the strokes'
+// pens.
+constexpr qint64 kMostStrokeMemory = kMostInkMemory - (16 << 20);
+constexpr qint64 kNearlyFull = InkMemory(2000);
 
 qint64 NowInMilliseconds() { return g_services.Clock->Now().toMSecsSinceEpoch(); }
 
@@ -33,12 +39,17 @@ InkNotice NoticeOf(InkReading reading) {
 
 }  // namespace
 
-InkDocument::InkDocument() { m_steps.setUndoLimit(kMostSteps); }
+// Only once the stack knows of a step it says rightly what can be undone and what is unchanged.
+InkDocument::InkDocument() {
+  m_steps.setUndoLimit(kMostSteps);
+  connect(&m_steps, &QUndoStack::indexChanged, this, &InkDocument::Edited);
+}
 
 void InkDocument::SetData(const QByteArray& data) {
   InkContent content = ReadInk(data);
   m_original = data;
   m_notice = NoticeOf(content.Reading);
+  const QSignalBlocker unedited(m_steps);
   m_steps.clear();
   m_leaf.Load(std::move(content.Note));
   FollowNewPageWidth();
@@ -55,7 +66,13 @@ QByteArray InkDocument::Data() const {
 }
 
 InkNotice InkDocument::Notice() const {
-  return m_notice == InkNotice::Damaged || m_steps.isClean() ? m_notice : InkNotice::None;
+  if (m_notice == InkNotice::Damaged || m_steps.isClean()) return m_notice;
+  const bool isFull = m_leaf.StrokeMemory() + kNearlyFull > kMostStrokeMemory;
+  return isFull ? InkNotice::Full : InkNotice::None;
+}
+
+bool InkDocument::HasRoomFor(const std::vector<InkStrokePtr>& strokes) const {
+  return m_leaf.StrokeMemory() + MemoryOf(strokes) <= kMostStrokeMemory;
 }
 
 bool InkDocument::IsLocked() const {
@@ -89,7 +106,8 @@ void InkDocument::AddStroke(InkStroke stroke, const InkPen& pen) {
   if (IsLocked() || stroke.Points.empty()) return;
   BeginPage();
   stroke.Pen = m_leaf.PenFor(pen);
-  Push({{.Added = {{Note().Strokes.size(), SealInkStroke(std::move(stroke))}}}});
+  const InkStrokePtr sealed = SealInkStroke(std::move(stroke));
+  if (HasRoomFor({sealed})) Push({{.Added = {{Note().Strokes.size(), sealed}}}});
 }
 
 void InkDocument::Erase(const std::vector<InkStrokePtr>& strokes, int gesture) {
@@ -119,7 +137,7 @@ void InkDocument::Delete(const std::vector<InkStrokePtr>& strokes, int from, int
 }
 
 std::vector<InkStrokePtr> InkDocument::Paste(const InkNote& fragment, QPoint by, int from, int to) {
-  if (IsLocked()) return {};
+  if (IsLocked() || !HasRoomFor(fragment.Strokes)) return {};
   BeginPage();
   const QPoint way = WithinReach(BoundsOf(fragment.Strokes), by);
   const std::vector<InkStrokePtr> pasted = m_leaf.WithPensOfPage(fragment).Strokes;
@@ -135,8 +153,15 @@ std::vector<InkStrokePtr> InkDocument::Paste(const InkNote& fragment, QPoint by,
   return {Note().Strokes.end() - static_cast<std::ptrdiff_t>(pasted.size()), Note().Strokes.end()};
 }
 
+void InkDocument::PlaceText(int y) {
+  if (IsLocked() || HasText()) return;
+  const int line = qRound(TextLayout().LineHeight() * kInkUnitsPerPixel);
+  m_leaf.PlaceText(std::max(y, 0) / line * line);
+}
+
 void InkDocument::Type(int from, int to, const QString& text) {
   if (IsLocked()) return;
+  if (!HasText()) m_leaf.FindRoomForText();
   BeginPage();
   Push(m_leaf.Typed(from, to, text, Note().Strokes),
        {.Merge = InkStepMerge::Typing, .Time = NowInMilliseconds()});
@@ -145,6 +170,7 @@ void InkDocument::Type(int from, int to, const QString& text) {
 void InkDocument::SetPreedit(const InkPreedit& preedit) {
   if (IsLocked() && !preedit.Text.isEmpty()) return;
   const QRect before = m_leaf.PaintedTextArea();
+  if (!HasText() && !preedit.Text.isEmpty()) m_leaf.FindRoomForText();
   m_leaf.SetPreedit(preedit);
   Q_EMIT Changed(before.united(m_leaf.PaintedTextArea()));
 }
@@ -168,7 +194,6 @@ void InkDocument::Apply(const std::vector<InkChange>& changes) {
     if (change.Text) Q_EMIT TextChanged(change.Text->CaretAfter);
   }
   if (isOnTop) Q_EMIT StrokeAdded(Note().Strokes.back());
-  Q_EMIT Edited();
 }
 
 }  // namespace quill

@@ -19,6 +19,7 @@ enum class InkNotice {
   Damaged,  // what was saved of it is shown
   Foreign,  // not a note: nothing is shown
   Newer,    // of a newer version: what is understood is shown
+  Full,     // no more ink goes onto the page
 };
 
 class InkDocument : public QObject {
@@ -44,7 +45,7 @@ class InkDocument : public QObject {
   // An empty page is so wide until its first content fixes that; later steps change nothing of it.
   void SetNewPageWidth(quint32 width);
 
-  // Writes a stroke with this pen on top of all others.
+  // Writes a stroke with this pen on top of all others. Where the page is full nothing comes of it.
   void AddStroke(InkStroke stroke, const InkPen& pen);
   // gesture: takes of one number are one step.
   void Erase(const std::vector<InkStrokePtr>& strokes, int gesture);
@@ -55,9 +56,11 @@ class InkDocument : public QObject {
   // Puts the strokes of a fragment on the page, moved, and its text in place of what is between two
   // positions. Returns the strokes as they are on the page.
   std::vector<InkStrokePtr> Paste(const InkNote& fragment, QPoint by, int from, int to);
+  // Text that is begun on an empty page of text begins at the line of this place; units.
+  void PlaceText(int y);
   // Types a text in place of what is between two positions. Typing goes on in one step within a
   // second. However text changes, ink that lies wholly below the line of the second position moves
-  // with the lines that follow.
+  // with the lines that follow. Text that would begin on ink begins below all of it.
   void Type(int from, int to, const QString& text);
   // Shows what an input method composes; it is not part of the page.
   void SetPreedit(const InkPreedit& preedit);
@@ -80,6 +83,8 @@ class InkDocument : public QObject {
  private:
   friend class InkStep;
 
+  bool HasRoomFor(const std::vector<InkStrokePtr>& strokes) const;
+  bool HasText() const { return !Note().Text.Text.isEmpty(); }
   bool WasNeverWritten() const;
   void FollowNewPageWidth();
   void BeginPage();

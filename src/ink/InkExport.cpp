@@ -56,7 +56,7 @@ QString StrokeElement(const InkNote& note, const InkStroke& stroke) {
 
 InkTextLayout LaidOut(const InkNote& note) {
   InkTextLayout layout;
-  layout.Load(note.Text, note.Page.RulePitch);
+  layout.Load(note.Text, UsedLinePitch(note.Page));
   return layout;
 }
 

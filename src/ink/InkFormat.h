@@ -21,6 +21,8 @@ inline constexpr qint64 kLatestInk = 1LL << 53;         // milliseconds from 197
 inline constexpr qint64 kMostInkMemory = 64 << 20;      // bytes, see InkMemory
 inline constexpr qint64 kMostUnpackedBytes = 64 << 20;  // of one chunk
 
+inline constexpr int kLongestInkText = 100'000;  // UTF-16 units
+
 // What a stroke of so many points takes of kMostInkMemory: some four million points fit in a note,
 // fewer when the strokes are short.
 constexpr qint64 InkMemory(quint64 points) {

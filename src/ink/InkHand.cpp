@@ -46,7 +46,18 @@ InkHand::Gesture InkHand::GestureFor(const InkInput& input) const {
   return isHeld ? Gesture::MoveSelection : Gesture::Select;
 }
 
-void InkHand::Take(const InkInput& input) {
+// Some drivers tell of a press before they know its pressure: it begins with the first move that
+// has some.
+bool InkHand::BeginsLate(const InkInput& input) {
+  if (input.Phase == InkPhase::Press) m_isAwaited = !IsTouching(input);
+  if (input.Phase == InkPhase::Release || input.Phase == InkPhase::Hover) m_isAwaited = false;
+  const bool begins = m_isAwaited && input.Phase == InkPhase::Move && IsTouching(input);
+  if (begins) m_isAwaited = false;
+  return begins;
+}
+
+void InkHand::Take(InkInput input) {
+  if (BeginsLate(input)) input.Phase = InkPhase::Press;
   if (input.Phase == InkPhase::Press) return Press(input);
   if (m_gesture == Gesture::Write) return Write(input);
   if (m_gesture == Gesture::None || input.Device != m_device) return;
@@ -91,7 +102,7 @@ void InkHand::Go(const InkInput& input) {
   }
   if (m_gesture == Gesture::Erase) EraseTo(at);
   m_path.append(at);
-  if (m_gesture == Gesture::Select) SelectAlongPath();
+  if (m_gesture == Gesture::Select) SelectTextAlongPath();
   if (m_gesture != Gesture::Erase) AllShown();
 }
 
@@ -99,10 +110,16 @@ void InkHand::End(const InkInput& input) {
   const bool isTap = IsTap(input.At);
   const bool taps = m_gesture == Gesture::Select || m_gesture == Gesture::MoveSelection;
   if (m_gesture == Gesture::MoveSelection && !isTap) DropSelection();
-  if (taps && isTap) m_selection.SetCaret(m_document.TextLayout().PositionAt(m_path.first()));
+  if (m_gesture == Gesture::Select && !isTap) SelectStrokesInPath();
+  if (taps && isTap) SetCaret(m_path.first());
   m_gesture = Gesture::None;
   m_path.clear();
   if (taps) AllShown();
+}
+
+void InkHand::SetCaret(QPointF page) {
+  m_document.PlaceText(Units(page).y());
+  m_selection.SetCaret(m_document.TextLayout().PositionAt(page));
 }
 
 // It never went far from where it began.
@@ -110,6 +127,15 @@ bool InkHand::IsTap(QPointF window) const {
   const QRectF way = m_path.boundingRect();
   const qreal farthest = std::max(way.width(), way.height()) * m_canvas.View().Zoom() / 100;
   return farthest < kTapDistance && QLineF(m_windowBegin, window).length() < kTapDistance;
+}
+
+void InkHand::CancelFinger() {
+  if (IsDown() && m_device == InkDevice::Finger) Cancel();
+}
+
+void InkHand::Finish() {
+  if (m_gesture == Gesture::Write) return Lift({});
+  Cancel();
 }
 
 void InkHand::Cancel() {
@@ -121,12 +147,16 @@ void InkHand::Cancel() {
 
 void InkHand::Write(const InkInput& input) {
   const bool endless = m_canvas.Paper().IsEndless;
-  const qreal width = static_cast<qreal>(m_document.Note().Page.Width) / kInkUnitsPerPixel;
+  const qreal width = static_cast<qreal>(UsedPageWidth(m_document.Note().Page)) / kInkUnitsPerPixel;
   m_capture.SetRightEdge(endless ? std::nullopt : std::optional(width));
   InkInput onPage = input;
   onPage.At = PageAt(input);
-  for (const InkCaptured& captured : m_capture.Take(onPage)) Carry(captured);
-  if (!m_capture.IsDown()) m_gesture = Gesture::None;
+  const auto captured = m_capture.Take(onPage);
+  for (const InkCaptured& each : captured) Carry(each);
+  if (m_capture.IsDown()) return;
+  m_gesture = Gesture::None;
+  // Where the pen only left the page, the view must not move under it.
+  if (!captured.empty()) Wrote(*m_lastPlace);
 }
 
 void InkHand::Carry(const InkCaptured& captured) {
@@ -148,7 +178,7 @@ void InkHand::BeginStroke() {
 void InkHand::FinishStroke() {
   m_canvas.LiftStroke();
   m_document.AddStroke(std::exchange(m_stroke, {}), InkPen{});
-  Wrote(*m_lastPlace);
+  if (m_canvas.HasStroke()) Shown(m_canvas.CancelStroke());  // the page is full
 }
 
 void InkHand::EraseTo(QPointF at) {
@@ -158,12 +188,15 @@ void InkHand::EraseTo(QPointF at) {
                    m_eraseGesture);
 }
 
-// Text is selected as a line of writing is, ink by what the drag takes in.
-void InkHand::SelectAlongPath() {
+// What of the ink a drag takes in is asked once, at its end: it costs the whole page.
+void InkHand::SelectStrokesInPath() {
   QPolygon path;
   for (const QPointF at : m_path) path.append(Units(at));
-  const QPolygon area = DraggedArea(path);
-  m_selection.SelectStrokes(StrokesInside(m_document.Note(), area));
+  m_selection.SelectStrokes(StrokesInside(m_document.Note(), DraggedArea(path)));
+}
+
+// As a line of writing is selected, while the pen goes on.
+void InkHand::SelectTextAlongPath() {
   const InkTextLayout& layout = m_document.TextLayout();
   const int anchor = layout.PositionAt(m_path.first());
   const bool takesText = layout.Bounds().intersects(m_path.boundingRect().adjusted(0, 0, 1, 1));

@@ -24,9 +24,13 @@ class InkHand {
   InkTask Task() const { return m_task; }
 
   // At is in window pixels.
-  void Take(const InkInput& input);
+  void Take(InkInput input);
   // Takes the gesture back: a stroke in the air goes, what was erased comes back with undo.
   void Cancel();
+  // A finger's gesture is taken back: a pen came.
+  void CancelFinger();
+  // As if lifted: a stroke in the air is written.
+  void Finish();
   bool IsDown() const { return m_gesture != Gesture::None; }
 
   // Where it was last put down or wrote, page pixels; nothing before.
@@ -49,6 +53,7 @@ class InkHand {
   enum class Gesture { None, Write, Erase, Select, MoveSelection, Scroll };
 
   Gesture GestureFor(const InkInput& input) const;
+  bool BeginsLate(const InkInput& input);
   void Press(const InkInput& input);
   void Lift(InkInput input);
   void Begin(const InkInput& input);
@@ -60,7 +65,9 @@ class InkHand {
   void BeginStroke();
   void FinishStroke();
   void EraseTo(QPointF at);
-  void SelectAlongPath();
+  void SelectStrokesInPath();
+  void SelectTextAlongPath();
+  void SetCaret(QPointF page);
   void DropSelection();
   QPointF PageAt(const InkInput& input) const;
 
@@ -75,6 +82,7 @@ class InkHand {
   QPolygonF m_path;    // of another gesture; page pixels
   QPointF m_windowBegin;
   QPoint m_scrollBegin;
+  bool m_isAwaited = false;  // a press came without pressure
   int m_eraseGesture = 0;
   std::optional<QPointF> m_lastPlace;
 };

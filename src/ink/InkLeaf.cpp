@@ -1,7 +1,9 @@
 #include "ink/InkLeaf.h"
 
 #include <algorithm>
+#include <map>
 
+#include "ink/InkFormat.h"
 #include "ink/InkSelect.h"
 #include "ink/InkStrokePainter.h"
 #include "ink/InkTextEditing.h"
@@ -28,8 +30,13 @@ InkShift ShiftBelow(const InkTextLayout& layout, int position, int lines,
                     const std::vector<InkStrokePtr>& strokes) {
   InkShift shift{.By = {0, Units(lines * layout.LineHeight())}};
   const int bottom = Units(layout.TopOfLine(layout.LineOf(position) + 1));
-  for (std::size_t i = 0; lines != 0 && i < strokes.size(); ++i)
-    if (strokes[i]->Bounds.top() >= bottom) shift.Indices.push_back(i);
+  QRect moved;
+  for (std::size_t i = 0; lines != 0 && i < strokes.size(); ++i) {
+    if (strokes[i]->Bounds.top() < bottom) continue;
+    shift.Indices.push_back(i);
+    moved = moved.united(strokes[i]->Bounds);
+  }
+  shift.By = WithinReach(moved, shift.By);
   return shift;
 }
 
@@ -40,16 +47,36 @@ bool HasTextBelow(const InkTextLayout& layout, const QString& text, int position
 
 }  // namespace
 
+qint64 MemoryOf(const std::vector<InkStrokePtr>& strokes) {
+  qint64 memory = 0;
+  for (const InkStrokePtr& stroke : strokes) memory += InkMemory(stroke->Points.size());
+  return memory;
+}
+
 void InkLeaf::Load(InkNote note) {
   m_note = std::move(note);
-  m_inkBounds = BoundsOf(m_note.Strokes);
-  m_layout.Load(m_note.Text, m_note.Page.RulePitch);
+  MeasureStrokes();
+  m_layout.Load(m_note.Text, UsedLinePitch(m_note.Page));
 }
 
 void InkLeaf::SetWidth(quint32 width) {
   m_note.Page.Width = width;
   m_note.Text.WrapWidth = width - 2 * static_cast<quint32>(InkText{}.X);
-  m_layout.Load(m_note.Text, m_note.Page.RulePitch);
+  m_layout.Load(m_note.Text, UsedLinePitch(m_note.Page));
+}
+
+void InkLeaf::PlaceText(qint32 top) {
+  m_note.Text.Y = top;
+  m_layout.Load(m_note.Text, UsedLinePitch(m_note.Page));
+}
+
+void InkLeaf::FindRoomForText() {
+  const int pitch = Units(m_layout.LineHeight());
+  const int end = m_note.Text.Y + pitch;
+  const bool isCovered = std::ranges::any_of(m_note.Strokes, [&](const InkStrokePtr& stroke) {
+    return stroke->Bounds.top() < end && stroke->Bounds.bottom() >= m_note.Text.Y;
+  });
+  if (isCovered) PlaceText((m_inkBounds.bottom() / pitch + 1) * pitch);
 }
 
 quint32 InkLeaf::PenFor(const InkPen& pen) {
@@ -60,8 +87,11 @@ quint32 InkLeaf::PenFor(const InkPen& pen) {
 }
 
 InkNote InkLeaf::WithPensOfPage(InkNote note) {
+  std::map<quint32, quint32> numbers;  // of the page's pens, by the note's
   for (InkStrokePtr& stroke : note.Strokes) {
-    const quint32 pen = PenFor(InkPenOf(note, *stroke));
+    const auto [known, isNew] = numbers.try_emplace(stroke->Pen);
+    if (isNew) known->second = PenFor(InkPenOf(note, *stroke));
+    const quint32 pen = known->second;
     if (pen == stroke->Pen) continue;
     auto copy = std::make_shared<InkStroke>(*stroke);
     copy->Pen = pen;
@@ -132,9 +162,16 @@ QRect InkLeaf::AreaOf(const InkChange& change) const {
 // Writing must not cost what the page holds.
 void InkLeaf::FollowStrokes(const InkChange& change) {
   const bool isAddedOnly = change.Removed.empty() && change.Shifted.Indices.empty();
-  if (!isAddedOnly || change.Whole) m_inkBounds = BoundsOf(m_note.Strokes);
-  for (const InkPlacedStroke& placed : change.Added)
+  if (!isAddedOnly || change.Whole) return MeasureStrokes();
+  for (const InkPlacedStroke& placed : change.Added) {
     m_inkBounds = m_inkBounds.united(placed.Stroke->Bounds);
+    m_strokeMemory += MemoryOf({placed.Stroke});
+  }
+}
+
+void InkLeaf::MeasureStrokes() {
+  m_inkBounds = BoundsOf(m_note.Strokes);
+  m_strokeMemory = MemoryOf(m_note.Strokes);
 }
 
 InkText InkLeaf::TextAfter(const InkTextChange& change) const {
@@ -146,14 +183,14 @@ InkText InkLeaf::TextAfter(const InkTextChange& change) const {
 
 void InkLeaf::ApplyText(const InkTextChange& change) {
   m_note.Text = TextAfter(change);
-  m_layout.Load(m_note.Text, m_note.Page.RulePitch);
+  m_layout.Load(m_note.Text, UsedLinePitch(m_note.Page));
 }
 
 void InkLeaf::ApplyWhole(const InkNote& note) {
   const std::vector<InkPen> pens = std::move(m_note.Pens);
   m_note = note;
   m_note.Pens = pens;
-  m_layout.Load(m_note.Text, m_note.Page.RulePitch);
+  m_layout.Load(m_note.Text, UsedLinePitch(m_note.Page));
 }
 
 }  // namespace quill

@@ -8,11 +8,15 @@
 
 namespace quill {
 
+// What strokes take of kMostInkMemory.
+qint64 MemoryOf(const std::vector<InkStrokePtr>& strokes);
+
 class InkLeaf {
  public:
   const InkNote& Note() const { return m_note; }
   // Around all strokes' points.
   const QRect& InkBounds() const { return m_inkBounds; }
+  qint64 StrokeMemory() const { return m_strokeMemory; }
   const InkTextLayout& TextLayout() const { return m_layout; }
   // The lines of the text; empty without text.
   QRect TextArea() const;
@@ -25,6 +29,10 @@ class InkLeaf {
   // Text is wrapped within the page's margins.
   void SetWidth(quint32 width);
   void SetCreated(qint64 milliseconds) { m_note.Page.Created = static_cast<quint64>(milliseconds); }
+  // A page without text: it will begin at this line; units.
+  void PlaceText(qint32 top);
+  // The same, where ink lies there: below all of the ink.
+  void FindRoomForText();
   // The number of a pen. Pens never go: strokes that can come back name them.
   quint32 PenFor(const InkPen& pen);
   // A note whose strokes name the pens of this page.
@@ -45,10 +53,12 @@ class InkLeaf {
   void ApplyWhole(const InkNote& note);
   QRect AreaOf(const InkChange& change) const;
   InkText TextAfter(const InkTextChange& change) const;
+  void MeasureStrokes();
   void FollowStrokes(const InkChange& change);
 
   InkNote m_note;
   QRect m_inkBounds;
+  qint64 m_strokeMemory = 0;
   InkTextLayout m_layout;
 };
 

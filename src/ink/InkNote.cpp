@@ -11,4 +11,13 @@ InkStrokePtr SealInkStroke(InkStroke stroke) {
   return std::make_shared<const InkStroke>(std::move(stroke));
 }
 
+quint32 UsedPageWidth(const InkPage& page) {
+  return std::clamp<quint32>(page.Width, kDefaultPageWidth, 1 << 28);
+}
+
+quint32 UsedLinePitch(const InkPage& page) {
+  if (page.RulePitch == 0) return kDefaultRulePitch;
+  return std::clamp<quint32>(page.RulePitch, 8 * kInkUnitsPerPixel, 1000 * kInkUnitsPerPixel);
+}
+
 }  // namespace quill

@@ -104,6 +104,12 @@ struct InkPage {
   bool operator==(const InkPage&) const = default;
 };
 
+// What a page measures where it is shown and written on. A file may say anything, and keeps it:
+// here its width is at least the default, its lines are 8 to 1,000 pixels apart, 24 where it has
+// none.
+quint32 UsedPageWidth(const InkPage& page);
+quint32 UsedLinePitch(const InkPage& page);
+
 // Something of a later version or another program that may be kept through an edit.
 struct InkExtra {
   QByteArray Type;  // four letters

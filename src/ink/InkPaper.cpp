@@ -40,11 +40,14 @@ void ForEachStep(double pitch, double scale, int from, int to, Found found) {
   }
 }
 
+// 0 for a page without rules.
+double PitchOf(const InkPage& page) { return page.RulePitch == 0 ? 0 : UsedLinePitch(page); }
+
 // Rules and dots are as wide as the sheet, which is the piece's area.
 void PaintRules(const InkPiece& sheet, const InkPage& page) {
   const QRect& area = sheet.Area;
   const int width = LineWidth(sheet.Scale);
-  ForEachStep(page.RulePitch, sheet.Scale, area.top() - width, area.bottom(), [&](int y) {
+  ForEachStep(PitchOf(page), sheet.Scale, area.top() - width, area.bottom(), [&](int y) {
     Fill(sheet, {area.left(), y, area.width(), width}, kRule);
   });
   Fill(sheet, {Device(kMarginX, sheet.Scale), area.top(), width, area.height()}, kMarginLine);
@@ -52,7 +55,7 @@ void PaintRules(const InkPiece& sheet, const InkPage& page) {
 
 void PaintDots(const InkPiece& sheet, const InkPage& page) {
   const QRect& area = sheet.Area;
-  const double pitch = static_cast<double>(page.RulePitch) / kDotsPerRule;
+  const double pitch = PitchOf(page) / kDotsPerRule;
   const int width = LineWidth(sheet.Scale);
   ForEachStep(pitch, sheet.Scale, area.top() - width, area.bottom(), [&](int y) {
     ForEachStep(pitch, sheet.Scale, area.left() - width, area.right(), [&](int x) {
@@ -65,7 +68,7 @@ void PaintDots(const InkPiece& sheet, const InkPage& page) {
 
 void PaintPaper(const InkPiece& piece, const InkPage& page, const InkPaper& paper) {
   InkPiece sheet = piece;
-  const int pageWidth = static_cast<int>(std::ceil(page.Width * piece.Scale));
+  const int pageWidth = static_cast<int>(std::ceil(UsedPageWidth(page) * piece.Scale));
   if (!paper.IsEndless) sheet.Area.setRight(std::min(piece.Area.right(), pageWidth - 1));
   Fill(piece, piece.Area, kBesidePage);
   Fill(sheet, sheet.Area, kPaper);

@@ -133,7 +133,7 @@ std::vector<InkParagraph> SplitInkText(const InkText& text) {
     paragraph.Runs = runs.Take(end - start);
     runs.Take(1);  // the line end's
     for (; nextBreak != text.SoftBreaks.end() && *nextBreak <= end; ++nextBreak)
-      paragraph.Breaks.push_back(*nextBreak - start);
+      if (start < *nextBreak && *nextBreak < end) paragraph.Breaks.push_back(*nextBreak - start);
     start = end + 1;
   }
   return paragraphs;
@@ -143,9 +143,10 @@ InkLines::InkLines(const InkParagraph& paragraph, qreal width, InkBreaking break
   const Formats formats = FormatsOf(paragraph.Runs);
   if (breaking == InkBreaking::Stored) {
     AddPieces(paragraph.Text, formats, paragraph.Breaks);
-    const bool isTooWide = width > 0 && Width() > width * kNeverLaidOut;
+    const bool isTooWide = width > 0 && m_width > width * kNeverLaidOut;
     if (!paragraph.Breaks.empty() || !isTooWide) return;
     m_lines.clear();
+    m_width = 0;
   }
   AddPieces(paragraph.Text, formats, BreaksFor(paragraph.Text, formats, width));
 }
@@ -172,7 +173,10 @@ void InkLines::AddPieces(const QString& text, const Formats& formats,
 }
 
 void InkLines::AddPiece(std::shared_ptr<QTextLayout> piece, int begin) {
-  for (int i = 0; i < piece->lineCount(); ++i) m_lines.push_back({piece, begin, i});
+  for (int i = 0; i < piece->lineCount(); ++i) {
+    m_lines.push_back({piece, begin, i});
+    m_width = std::max(m_width, piece->lineAt(i).naturalTextWidth());
+  }
 }
 
 std::vector<int> InkLines::Breaks() const {
@@ -210,12 +214,6 @@ int InkLines::PositionAt(int line, qreal x) const {
 }
 
 qreal InkLines::Width(int line) const { return m_lines[line].Shown().naturalTextWidth(); }
-
-qreal InkLines::Width() const {
-  qreal width = 0;
-  for (int line = 0; line < Count(); ++line) width = std::max(width, Width(line));
-  return width;
-}
 
 void InkLines::Paint(QPainter& painter, int line, QPointF baseline) const {
   const QTextLine shown = m_lines[line].Shown();

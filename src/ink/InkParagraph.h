@@ -64,7 +64,7 @@ class InkLines {
   int PositionAt(int line, qreal x) const;
   qreal Width(int line) const;
   // The widest of all.
-  qreal Width() const;
+  qreal Width() const { return m_width; }
   void Paint(QPainter& painter, int line, QPointF baseline) const;
 
  private:
@@ -82,6 +82,7 @@ class InkLines {
   void AddPiece(std::shared_ptr<QTextLayout> piece, int begin);
 
   std::vector<Line> m_lines;
+  qreal m_width = 0;  // of the widest line
 };
 
 }  // namespace quill

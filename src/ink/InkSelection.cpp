@@ -12,7 +12,7 @@ void InkSelection::SelectAll() {
   m_strokes = m_document.Note().Strokes;
   m_anchor = 0;
   m_caret = static_cast<int>(m_document.Note().Text.Text.size());
-  m_isAll = m_document.IsLocked();
+  m_isAll = m_document.Notice() != InkNotice::None;
 }
 
 void InkSelection::SelectNothing() {
@@ -43,7 +43,7 @@ void InkSelection::FollowPage() {
   const auto length = static_cast<int>(m_document.Note().Text.Text.size());
   m_anchor = std::min(m_anchor, length);
   m_caret = std::min(m_caret, length);
-  m_isAll = m_isAll && m_document.IsLocked();
+  m_isAll = m_isAll && m_document.Notice() != InkNotice::None;
   if (m_strokes.empty()) return;
   std::vector<InkStrokePtr> left;
   for (InkPlacedStroke& placed : PlacesOf(m_document.Note(), m_strokes))

@@ -15,7 +15,7 @@ class InkSelection {
   int Caret() const { return m_caret; }
   int TextFrom() const { return std::min(m_anchor, m_caret); }
   int TextTo() const { return std::max(m_anchor, m_caret); }
-  // All was selected as a whole: the only selection of a note that cannot be read.
+  // All was selected of a note of which not all is shown: what is not shown goes with the rest.
   bool IsAll() const { return m_isAll; }
 
   void SelectAll();

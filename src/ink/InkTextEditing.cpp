@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "ink/InkFormat.h"
+
 namespace quill {
 
 namespace {

@@ -194,7 +194,8 @@ QRectF InkTextLayout::Caret(int position) const {
 std::vector<QRectF> InkTextLayout::Selection(int from, int to) const {
   std::vector<QRectF> rectangles;
   if (from >= to) return rectangles;
-  for (int line = LineOf(from); line <= LineOf(to); ++line) {
+  const int last = LineOf(to);
+  for (int line = LineOf(from); line <= last; ++line) {
     const Found found = FindLine(line);
     const int begin = StoredPosition(found.In, found.In.Lines().Begin(found.Line));
     const int end = StoredPosition(found.In, found.In.Lines().End(found.Line));

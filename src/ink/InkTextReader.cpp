@@ -85,7 +85,7 @@ void TextReader::ReadBlock() {
   QStringDecoder decoder(QStringDecoder::Utf8,
                          QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
   m_text.Text = decoder.decode(m_bytes);
-  if (decoder.hasError()) m_reader.Fail();
+  if (decoder.hasError() || m_text.Text.size() > kLongestInkText) m_reader.Fail();
   ReadRuns();
   ReadBreaks();
 }

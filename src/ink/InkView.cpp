@@ -56,7 +56,7 @@ QPoint InkView::FarthestScroll() const {
   const QSize window = WindowSize();
   const QSize covered(RoundUp(m_covered.width() * m_ratio), RoundUp(m_covered.height() * m_ratio));
   const bool hasContent = !m_extent.Content.isEmpty();
-  const int contentRight = hasContent ? RoundUp((m_extent.Content.right() + 1) * Scale()) : 0;
+  const int contentRight = hasContent ? RoundUp(m_extent.Content.right() * Scale()) : 0;
   const int contentBottom = hasContent ? RoundUp((m_extent.Content.bottom() + 1) * Scale()) : 0;
   int width = std::max(RoundUp(m_extent.PageWidth * Scale()), contentRight);
   if (m_extent.GrowsRight) width = std::max(width, contentRight + window.width() / 2);

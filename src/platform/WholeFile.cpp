@@ -28,8 +28,10 @@ void SyncFolder(const QString& folder) {
 
 QString WriteWholeFile(const QString& file, const QByteArray& content) {
   QSaveFile target(file);
-  if (target.open(QIODevice::WriteOnly)) target.write(content);
-  if (target.error() != QFileDevice::NoError || !target.commit()) return target.errorString();
+  // Flushed here: commit would not notice what its own flushing could not write.
+  const bool isWritten = target.open(QIODevice::WriteOnly) &&
+                         target.write(content) == content.size() && target.flush();
+  if (!isWritten || !target.commit()) return target.errorString();
   SyncFolder(QFileInfo(file).path());
   return {};
 }

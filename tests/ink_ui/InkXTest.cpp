@@ -157,16 +157,17 @@ TEST_P(InkXBytes, AreEmptiedBySelectingAllAndClearing) {
 
 INSTANTIATE_TEST_SUITE_P(
     Bytes, InkXBytes,
-    testing::Values(BytesCase{"own", [](const QByteArray& whole) { return whole; }},
-                    BytesCase{"foreign",
-                              [](const QByteArray&) { return QByteArray("{\\rtf1 x}"); }},
-                    BytesCase{"cut", [](const QByteArray& whole) { return whole.chopped(9); }},
-                    BytesCase{"changed",
-                              [](const QByteArray& whole) {
-                                QByteArray changed = whole;
-                                changed[whole.size() - 20] = char(changed[whole.size() - 20] ^ 4);
-                                return changed;
-                              }}),
+    testing::Values(
+        BytesCase{"own", [](const QByteArray& whole) { return whole; }},
+        BytesCase{"foreign", [](const QByteArray&) { return QByteArray("{\\rtf1 x}"); }},
+        BytesCase{"cut", [](const QByteArray& whole) { return whole.chopped(9); }},
+        BytesCase{"nothing_left", [](const QByteArray& whole) { return whole.left(9); }},
+        BytesCase{"changed",
+                  [](const QByteArray& whole) {
+                    QByteArray changed = whole;
+                    changed[whole.size() - 20] = char(changed[whole.size() - 20] ^ 4);
+                    return changed;
+                  }}),
     [](const auto& row) { return row.param.Name; });
 
 TEST_F(InkXTest, AForeignNoteTakesNoInkNoTextAndNoPaste) {

@@ -6,6 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+
+#include <sys/resource.h>
+
 namespace quill {
 namespace {
 
@@ -34,6 +38,34 @@ TEST_F(WholeFile, AFailureSaysWhyAndLeavesNothingBehind) {
   ASSERT_TRUE(QDir(m_folder.path()).mkdir(u"taken"_qs));
   EXPECT_NE(WriteWholeFile(At(u"taken"_qs), "new"), QString());
   EXPECT_TRUE(Names().isEmpty());
+}
+
+// A disk that is full after so many bytes.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t bytes) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    getrlimit(RLIMIT_FSIZE, &m_before);
+    const rlimit limit{bytes, m_before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &m_before);
+    std::signal(SIGXFSZ, SIG_DFL);
+  }
+
+ private:
+  rlimit m_before;
+};
+
+TEST_F(WholeFile, AFullDiskLeavesTheOldContentAndIsTold) {
+  ASSERT_EQ(WriteWholeFile(At(u"a"_qs), "old"), QString());
+  for (const int size : {900, 90'000}) {
+    const FullDisk full(400);
+    EXPECT_NE(WriteWholeFile(At(u"a"_qs), QByteArray(size, 'n')), QString()) << size;
+  }
+  EXPECT_EQ(Content(u"a"_qs), "old");
+  EXPECT_EQ(Names(), QStringList(u"a"_qs));
 }
 
 TEST_F(WholeFile, AFileSetAsideTakesTheFirstNameThatIsFree) {

@@ -54,7 +54,11 @@ void CMemoPage::ShowNote() {
   m_keeping = std::make_unique<InkKeeping>(*m_ink, ContactInkRecoveryName(m_record.Oid), *this);
 }
 
-void CMemoPage::BecomeInactive() { g_contactInk.Bytes = TakeInkOut(*m_ink); }
+// A note that was deleted can be taken back until here.
+void CMemoPage::BecomeInactive() {
+  g_contactInk.Bytes = TakeInkOut(*m_ink);
+  if (g_contactInk.Bytes.isEmpty()) PutInkIn(*m_ink, {});
+}
 
 void CMemoPage::DeleteNote() {
   if (!ConfirmMemoDeletion()) return;

@@ -2,6 +2,8 @@
 
 #include <QBuffer>
 
+#include <utility>
+
 #include "ink/InkExport.h"
 #include "ink/InkFormat.h"
 
@@ -10,6 +12,9 @@ namespace quill {
 namespace {
 
 constexpr double kPictureTimes = 2;
+const QString kSvg = QStringLiteral("image/svg+xml");
+const QString kPng = QStringLiteral("image/png");
+const QString kText = QStringLiteral("text/plain");
 
 QByteArray PngOf(const InkNote& fragment) {
   const QImage image = InkImage(fragment, kPictureTimes);
@@ -30,18 +35,36 @@ InkNote NoteOfText(QString text) {
   return note;
 }
 
+// Makes each form when somebody asks for it: a page of pictures that nobody pastes costs nothing.
+class CopiedInk : public QMimeData {
+ public:
+  explicit CopiedInk(InkNote fragment) : m_fragment(std::move(fragment)) {}
+
+  QStringList formats() const override {
+    QStringList formats{QString::fromLatin1(kInkMimeType)};
+    if (!m_fragment.Strokes.empty()) formats << kSvg << kPng;
+    if (!m_fragment.Text.Text.isEmpty()) formats << kText;
+    return formats;
+  }
+  bool hasFormat(const QString& format) const override { return formats().contains(format); }
+
+ protected:
+  QVariant retrieveData(const QString& format, QMetaType) const override {
+    if (!hasFormat(format)) return {};
+    if (format == kSvg) return InkSvg(m_fragment);
+    if (format == kPng) return PngOf(m_fragment);
+    if (format == kText) return m_fragment.Text.Text;
+    return WriteInk(m_fragment);
+  }
+
+ private:
+  const InkNote m_fragment;
+};
+
 }  // namespace
 
 std::unique_ptr<QMimeData> InkMimeData(const InkNote& fragment) {
-  auto data = std::make_unique<QMimeData>();
-  data->setData(QString::fromLatin1(kInkMimeType), WriteInk(fragment));
-  if (!fragment.Strokes.empty()) {
-    data->setData(QStringLiteral("image/svg+xml"), InkSvg(fragment));
-    if (const QByteArray png = PngOf(fragment); !png.isEmpty())
-      data->setData(QStringLiteral("image/png"), png);
-  }
-  if (!fragment.Text.Text.isEmpty()) data->setText(fragment.Text.Text);
-  return data;
+  return std::make_unique<CopiedInk>(fragment);
 }
 
 bool HoldsInk(const QMimeData& data) {

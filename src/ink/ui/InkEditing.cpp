@@ -152,6 +152,7 @@ void PutInkIn(InkX& ink, QByteArray note) {
 }
 
 QByteArray TakeInkOut(InkX& ink) {
+  ink.EndInput();
   QByteArray note;
   const int length = SendInkMessage(ink, InkMessages::kDataLength);
   if (length > 0) SendInkMessage(ink, InkMessages::kData, {.First = length, .Data = &note});

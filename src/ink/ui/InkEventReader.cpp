@@ -1,13 +1,19 @@
 #include "ink/ui/InkEventReader.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QMouseEvent>
+#include <QStyleHints>
 #include <QTabletEvent>
 #include <QTouchEvent>
+
+#include <algorithm>
 
 namespace quill {
 
 namespace {
+
+constexpr qint64 kPenForgotten = 3000;
 
 bool IsStylus(const QPointerEvent& event) {
   const QPointingDevice* const device = event.pointingDevice();
@@ -15,10 +21,12 @@ bool IsStylus(const QPointerEvent& event) {
                     device->type() == QInputDevice::DeviceType::Airbrush);
 }
 
+// The tip is the left button; those on the barrel come and go while it writes.
 InkPhase PhaseOf(const QTabletEvent& event) {
-  if (event.type() == QEvent::TabletPress) return InkPhase::Press;
-  if (event.type() == QEvent::TabletRelease) return InkPhase::Release;
-  return event.buttons() == Qt::NoButton ? InkPhase::Hover : InkPhase::Move;
+  const bool isTip = event.button() == Qt::LeftButton;
+  if (isTip && event.type() == QEvent::TabletPress) return InkPhase::Press;
+  if (isTip && event.type() == QEvent::TabletRelease) return InkPhase::Release;
+  return event.buttons().testFlag(Qt::LeftButton) ? InkPhase::Move : InkPhase::Hover;
 }
 
 std::optional<InkPhase> PhaseOf(const QMouseEvent& event) {
@@ -75,7 +83,30 @@ bool InkEventReader::Reads(const QEvent& event) {
 
 bool InkEventReader::IsCancel(const QEvent& event) { return event.type() == QEvent::TouchCancel; }
 
+void InkEventReader::FollowShow() {
+  m_opened = m_time.elapsed();
+  m_pressed = false;
+}
+
+// A mouse's second press is called so; those of pens and fingers are known by their time.
+std::vector<InkInput> InkEventReader::WithoutDoubleTap(std::vector<InkInput> inputs,
+                                                       const QEvent& event) {
+  const bool hasTime = static_cast<const QInputEvent&>(event).timestamp() > 0;
+  const int interval = QGuiApplication::styleHints()->mouseDoubleClickInterval();
+  const bool isSoon = !inputs.empty() && inputs.front().Device != InkDevice::Mouse && hasTime &&
+                      m_time.elapsed() - m_opened < interval;
+  const bool isSecond = !m_pressed && (isSoon || event.type() == QEvent::MouseButtonDblClick);
+  const auto isPress = [](const InkInput& input) { return input.Phase == InkPhase::Press; };
+  if (isSecond) std::erase_if(inputs, isPress);
+  m_pressed = m_pressed || std::ranges::any_of(inputs, isPress);
+  return inputs;
+}
+
 std::vector<InkInput> InkEventReader::Read(const QEvent& event) {
+  return WithoutDoubleTap(ReadDevice(event), event);
+}
+
+std::vector<InkInput> InkEventReader::ReadDevice(const QEvent& event) {
   switch (event.type()) {
     case QEvent::TabletPress:
     case QEvent::TabletMove:
@@ -96,7 +127,7 @@ std::vector<InkInput> InkEventReader::Read(const QEvent& event) {
 bool InkEventReader::eventFilter(QObject*, QEvent* event) {
   if (event->type() == QEvent::TabletEnterProximity) {
     m_tellsProximity = true;
-    m_pen.PenNear();
+    FollowPen();
   }
   if (event->type() == QEvent::TabletLeaveProximity) m_pen.PenAway(m_time.elapsed());
   return false;
@@ -106,8 +137,21 @@ qint64 InkEventReader::TimeOf(const QInputEvent& event) const {
   return event.timestamp() > 0 ? static_cast<qint64>(event.timestamp()) : m_time.elapsed();
 }
 
-std::vector<InkInput> InkEventReader::ReadTablet(const QTabletEvent& event) {
+void InkEventReader::FollowPen() {
+  const bool came = !IsPenNear();
   m_pen.PenNear();
+  m_lastPen = m_time.elapsed();
+  if (came && PenCame) PenCame();
+}
+
+// A pen that says nothing any more has gone, whether or not its going was told.
+bool InkEventReader::IsPenNear() const {
+  const qint64 now = m_time.elapsed();
+  return !m_pen.AcceptsTouch(now) && now - m_lastPen < kPenForgotten;
+}
+
+std::vector<InkInput> InkEventReader::ReadTablet(const QTabletEvent& event) {
+  FollowPen();
   if (event.type() == QEvent::TabletRelease && !m_tellsProximity) m_pen.PenAway(m_time.elapsed());
   const bool erases = event.pointerType() == QPointingDevice::PointerType::Eraser;
   return {{.Device = erases ? InkDevice::Eraser : InkDevice::Pen,
@@ -119,7 +163,7 @@ std::vector<InkInput> InkEventReader::ReadTablet(const QTabletEvent& event) {
 }
 
 std::vector<InkInput> InkEventReader::ReadMouse(const QMouseEvent& event) const {
-  const bool repeatsPen = IsStylus(event) || !m_pen.AcceptsTouch(m_time.elapsed());
+  const bool repeatsPen = IsStylus(event) || IsPenNear();
   const std::optional<InkPhase> phase = PhaseOf(event);
   if (repeatsPen || !phase) return {};
   return {
@@ -127,12 +171,13 @@ std::vector<InkInput> InkEventReader::ReadMouse(const QMouseEvent& event) const 
 }
 
 std::vector<InkInput> InkEventReader::ReadTouch(const QTouchEvent& event) {
-  if (event.type() == QEvent::TouchBegin && !event.points().isEmpty())
+  if (event.type() == QEvent::TouchBegin && !IsPenNear() && !event.points().isEmpty())
     m_finger = event.points().first().id();
   std::vector<InkInput> inputs;
   for (const QEventPoint& finger : event.points()) {
     const std::optional<InkPhase> phase = PhaseOf(finger);
     if (finger.id() != m_finger || !phase) continue;
+    if (phase == InkPhase::Release) m_finger.reset();
     inputs.push_back({.Device = InkDevice::Finger,
                       .Phase = *phase,
                       .At = finger.position(),

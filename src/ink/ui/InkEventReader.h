@@ -1,11 +1,12 @@
 // From a widget's events to what a pen, a finger or a mouse does. It knows what window systems make
-// of a pen: mouse events that repeat it are dropped while it is near, and of several fingers only
-// the first one counts.
+// of a pen: mouse events that repeat it and palms are dropped while it is near, of several fingers
+// only the first one counts, and the second press of the double tap that opened the widget is none.
 #pragma once
 
 #include <QElapsedTimer>
 #include <QObject>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -30,17 +31,30 @@ class InkEventReader : public QObject {
   // True for an event by which the system takes a touch away.
   static bool IsCancel(const QEvent& event);
 
+  // The widget was opened just now.
+  void FollowShow();
+
+  // A pen came near: what a finger does is a palm's.
+  std::function<void()> PenCame;
+
   // Of the application: the coming and going of a pen is told to it alone.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  std::vector<InkInput> ReadDevice(const QEvent& event);
   std::vector<InkInput> ReadTablet(const QTabletEvent& event);
   std::vector<InkInput> ReadMouse(const QMouseEvent& event) const;
   std::vector<InkInput> ReadTouch(const QTouchEvent& event);
   qint64 TimeOf(const QInputEvent& event) const;
+  void FollowPen();
+  bool IsPenNear() const;
+  std::vector<InkInput> WithoutDoubleTap(std::vector<InkInput> inputs, const QEvent& event);
 
   PalmFilter m_pen;
   bool m_tellsProximity = false;
+  bool m_pressed = false;  // since it was opened
+  qint64 m_opened = 0;
+  qint64 m_lastPen = 0;  // event
   std::optional<int> m_finger;
   QElapsedTimer m_time;
 };

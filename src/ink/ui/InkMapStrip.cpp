@@ -18,6 +18,11 @@ InkMapStrip::InkMapStrip(QWidget* parent, const InkDocument& document, const Ink
   m_map.SetZoom(kMapZoom, {});
 }
 
+void InkMapStrip::SetPaper(const InkPaper& paper) {
+  m_map.SetPaper(paper);
+  FollowView();
+}
+
 void InkMapStrip::Repaint(const QRect& units) {
   if (isVisible()) update(m_map.View().WindowFromDevice(m_map.Repaint(units)));
 }

@@ -17,6 +17,7 @@ class InkMapStrip : public CPenWidget {
   // Both outlive it; page is the canvas of the page's own window.
   InkMapStrip(QWidget* parent, const InkDocument& document, const InkCanvas& page);
 
+  void SetPaper(const InkPaper& paper);
   // A part of the page looks otherwise; units.
   void Repaint(const QRect& units);
   // The page's window shows another part, or the page has another size.

@@ -12,7 +12,8 @@ namespace {
 constexpr std::size_t kMostMarkedStrokes = 200;  // more are marked as a whole
 const QColor kMark(0x33, 0x88, 0xFF, 0x40);
 const QColor kMarkEdge(0x20, 0x60, 0xC0);
-constexpr Rgb kNoticeGround = 0xE8E0C8;
+constexpr Rgb kNoticeGround = 0xE4E4E4;
+constexpr int kNoticeHeight = 18;
 constexpr Rgb kUnreadableGround = 0xD8D8D8;
 
 QRectF PageFromUnits(const QRect& units) {
@@ -58,7 +59,9 @@ QString InkNoticeText(InkNotice notice) {
     case InkNotice::Foreign:
       return QStringLiteral("This is no note; it is kept as it is");
     case InkNotice::Newer:
-      return QStringLiteral("From a newer version; it cannot be changed");
+      return QStringLiteral("From a newer version: read only");
+    case InkNotice::Full:
+      return QStringLiteral("This page is full");
     case InkNotice::None:
       return {};
   }
@@ -69,7 +72,8 @@ void PaintInkNotice(QPainter& painter, InkNotice notice, const QRect& window) {
   const QString text = InkNoticeText(notice);
   if (text.isEmpty()) return;
   if (notice == InkNotice::Foreign) painter.fillRect(window, QColor::fromRgb(kUnreadableGround));
-  const QRect line(window.left(), window.top(), window.width(), kInkNoticeHeight);
+  const QRect line(window.left(), window.bottom() + 1 - kNoticeHeight, window.width(),
+                   kNoticeHeight);
   painter.fillRect(line, QColor::fromRgb(kNoticeGround));
   DrawRow(painter,
           {.Rectangle = line, .Items = {{.Rectangle = line.adjusted(4, 0, -4, 0), .Text = text}}});

@@ -8,8 +8,6 @@ class QPainter;
 
 namespace quill {
 
-inline constexpr int kInkNoticeHeight = 18;
-
 void PaintInkSelection(QPainter& painter, const InkDocument& document,
                        const InkSelection& selection, const InkView& view, QPointF dragged);
 void PaintInkCaret(QPainter& painter, const InkDocument& document, int caret, const InkView& view);
@@ -17,7 +15,8 @@ void PaintInkLasso(QPainter& painter, const QPolygonF& path, const InkView& view
 
 // Empty when nothing is to be said.
 QString InkNoticeText(InkNotice notice);
-// Along the top of the window. A note that is not shown is a grey page.
+// Along the bottom of the window, from where scrolling brings what is below it. A note that is not
+// shown is a grey page.
 void PaintInkNotice(QPainter& painter, InkNotice notice, const QRect& window);
 
 }  // namespace quill

@@ -49,7 +49,8 @@ int Select(InkX& ink, const InkParameters& parameters) {
 int DataLength(InkX& ink, const InkParameters&) { return static_cast<int>(ink.DataLength()); }
 
 int Data(InkX& ink, const InkParameters& parameters) {
-  *parameters.Data = ink.Data().first(std::clamp(parameters.First, 0, DataLength(ink, {})));
+  const QByteArray data = ink.Data();
+  *parameters.Data = data.first(std::clamp<qsizetype>(parameters.First, 0, data.size()));
   return static_cast<int>(parameters.Data->size());
 }
 

@@ -9,6 +9,7 @@
 #include "ink/InkSelect.h"
 #include "ink/ui/InkClipboard.h"
 #include "ink/ui/InkXParts.h"
+#include "platform/ui/InputCommit.h"
 
 namespace quill {
 
@@ -44,6 +45,7 @@ void InkX::AddBars() {
   m_parts->Map->TravelAsked = [this](QPointF page) { CentreOn(page); };
   for (QScrollBar* bar : {m_parts->Vertical, m_parts->Horizontal}) {
     bar->setFocusPolicy(Qt::NoFocus);
+    bar->setAttribute(Qt::WA_NoMousePropagation);  // or a pen on it would write below it
     connect(bar, &QScrollBar::valueChanged, this, [this] {
       ScrollTo({m_parts->Horizontal->value(), m_parts->Vertical->value()});
     });
@@ -54,7 +56,7 @@ void InkX::ConnectDocument() {
   InkDocument* const document = &m_parts->Document;
   connect(document, &InkDocument::StrokeAdded, this, [this](const InkStrokePtr& stroke) {
     ShowDevice(m_parts->Canvas.TakeStroke(*stroke));
-    m_parts->Map->Repaint(stroke->Bounds);
+    m_parts->Map->Repaint(PaintedBounds(m_parts->Document.Note(), *stroke));
   });
   connect(document, &InkDocument::Changed, this, [this](const QRect& area) {
     ShowDevice(m_parts->Canvas.Repaint(area));
@@ -74,6 +76,7 @@ void InkX::ConnectHand() {
   hand.Shown = [this](const QRect& device) { ShowDevice(device); };
   hand.AllShown = [this] { update(); };
   hand.ScrollAsked = [this](QPoint device) { ScrollTo(device); };
+  m_parts->Reader.PenCame = [&hand] { hand.CancelFinger(); };
   hand.Wrote = [this](QPointF at) {
     if (m_parts->View == kInkMapView) AdvanceFrom(at);
   };
@@ -90,11 +93,12 @@ void InkX::SetPageStyle(int style) {
 
 int InkX::Zoom() const { return m_parts->Canvas.View().Zoom(); }
 
-// What was written last stays where it is while it is in view, otherwise the middle.
+// What was written last stays where it is while it is in view, otherwise the middle; on an empty
+// page the place where writing begins.
 void InkX::SetZoom(int percent) {
   const InkView& view = m_parts->Canvas.View();
   const QRectF window(Page());
-  QPointF anchor = window.center();
+  QPointF anchor = m_parts->Document.Note().IsEmpty() ? QPointF() : window.center();
   if (const auto place = m_parts->Hand.LastPlace())
     if (const QPointF at = view.WindowFromPage(*place); window.contains(at)) anchor = at;
   m_parts->Canvas.SetZoom(std::clamp(percent, kLeastZoom, kMostZoom), anchor);
@@ -134,9 +138,18 @@ void InkX::FollowTask() {
 }
 
 void InkX::FollowPaper() {
-  m_parts->Canvas.SetPaper({.Style = m_parts->Style, .IsEndless = m_parts->Wrap == 0});
+  const InkPaper paper{.Style = m_parts->Style, .IsEndless = m_parts->Wrap == 0};
+  m_parts->Canvas.SetPaper(paper);
+  m_parts->Map->SetPaper(paper);
   FollowPage();
   update();
+}
+
+void InkX::EndGesture() { m_parts->Hand.Finish(); }
+
+void InkX::EndInput() {
+  EndGesture();
+  if (hasFocus()) CommitInput();
 }
 
 qsizetype InkX::DataLength() const { return Data().size(); }
@@ -159,13 +172,15 @@ bool InkX::CanUndo() const { return !readOnly() && m_parts->Document.Steps().can
 bool InkX::CanRedo() const { return !readOnly() && m_parts->Document.Steps().canRedo(); }
 
 void InkX::Undo() {
-  m_parts->Hand.Cancel();
+  EndGesture();
   if (CanUndo()) m_parts->Document.Steps().undo();
+  update();  // marks and notice too
 }
 
 void InkX::Redo() {
-  m_parts->Hand.Cancel();
+  EndGesture();
   if (CanRedo()) m_parts->Document.Steps().redo();
+  update();
 }
 
 bool InkX::HasSelection() const { return !m_parts->Selection.IsEmpty(); }
@@ -181,7 +196,7 @@ void InkX::SelectAll() {
 }
 
 void InkX::Cut() {
-  if (readOnly()) return;
+  if (readOnly() || m_parts->Document.IsLocked()) return;
   Copy();
   Clear();
 }
@@ -203,16 +218,26 @@ void InkX::Paste() {
   update();
 }
 
-// From where the fragment's ink is to where it lands: the last tap, or the middle of the window,
-// and further with each repeat. It never lands off the page.
-QPoint InkX::PasteOffset(const InkNote& fragment) {
-  const QPointF centre = m_parts->Canvas.View().PageFromWindow(QRectF(Page()).center());
-  const QPointF place = m_parts->Hand.LastPlace().value_or(centre);
+// Where pasted ink lands: the last tap that is in view, or the middle of the window, and further
+// with each repeat. Never off the page.
+QPointF InkX::PastePlace(const QSizeF& ink) {
+  const InkView& view = m_parts->Canvas.View();
+  QPointF place = view.PageFromWindow(QRectF(Page()).center());
+  if (const auto last = m_parts->Hand.LastPlace())
+    if (QRectF(Page()).contains(view.WindowFromPage(*last))) place = *last;
   m_parts->Pastes = m_parts->PastePlace == place ? m_parts->Pastes + 1 : 0;
   m_parts->PastePlace = place;
+  place += kPasteStep * m_parts->Pastes;
+  const qreal width =
+      static_cast<qreal>(UsedPageWidth(m_parts->Document.Note().Page)) / kInkUnitsPerPixel;
+  if (m_parts->Wrap != 0) place.setX(std::min(place.x(), width - ink.width()));
+  return {std::max(place.x(), 0.0), std::max(place.y(), 0.0)};
+}
+
+QPoint InkX::PasteOffset(const InkNote& fragment) {
   const QRect ink = BoundsOf(fragment.Strokes);
-  const QPointF corner = (place + kPasteStep * m_parts->Pastes) * kInkUnitsPerPixel;
-  return QPoint(std::max(0, qRound(corner.x())), std::max(0, qRound(corner.y()))) - ink.topLeft();
+  const QPointF place = PastePlace(QSizeF(ink.size()) / kInkUnitsPerPixel);
+  return (place * kInkUnitsPerPixel).toPoint() - ink.topLeft();
 }
 
 void InkX::Clear() {

@@ -47,6 +47,10 @@ class InkX : public QWidget {
   int Toggle() const;
   void SetToggle(int word);
 
+  // To be called before the bytes are taken: what the pen writes and what an input method composes
+  // is on the page then.
+  void EndInput();
+
   // Bytes. Setting forgets the steps and touches neither style, zoom, wrap nor view.
   qsizetype DataLength() const;
   QByteArray Data() const;
@@ -84,6 +88,7 @@ class InkX : public QWidget {
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
@@ -103,9 +108,12 @@ class InkX : public QWidget {
   void AdvanceFrom(QPointF at);
   void ShowDevice(const QRect& device);
   void ShowCaret();
+  void EndGesture();
   void TakePen(const QEvent& event);
   bool TakeCommandKey(const QKeyEvent& key);
+  bool TakeBack();
   bool TakeScrollKey(const QKeyEvent& key);
+  QPointF PastePlace(const QSizeF& ink);
   QPoint PasteOffset(const InkNote& fragment);
   QRect Page() const;
 

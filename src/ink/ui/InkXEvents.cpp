@@ -5,7 +5,9 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
+#include <utility>
 
 #include "ink/ui/InkMarks.h"
 #include "ink/ui/InkXParts.h"
@@ -31,6 +33,7 @@ int NextZoom(int zoom, int direction) {
 
 // Accepted in any case: of what is ignored the window system makes a second, mouse event.
 bool InkX::event(QEvent* event) {
+  if (event->type() == QEvent::ScreenChangeInternal) PlaceBars();
   if (event->type() == QEvent::ShortcutOverride) {
     event->accept();
     return true;
@@ -58,7 +61,13 @@ bool InkX::TakeCommandKey(const QKeyEvent& key) {
   if (key.matches(QKeySequence::Copy)) return Copy(), true;
   if (key.matches(QKeySequence::Paste)) return Paste(), true;
   if (key.matches(QKeySequence::SelectAll)) return SelectAll(), true;
-  if (key.key() != Qt::Key_Escape || !HasSelection()) return false;
+  return key.key() == Qt::Key_Escape && TakeBack();
+}
+
+// Escape ends the nearest thing. It does not close a window over ink that is nowhere else.
+bool InkX::TakeBack() {
+  if (m_parts->Hand.IsDown()) return m_parts->Hand.Cancel(), true;
+  if (!HasSelection()) return !m_parts->Document.Steps().isClean();
   m_parts->Selection.SelectNothing();
   return true;
 }
@@ -113,16 +122,17 @@ QVariant InkX::inputMethodQuery(Qt::InputMethodQuery query) const {
 
 // With Ctrl it zooms; what is under the pointer is not what one writes at, so the middle stays.
 void InkX::wheelEvent(QWheelEvent* event) {
-  const int turned = event->angleDelta().y();
   event->accept();
   if (!event->modifiers().testFlag(Qt::ControlModifier)) {
     const qreal ratio = m_parts->Canvas.View().DevicePixelRatio();
     const QPoint pixels =
         event->pixelDelta().isNull() ? event->angleDelta() / 3 : event->pixelDelta();
     ScrollTo(m_parts->Canvas.View().Scroll() - (QPointF(pixels) * ratio).toPoint());
-  } else if (turned != 0) {
-    SetZoom(NextZoom(Zoom(), turned));
+    return;
   }
+  m_parts->Turned += event->angleDelta().y();  // a touchpad turns in many small parts
+  if (std::abs(m_parts->Turned) < QWheelEvent::DefaultDeltasPerStep) return;
+  SetZoom(NextZoom(Zoom(), std::exchange(m_parts->Turned, 0)));
 }
 
 void InkX::paintEvent(QPaintEvent* event) {
@@ -134,11 +144,19 @@ void InkX::paintEvent(QPaintEvent* event) {
   PaintInkLasso(painter, m_parts->Hand.Lasso(), view);
   if (m_parts->ShowsCaret && hasFocus() && !readOnly())
     PaintInkCaret(painter, m_parts->Document, m_parts->Selection.Caret(), view);
-  PaintInkNotice(painter, m_parts->Document.Notice(), Page());
+  const int below = m_parts->Horizontal->isHidden() ? 0 : m_parts->Horizontal->height();
+  PaintInkNotice(painter, m_parts->Document.Notice(), Page().adjusted(0, 0, 0, -below));
 }
 
 void InkX::resizeEvent(QResizeEvent*) { PlaceBars(); }
-void InkX::showEvent(QShowEvent*) { PlaceBars(); }
+
+void InkX::showEvent(QShowEvent*) {
+  m_parts->Reader.FollowShow();
+  PlaceBars();
+}
+
+// Nothing that was written is lost because the pen is still down.
+void InkX::hideEvent(QHideEvent*) { EndGesture(); }
 void InkX::focusInEvent(QFocusEvent*) { update(); }
 void InkX::focusOutEvent(QFocusEvent*) { update(); }
 

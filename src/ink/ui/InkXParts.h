@@ -31,6 +31,7 @@ struct InkX::Parts {
   bool ShowsCaret = false;  // since something was typed or a caret was set
   std::optional<QPointF> PastePlace = {};
   int Pastes = 0;  // at that place
+  int Turned = 0;  // of the wheel with Ctrl, not yet a step
 };
 
 }  // namespace quill

@@ -85,9 +85,9 @@ void InkX::AdvanceFrom(QPointF at) {
   const int window = view.WindowSize().width();
   if (view.WindowFromPage(at).x() * view.DevicePixelRatio() < window * kNearEdge) return;
   const InkPage& page = m_parts->Document.Note().Page;
-  const int pageEnd = static_cast<int>(std::ceil(page.Width * view.Scale())) - window;
+  const int pageEnd = static_cast<int>(std::ceil(UsedPageWidth(page) * view.Scale())) - window;
   const bool isAtEnd = view.Scroll().x() >= pageEnd;
-  const int line = qRound(page.RulePitch * view.Scale());
+  const int line = qRound(UsedLinePitch(page) * view.Scale());
   ScrollTo(isAtEnd ? QPoint(0, view.Scroll().y() + line)
                    : QPoint(std::min(view.Scroll().x() + qRound(window * kAdvance), pageEnd),
                             view.Scroll().y()));
@@ -96,6 +96,7 @@ void InkX::AdvanceFrom(QPointF at) {
 void InkX::ShowCaret() {
   m_parts->ShowsCaret = true;
   FollowPage();
+  updateMicroFocus();
   m_parts->Canvas.Show(m_parts->Document.TextLayout().Caret(m_parts->Selection.Caret()));
   FollowScroll();
 }
