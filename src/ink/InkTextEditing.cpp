@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "ink/InkFormat.h"
-
 namespace quill {
 
 namespace {

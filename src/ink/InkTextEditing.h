@@ -1,14 +1,14 @@
 // Changing typed text as a value. Positions are UTF-16 units from 0.
 #pragma once
 
-#include "ink/InkNote.h"
+#include "ink/InkFormat.h"
 
 namespace quill {
 
 // The text with the part from one position up to, not including, another replaced. What is new
 // looks as what stands before it, at the very beginning as what follows. The soft breaks of the
 // paragraphs that it touches are dropped, all others stay with their words. What would make the
-// text longer than kLongestInkText (see InkFormat.h) is left out at the end of what is new.
+// text longer than kLongestInkText is left out at the end of what is new.
 InkText ReplaceInkText(const InkText& text, int from, int to, QString with);
 
 // A part of the text as a text of its own.
