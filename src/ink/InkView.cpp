@@ -26,7 +26,7 @@ int Revealed(int scroll, int size, int from, int to) {
 
 void InkView::SetWindow(QSize window, QSize covered, qreal devicePixelRatio) {
   m_window = window;
-  m_covered = covered;
+  m_covered = covered.expandedTo(QSize(0, 0));  // a QSize of nothing is smaller than that
   m_ratio = devicePixelRatio;
   ScrollTo(m_scroll);
 }

@@ -53,8 +53,8 @@ class InkView {
   void Show(const QRectF& page);
 
  private:
-  QSize m_window;
-  QSize m_covered;
+  QSize m_window{0, 0};
+  QSize m_covered{0, 0};
   qreal m_ratio = 1;
   int m_zoom = 100;
   InkExtent m_extent;
