@@ -45,6 +45,9 @@ InkDocument::InkDocument() {
   connect(&m_steps, &QUndoStack::indexChanged, this, &InkDocument::Edited);
 }
 
+// The stack tells of its end too.
+InkDocument::~InkDocument() { m_steps.disconnect(this); }
+
 void InkDocument::SetData(const QByteArray& data) {
   InkContent content = ReadInk(data);
   m_original = data;

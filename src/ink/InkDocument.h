@@ -26,6 +26,7 @@ class InkDocument : public QObject {
   Q_OBJECT
  public:
   InkDocument();
+  ~InkDocument() override;
 
   // Any bytes; none are an empty page. Forgets all steps.
   void SetData(const QByteArray& data);

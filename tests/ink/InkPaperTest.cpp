@@ -7,13 +7,13 @@
 namespace quill {
 namespace {
 
-constexpr InkPage kPage{.Width = 100 * kInkUnitsPerPixel};
+constexpr InkPage kPage{};  // 240 pixels wide
 constexpr double kScale = 1.0 / kInkUnitsPerPixel;
 const InkPaper kRuled{};
 const InkPaper kDotted{.Style = kDottedPaper};
 
 QImage Painted(const InkPaper& paper, double times = 1, const InkPage& page = kPage,
-               const QRect& area = QRect(0, 0, 150, 120)) {
+               const QRect& area = QRect(0, 0, 290, 120)) {
   QImage image(area.size(), QImage::Format_RGB32);
   image.fill(Qt::black);
   PaintPaper({image, area.topLeft(), area, kScale * times}, page, paper);
@@ -37,7 +37,7 @@ std::vector<int> RowsUnlike(const QImage& image, int x, QRgb color) {
 TEST(InkPaper, RulesLieAPitchApart) {
   const QImage image = Painted(kRuled);
   EXPECT_EQ(RowsUnlike(image, 50, 0xFFFFFFFF), (std::vector<int>{24, 48, 72, 96}));
-  EXPECT_NE(image.pixel(99, 24), 0xFFFFFFFF);
+  EXPECT_NE(image.pixel(239, 24), 0xFFFFFFFF);
 }
 
 TEST(InkPaper, RulesAreThickerWhereThePageIsLarger) {
@@ -63,7 +63,7 @@ TEST(InkPaper, TheCloseUpHasDotsAtHalfAPitch) {
 
 TEST(InkPaper, BesideThePageItIsGrey) {
   for (const InkPaper& paper : {kRuled, kDotted}) {
-    const auto colors = Colors(Painted(paper), QRect(100, 0, 50, 120));
+    const auto colors = Colors(Painted(paper), QRect(240, 0, 50, 120));
     ASSERT_EQ(colors.size(), 1U);
     EXPECT_NE(colors.begin()->first, 0xFFFFFFFF);
   }
@@ -71,8 +71,8 @@ TEST(InkPaper, BesideThePageItIsGrey) {
 
 TEST(InkPaper, AnEndlessPageGoesOn) {
   const QImage image = Painted({.IsEndless = true});
-  EXPECT_EQ(image.pixel(140, 10), 0xFFFFFFFF);
-  EXPECT_EQ(image.pixel(140, 24), image.pixel(50, 24));
+  EXPECT_EQ(image.pixel(280, 10), 0xFFFFFFFF);
+  EXPECT_EQ(image.pixel(280, 24), image.pixel(50, 24));
 }
 
 TEST(InkPaper, OtherStylesAreRuled) { EXPECT_EQ(Painted({.Style = 7}), Painted(kRuled)); }

@@ -42,18 +42,22 @@ TEST_F(InkStepTest, TypingDoesNotGoOnOverAStroke) {
   EXPECT_EQ(Strokes().size(), 1U);
 }
 
-TEST_F(InkStepTest, TypingAtTwoPlacesIsUndoneInBoth) {
+TEST_F(InkStepTest, TypingAtAnotherPlaceIsAnotherStep) {
   Type(QStringLiteral("one two"));
   Pass(2000);
   m_document.Type(3, 3, QStringLiteral("x"));
   m_document.Type(0, 1, QStringLiteral("yz"));
-  m_document.Type(5, 5, QStringLiteral("w"));
-  EXPECT_EQ(Text(), QStringLiteral("yznexw two"));
-  EXPECT_EQ(StepCount(), 2);
+  EXPECT_EQ(Text(), QStringLiteral("yznex two"));
+  EXPECT_EQ(StepCount(), 3);
   Undo();
-  EXPECT_EQ(Text(), QStringLiteral("one two"));
-  Redo();
-  EXPECT_EQ(Text(), QStringLiteral("yznexw two"));
+  EXPECT_EQ(Text(), QStringLiteral("onex two"));
+}
+
+TEST_F(InkStepTest, WhatWasTypedAndTakenBackAtOnceIsNoStep) {
+  Type(QStringLiteral("a"));
+  m_document.Type(0, 1, {});
+  EXPECT_EQ(StepCount(), 0);
+  EXPECT_TRUE(m_document.Steps().isClean());
 }
 
 TEST_F(InkStepTest, TypingOnAfterLinesMovedKeepsBoth) {
