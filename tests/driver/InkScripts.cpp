@@ -72,10 +72,9 @@ void OpenMemoPage(ReadyDriver& driver) {
   OpenFirst(driver);
   driver.Ask(R"({"op":"page","index":2})");
 }
-// The row is made the current one first: a memo opens by the second tap.
 void OpenFirstMemo(ReadyDriver& driver) {
   RunCommand(driver, 32825);
-  driver.Do(R"({"op":"doubletap","on":"list","x":50,"y":8})");
+  driver.Do(R"({"op":"tap","on":"list","x":50,"y":8})");
 }
 // By the row's popup.
 void AddMemo(ReadyDriver& driver) {
@@ -367,7 +366,7 @@ TEST_F(InkScript, AMemoThatCannotBeReadIsNotOpened) {
   ReadyDriver driver(Arguments());
   RunCommand(driver, 32825);
   QFile::remove(MemoFile(QStringLiteral("a.pwi")));
-  driver.Do(R"({"op":"doubletap","on":"list","x":50,"y":8})");
+  driver.Do(R"({"op":"tap","on":"list","x":50,"y":8})");
   EXPECT_EQ(Message(driver), QStringLiteral("The memo could not be read."));
 }
 
