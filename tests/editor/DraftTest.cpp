@@ -175,5 +175,14 @@ TEST_F(DraftTest, ADraftOfAContactThatIsGoneMakesANewOneUnderItsOldName) {
   EXPECT_EQ(RecordOf(sheet, {})[ContactField::FileAs], QStringLiteral("Kim"));
 }
 
+TEST(DraftTitle, IsTheNameElseWhatWasEnteredFirst) {
+  Draft draft;
+  EXPECT_EQ(TitleOf(draft), QStringLiteral("a contact"));
+  draft.Record[ContactField::JobTitle] = QStringLiteral("Pilot");
+  EXPECT_EQ(TitleOf(draft), QStringLiteral("Pilot"));
+  draft.FileAs = QStringLiteral("Kim");
+  EXPECT_EQ(TitleOf(draft), QStringLiteral("Kim"));
+}
+
 }  // namespace
 }  // namespace quill

@@ -4,9 +4,11 @@
 #include <set>
 
 #include "ink/ui/InkX.h"
+#include "platform/Services.h"
 #include "platform_ui/SampleWindows.h"
 #include "platform_ui/ScreenFixture.h"
 #include "resources/InkPictures.h"
+#include "support/FixedClock.h"
 
 namespace quill {
 namespace {
@@ -15,7 +17,11 @@ const QByteArray kForeign = "no ink of ours";
 
 class InkEditingTest : public test::ScreenFixture {
  protected:
-  InkEditingTest() { m_route.Add(m_editing); }
+  InkEditingTest() {
+    g_services.Clock = &m_clock;
+    m_route.Add(m_editing);
+  }
+  ~InkEditingTest() override { g_services.Clock = nullptr; }
 
   void Run(int id) { EXPECT_EQ(m_route.Run(id, CommandCheck::AsMenu), CommandResult::Done) << id; }
   MenuBarModel Bar() const { return InkMenuBar(*m_screen, m_route); }
@@ -31,6 +37,7 @@ class InkEditingTest : public test::ScreenFixture {
     return {m_ink.PageStyle(), m_ink.Zoom(), m_ink.Wrap(), m_ink.View()};
   }
 
+  test::FixedClock m_clock{QDateTime(QDate(2004, 9, 15), QTime(9, 30, 5))};
   test::SampleFrame m_frame{*m_screen};
   InkX m_ink{&m_frame};
   int m_deletions = 0;

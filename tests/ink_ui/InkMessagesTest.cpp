@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "ink/ui/InkX.h"
+#include "platform/Services.h"
+#include "support/FixedClock.h"
 
 namespace quill {
 namespace {
@@ -12,10 +14,14 @@ const QByteArray kForeign = "no ink of ours";
 
 class InkMessagesTest : public testing::Test {
  protected:
+  InkMessagesTest() { g_services.Clock = &m_clock; }
+  ~InkMessagesTest() override { g_services.Clock = nullptr; }
+
   int Send(int number, const InkParameters& parameters = {}) {
     return SendInkMessage(m_ink, number, parameters);
   }
 
+  test::FixedClock m_clock{QDateTime(QDate(2004, 9, 15), QTime(9, 30, 5))};
   InkX m_ink{nullptr};
 };
 

@@ -1,0 +1,64 @@
+#include "platform/ui/OfferBar.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+
+#include "platform_ui/SampleWindows.h"
+#include "platform_ui/ScreenFixture.h"
+
+namespace quill {
+namespace {
+
+constexpr int kRestore = 5;
+constexpr int kDiscard = 6;
+
+class OfferBarTest : public test::ScreenFixture {
+ protected:
+  OfferBarTest() {
+    m_bar.RestoreAsked = [this] { m_asked.append(QStringLiteral("restore")); };
+    m_bar.DiscardAsked = [this] { m_asked.append(QStringLiteral("discard")); };
+  }
+  void Offer(const QString& text) { m_bar.Offer(text, {10, 20, 200, 100}); }
+  void Click(int id) { qobject_cast<QAbstractButton*>(m_bar.Controls().at(id))->click(); }
+
+  test::SampleFrame m_frame{*m_screen};
+  COfferBar m_bar{&m_frame, {kRestore, kDiscard}};
+  QStringList m_asked;
+};
+
+TEST_F(OfferBarTest, StandsAtTheLowerEndOfItsArea) {
+  EXPECT_TRUE(m_bar.isHidden());
+  EXPECT_TRUE(m_bar.Controls().empty());
+  Offer(QStringLiteral("this"));
+  EXPECT_EQ(m_bar.geometry(), QRect(10, 98, 200, 22));
+  EXPECT_FALSE(m_bar.isHidden());
+}
+
+TEST_F(OfferBarTest, ItsButtonsAskForWhatTheySay) {
+  Offer(QStringLiteral("this"));
+  Click(kDiscard);
+  Click(kRestore);
+  EXPECT_EQ(m_asked, QStringList({QStringLiteral("discard"), QStringLiteral("restore")}));
+}
+
+TEST_F(OfferBarTest, ALongTextIsCutToOneLineButSpokenWhole) {
+  const QString text = QStringLiteral("one\nline of a text that is longer than the bar has room");
+  Offer(text);
+  const QLabel& label = *m_bar.findChild<QLabel*>();
+  EXPECT_TRUE(label.text().startsWith(QStringLiteral("one line")));
+  EXPECT_TRUE(label.text().endsWith(QStringLiteral("...")));
+  EXPECT_EQ(label.accessibleName(), text);
+}
+
+TEST_F(OfferBarTest, HidesWhileTheInputPanelIsUp) {
+  m_panel.Raise();
+  Offer(QStringLiteral("this"));
+  EXPECT_TRUE(m_bar.isHidden());
+  EXPECT_TRUE(m_bar.Controls().empty());
+  m_panel.Lower();
+  Offer(QStringLiteral("this"));
+  EXPECT_FALSE(m_bar.isHidden());
+}
+
+}  // namespace
+}  // namespace quill
