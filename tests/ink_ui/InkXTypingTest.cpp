@@ -72,16 +72,49 @@ TEST_F(InkXTypingTest, TheKeysOfEveryEditorWork) {
   EXPECT_EQ(Text(), QStringLiteral("KimKim"));
 }
 
-TEST_F(InkXTypingTest, EscapeTakesTheSelectionAwayBeforeItIsLeftToTheWindow) {
+TEST_F(InkXTypingTest, EscapeIsLeftToTheWindowOnlyWhenNothingWouldBeLost) {
+  const auto isLeft = [this] {
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_ink, &escape);
+    return !escape.isAccepted();
+  };
+  EXPECT_TRUE(isLeft());
   Type(QStringLiteral("Kim"));
   Ink().SelectAll();
-  Key(Qt::Key_Escape);
+  EXPECT_FALSE(isLeft());
   EXPECT_FALSE(Ink().HasSelection());
-  EXPECT_EQ(Text(), QStringLiteral("Kim"));
-  QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-  m_window->setFocus();
-  QCoreApplication::sendEvent(m_ink, &escape);
-  EXPECT_FALSE(escape.isAccepted());
+  EXPECT_FALSE(isLeft());
+  Ink().Undo();
+  EXPECT_TRUE(isLeft());
+}
+
+TEST_F(InkXTypingTest, EscapeTakesTheStrokeInTheAirBack) {
+  Tablet(QEvent::TabletPress, {{20, 30}});
+  Tablet(QEvent::TabletMove, {{60, 30}});
+  Key(Qt::Key_Escape);
+  Tablet(QEvent::TabletRelease, {{60, 30}, 0});
+  EXPECT_TRUE(Note().Strokes.empty());
+}
+
+TEST_F(InkXTypingTest, UndoWithThePenDownEndsItsStrokeFirst) {
+  Line({20, 60}, {60, 60});
+  Tablet(QEvent::TabletPress, {{20, 30}});
+  Tablet(QEvent::TabletMove, {{60, 30}});
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  Tablet(QEvent::TabletRelease, {{60, 30}, 0});
+  EXPECT_EQ(Note().Strokes.size(), 1u);
+  Ink().Redo();
+  EXPECT_EQ(Note().Strokes.size(), 2u);
+}
+
+TEST_F(InkXTypingTest, WhatIsHalfDoneIsOnThePageWhenInputEnds) {
+  Tablet(QEvent::TabletPress, {{20, 30}});
+  Tablet(QEvent::TabletMove, {{60, 30}});
+  Ink().EndInput();
+  EXPECT_EQ(Note().Strokes.size(), 1u);
+  Tablet(QEvent::TabletMove, {{90, 30}});
+  Tablet(QEvent::TabletRelease, {{90, 30}, 0});
+  EXPECT_EQ(Note().Strokes.size(), 1u);
 }
 
 TEST_F(InkXTypingTest, WhatIsComposedIsShownAndIsNotText) {

@@ -2,18 +2,18 @@
 
 #include <QCoreApplication>
 #include <QGuiApplication>
+#include <QLineF>
 #include <QMouseEvent>
 #include <QStyleHints>
 #include <QTabletEvent>
 #include <QTouchEvent>
-
-#include <algorithm>
 
 namespace quill {
 
 namespace {
 
 constexpr qint64 kPenForgotten = 3000;
+constexpr qreal kDoubleTapDistance = 16;
 
 bool IsStylus(const QPointerEvent& event) {
   const QPointingDevice* const device = event.pointingDevice();
@@ -83,27 +83,21 @@ bool InkEventReader::Reads(const QEvent& event) {
 
 bool InkEventReader::IsCancel(const QEvent& event) { return event.type() == QEvent::TouchCancel; }
 
-void InkEventReader::FollowShow() {
-  m_opened = m_time.elapsed();
-  m_pressed = false;
-}
+void InkEventReader::FollowTap(QPointF at) { m_tap = {at, m_time.elapsed()}; }
 
-// A mouse's second press is called so; those of pens and fingers are known by their time.
-std::vector<InkInput> InkEventReader::WithoutDoubleTap(std::vector<InkInput> inputs,
-                                                       const QEvent& event) {
-  const bool hasTime = static_cast<const QInputEvent&>(event).timestamp() > 0;
-  const int interval = QGuiApplication::styleHints()->mouseDoubleClickInterval();
-  const bool isSoon = !inputs.empty() && inputs.front().Device != InkDevice::Mouse && hasTime &&
-                      m_time.elapsed() - m_opened < interval;
-  const bool isSecond = !m_pressed && (isSoon || event.type() == QEvent::MouseButtonDblClick);
-  const auto isPress = [](const InkInput& input) { return input.Phase == InkPhase::Press; };
-  if (isSecond) std::erase_if(inputs, isPress);
-  m_pressed = m_pressed || std::ranges::any_of(inputs, isPress);
+std::vector<InkInput> InkEventReader::WithoutDoubleTap(std::vector<InkInput> inputs) {
+  const bool presses = !inputs.empty() && inputs.front().Phase == InkPhase::Press;
+  if (!m_tap || !presses) return inputs;
+  const QStyleHints& hints = *QGuiApplication::styleHints();
+  const bool isSecond = m_time.elapsed() - m_tap->Time < hints.mouseDoubleClickInterval() &&
+                        QLineF(m_tap->At, inputs.front().At).length() < kDoubleTapDistance;
+  m_tap.reset();
+  if (isSecond) inputs.clear();
   return inputs;
 }
 
 std::vector<InkInput> InkEventReader::Read(const QEvent& event) {
-  return WithoutDoubleTap(ReadDevice(event), event);
+  return WithoutDoubleTap(ReadDevice(event));
 }
 
 std::vector<InkInput> InkEventReader::ReadDevice(const QEvent& event) {

@@ -31,8 +31,8 @@ class InkEventReader : public QObject {
   // True for an event by which the system takes a touch away.
   static bool IsCancel(const QEvent& event);
 
-  // The widget was opened just now.
-  void FollowShow();
+  // The widget was opened by a tap just now, here in its pixels.
+  void FollowTap(QPointF at);
 
   // A pen came near: what a finger does is a palm's.
   std::function<void()> PenCame;
@@ -48,13 +48,17 @@ class InkEventReader : public QObject {
   qint64 TimeOf(const QInputEvent& event) const;
   void FollowPen();
   bool IsPenNear() const;
-  std::vector<InkInput> WithoutDoubleTap(std::vector<InkInput> inputs, const QEvent& event);
+  std::vector<InkInput> WithoutDoubleTap(std::vector<InkInput> inputs);
 
   PalmFilter m_pen;
   bool m_tellsProximity = false;
-  bool m_pressed = false;  // since it was opened
-  qint64 m_opened = 0;
-  qint64 m_lastPen = 0;  // event
+  struct Tap {
+    QPointF At;
+    qint64 Time;
+  };
+
+  std::optional<Tap> m_tap;  // that opened the widget, until something is put down
+  qint64 m_lastPen = 0;      // event
   std::optional<int> m_finger;
   QElapsedTimer m_time;
 };

@@ -1,7 +1,9 @@
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QStyleHints>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -11,6 +13,7 @@
 
 #include "ink/ui/InkMarks.h"
 #include "ink/ui/InkXParts.h"
+#include "platform/ui/Screen.h"
 
 namespace quill {
 
@@ -151,7 +154,10 @@ void InkX::paintEvent(QPaintEvent* event) {
 void InkX::resizeEvent(QResizeEvent*) { PlaceBars(); }
 
 void InkX::showEvent(QShowEvent*) {
-  m_parts->Reader.FollowShow();
+  const CScreen* const screen = ScreenAround(this);
+  const int interval = QGuiApplication::styleHints()->mouseDoubleClickInterval();
+  const auto tap = screen ? screen->Pens().PressedWithin(interval) : std::nullopt;
+  if (tap) m_parts->Reader.FollowTap(mapFromGlobal(*tap));
   PlaceBars();
 }
 

@@ -68,6 +68,7 @@ class CScreen : public QWidget {
   bool IsIdle() const;
   // True while a pen touches any window: nothing may open or change under it then.
   bool IsPenDown() const { return m_penWatch.IsDown(); }
+  const PenWatch& Pens() const { return m_penWatch; }
   // Ends popup and modal windows from the top with Cancel, then calls Closed.
   void CloseAll();
   bool IsClosing() const { return m_closing; }
