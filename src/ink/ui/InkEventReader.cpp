@@ -156,10 +156,17 @@ std::vector<InkInput> InkEventReader::ReadTablet(const QTabletEvent& event) {
            .Time = TimeOf(event)}};
 }
 
-std::vector<InkInput> InkEventReader::ReadMouse(const QMouseEvent& event) const {
-  const bool repeatsPen = IsStylus(event) || IsPenNear();
+// A double click comes behind a press of its own, or in place of it.
+bool InkEventReader::IsPressAgain(const QMouseEvent& event) {
+  const bool wasDown = m_isMouseDown;
+  m_isMouseDown = event.buttons().testFlag(Qt::LeftButton);
+  return event.type() == QEvent::MouseButtonDblClick && wasDown;
+}
+
+std::vector<InkInput> InkEventReader::ReadMouse(const QMouseEvent& event) {
+  if (IsPressAgain(event) || IsStylus(event) || IsPenNear()) return {};
   const std::optional<InkPhase> phase = PhaseOf(event);
-  if (repeatsPen || !phase) return {};
+  if (!phase) return {};
   return {
       {.Device = InkDevice::Mouse, .Phase = *phase, .At = event.position(), .Time = TimeOf(event)}};
 }

@@ -43,7 +43,8 @@ class InkEventReader : public QObject {
  private:
   std::vector<InkInput> ReadDevice(const QEvent& event);
   std::vector<InkInput> ReadTablet(const QTabletEvent& event);
-  std::vector<InkInput> ReadMouse(const QMouseEvent& event) const;
+  std::vector<InkInput> ReadMouse(const QMouseEvent& event);
+  bool IsPressAgain(const QMouseEvent& event);
   std::vector<InkInput> ReadTouch(const QTouchEvent& event);
   qint64 TimeOf(const QInputEvent& event) const;
   void FollowPen();
@@ -52,6 +53,7 @@ class InkEventReader : public QObject {
 
   PalmFilter m_pen;
   bool m_tellsProximity = false;
+  bool m_isMouseDown = false;
   struct Tap {
     QPointF At;
     qint64 Time;
