@@ -12,17 +12,31 @@ namespace quill {
 
 namespace {
 
-void PaintText(const InkPiece& piece, const InkTextLayout& layout) {
+// The part of a piece that text is painted onto, device pixels of the page.
+QRect TextPart(const InkPiece& piece, const InkTextLayout& layout) {
   const double zoom = piece.Scale * kInkUnitsPerPixel;
-  const QRect& area = piece.Area;
-  const QRectF onPage(area.left() / zoom, area.top() / zoom, area.width() / zoom,
-                      area.height() / zoom);
-  if (!layout.PaintedBounds().intersects(onPage)) return;
-  QPainter painter(&piece.Image);
-  painter.translate(-piece.Origin);
-  painter.setClipRect(area);
+  const QRectF text = layout.PaintedBounds();
+  const QRect place = QRectF(text.topLeft() * zoom, text.size() * zoom).toAlignedRect();
+  return place & piece.Area & QRect(piece.Origin, piece.Image.size());
+}
+
+// Letters that begin left of or above a picture are placed otherwise than elsewhere: numbers below
+// 0 are rounded the other way. So text is painted onto a picture that begins farther out.
+void PaintText(const InkPiece& piece, const InkTextLayout& layout) {
+  const QRect part = TextPart(piece, layout);
+  if (part.isEmpty()) return;
+  const double zoom = piece.Scale * kInkUnitsPerPixel;
+  const int margin = 2 * static_cast<int>(std::ceil(layout.Overhang() * zoom));
+  const QRect inside(QPoint(margin, margin), part.size());
+  QImage larger(part.size() + QSize(margin, margin), piece.Image.format());
+  QPainter painter(&larger);
+  painter.setClipRect(inside);
+  painter.drawImage(inside, piece.Image, part.translated(-piece.Origin));
+  painter.translate(inside.topLeft() - part.topLeft());
   painter.scale(zoom, zoom);
-  layout.Paint(painter, onPage);
+  layout.Paint(painter, {QPointF(part.topLeft()) / zoom, QSizeF(part.size()) / zoom});
+  painter.end();
+  QPainter(&piece.Image).drawImage(part.translated(-piece.Origin), larger, inside);
 }
 
 void PaintBelowInk(const InkPiece& piece, const InkDocument& document, const InkPaper& paper) {

@@ -71,8 +71,8 @@ void PaintPaper(const InkPiece& piece, const InkPage& page, const InkPaper& pape
   const int pageWidth = static_cast<int>(std::ceil(UsedPageWidth(page) * piece.Scale));
   if (!paper.IsEndless) sheet.Area.setRight(std::min(piece.Area.right(), pageWidth - 1));
   Fill(piece, piece.Area, kBesidePage);
-  Fill(sheet, sheet.Area, kPaper);
   if (sheet.Area.isEmpty()) return;
+  Fill(sheet, sheet.Area, kPaper);
   if (paper.Style == kDottedPaper)
     PaintDots(sheet, page);
   else

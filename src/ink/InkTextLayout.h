@@ -48,8 +48,9 @@ class InkTextLayout {
 
   // The place of the lines; empty without text.
   QRectF Bounds() const;
-  // What is painted of them: more, since letters may be taller than a line.
+  // What is painted of them: more, by the overhang, since letters may be larger than a line.
   QRectF PaintedBounds() const;
+  qreal Overhang() const { return m_overhang; }
   qreal LineHeight() const { return m_lineHeight; }
   // At least 1.
   int LineCount() const;

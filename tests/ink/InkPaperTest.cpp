@@ -93,7 +93,7 @@ TEST_P(InkPaperPieces, AreTheWholeHoweverItIsCut) {
     const QRect all(0, 0, 400, 300);
     const QImage whole = Painted(paper, GetParam(), kPage, all);
     for (const QRect& part : {QRect(0, 0, 7, 300), QRect(90, 20, 70, 61), QRect(3, 47, 390, 2),
-                              QRect(220, 100, 90, 90)})
+                              QRect(220, 100, 90, 90), QRect(350, 10, 9, 9)})
       EXPECT_EQ(Painted(paper, GetParam(), kPage, part), whole.copy(part));
   }
 }
