@@ -38,12 +38,22 @@ InkHand::Gesture InkHand::GestureFor(const InkInput& input) const {
   if (m_document.IsLocked()) return Gesture::Scroll;
   if (input.Device == InkDevice::Eraser) return Gesture::Erase;
   if (m_task == InkTask::Write) return Gesture::Write;
+  if (IsOnSelectedInk(PageAt(input))) return Gesture::MoveSelection;
+  return IsOnSelectedText(PageAt(input)) ? Gesture::MoveText : Gesture::Select;
+}
+
+bool InkHand::IsOnSelectedInk(QPointF page) const {
+  if (m_selection.Strokes().empty()) return false;
   const qreal margin = kSelectionMargin * 100 / m_canvas.View().Zoom();
   const QRectF selected = QRectF(QPointF(m_selection.Bounds().topLeft()) / kInkUnitsPerPixel,
                                  QSizeF(m_selection.Bounds().size()) / kInkUnitsPerPixel);
-  const bool isHeld = !m_selection.Strokes().empty() &&
-                      selected.adjusted(-margin, -margin, margin, margin).contains(PageAt(input));
-  return isHeld ? Gesture::MoveSelection : Gesture::Select;
+  return selected.adjusted(-margin, -margin, margin, margin).contains(page);
+}
+
+bool InkHand::IsOnSelectedText(QPointF page) const {
+  const int at = m_document.TextLayout().PositionAt(page);
+  return m_document.TextLayout().IsTextAt(page) && m_selection.TextFrom() <= at &&
+         at < m_selection.TextTo();
 }
 
 // Some drivers tell of a press before they know its pressure: it begins with the first move that
@@ -108,8 +118,10 @@ void InkHand::Go(const InkInput& input) {
 
 void InkHand::End(const InkInput& input) {
   const bool isTap = IsTap(input.At);
-  const bool taps = m_gesture == Gesture::Select || m_gesture == Gesture::MoveSelection;
+  const bool taps = m_gesture == Gesture::Select || m_gesture == Gesture::MoveSelection ||
+                    m_gesture == Gesture::MoveText;
   if (m_gesture == Gesture::MoveSelection && !isTap) DropSelection();
+  if (m_gesture == Gesture::MoveText && !isTap) DropText(PageAt(input));
   if (m_gesture == Gesture::Select && !isTap) SelectStrokesInPath();
   if (taps && isTap) SetCaret(m_path.first());
   m_gesture = Gesture::None;
@@ -205,6 +217,23 @@ void InkHand::SelectTextAlongPath() {
 
 void InkHand::DropSelection() {
   m_selection.SelectStrokes(m_document.Move(m_selection.Strokes(), Units(Dragged())));
+}
+
+// What lies between the text's old and new place moves the other way, so all of it is one step.
+void InkHand::DropText(QPointF page) {
+  const int from = m_selection.TextFrom();
+  const int to = m_selection.TextTo();
+  const int at = m_document.TextLayout().PositionAt(page);
+  if (from <= at && at <= to) return;
+  const QString& text = m_document.Note().Text.Text;
+  const QString moved = text.mid(from, to - from);
+  const bool isForward = at > to;
+  const int place = isForward ? at - (to - from) : at;
+  if (isForward)
+    m_document.Type(from, at, text.mid(to, at - to) + moved);
+  else
+    m_document.Type(at, to, moved + text.mid(at, from - at));
+  m_selection.SelectText(place, place + (to - from));
 }
 
 QPolygonF InkHand::Lasso() const { return m_gesture == Gesture::Select ? m_path : QPolygonF(); }

@@ -21,7 +21,6 @@ class InkHand {
 
   // Ends what is half done.
   void SetTask(InkTask task);
-  InkTask Task() const { return m_task; }
 
   // At is in window pixels.
   void Take(InkInput input);
@@ -50,7 +49,7 @@ class InkHand {
   std::function<void(QPoint device)> ScrollAsked;
 
  private:
-  enum class Gesture { None, Write, Erase, Select, MoveSelection, Scroll };
+  enum class Gesture { None, Write, Erase, Select, MoveSelection, MoveText, Scroll };
 
   Gesture GestureFor(const InkInput& input) const;
   bool BeginsLate(const InkInput& input);
@@ -68,7 +67,10 @@ class InkHand {
   void SelectStrokesInPath();
   void SelectTextAlongPath();
   void SetCaret(QPointF page);
+  bool IsOnSelectedInk(QPointF page) const;
+  bool IsOnSelectedText(QPointF page) const;
   void DropSelection();
+  void DropText(QPointF page);
   QPointF PageAt(const InkInput& input) const;
 
   InkDocument& m_document;

@@ -87,11 +87,6 @@ std::vector<InkStrokePtr> StrokesInside(const InkNote& note, const QPolygon& are
   return found;
 }
 
-InkStrokePtr StrokeAt(const InkNote& note, QPoint at, int radius) {
-  const std::vector<InkStrokePtr> near = StrokesAlong(note, at, at, radius);
-  return near.empty() ? nullptr : near.back();
-}
-
 QRect BoundsOf(const std::vector<InkStrokePtr>& strokes) {
   QRect bounds;
   for (const InkStrokePtr& stroke : strokes) bounds = bounds.united(stroke->Bounds);

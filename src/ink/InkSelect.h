@@ -18,9 +18,6 @@ QPolygon DraggedArea(const QPolygon& path);
 // The strokes with at least half of their points in the area.
 std::vector<InkStrokePtr> StrokesInside(const InkNote& note, const QPolygon& area);
 
-// The topmost stroke whose ink lies within the radius around a point; null when none does.
-InkStrokePtr StrokeAt(const InkNote& note, QPoint at, int radius);
-
 // Around the strokes' points, without their width; empty without strokes.
 QRect BoundsOf(const std::vector<InkStrokePtr>& strokes);
 

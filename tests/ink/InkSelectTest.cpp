@@ -105,13 +105,6 @@ TEST(InkSelect, HalfOfItsPointsMakeAStrokeSelected) {
   EXPECT_EQ(StrokesInside(note, area), std::vector<InkStrokePtr>{note.Strokes[0]});
 }
 
-TEST(InkSelect, TheTopmostStrokeIsMeant) {
-  const InkNote note{.Strokes = {Through({{0, 0}, {900, 0}}), Through({{500, 0}, {1500, 0}})}};
-  EXPECT_EQ(StrokeAt(note, {700, 0}, 10), note.Strokes[1]);
-  EXPECT_EQ(StrokeAt(note, {100, 0}, 10), note.Strokes[0]);
-  EXPECT_EQ(StrokeAt(note, {100, 500}, 10), nullptr);
-}
-
 TEST(InkSelect, BoundsAreAroundAll) {
   EXPECT_TRUE(BoundsOf({}).isEmpty());
   EXPECT_EQ(BoundsOf({Through({{5, 6}}), Through({{1, 9}, {2, 3}})}),
