@@ -19,6 +19,11 @@ QString Pixels(double units) { return Number(units / kInkUnitsPerPixel); }
 
 QString PlaceText(double x, double y) { return Pixels(x) + u' ' + Pixels(y); }
 
+// From one end of all pages to the other is more than an int holds.
+QSizeF SizeOf(const QRect& area) {
+  return {area.right() + 1.0 - area.left(), area.bottom() + 1.0 - area.top()};
+}
+
 // Through the middles between the points, as it is painted.
 QString PathOf(const InkStroke& stroke) {
   const auto& points = stroke.Points;
@@ -54,6 +59,24 @@ QString StrokeElement(const InkNote& note, const InkStroke& stroke) {
   return element + QStringLiteral("/>\n");
 }
 
+QString StrokeElements(const InkNote& note, InkTip tip) {
+  QString elements;
+  for (const InkStrokePtr& stroke : note.Strokes)
+    if (InkPenOf(note, *stroke).Tip == tip) elements += StrokeElement(note, *stroke);
+  return elements;
+}
+
+// XML cannot hold every character, not even named by its number.
+QString XmlText(const QString& text) {
+  QString allowed;
+  for (const char32_t letter : text.toUcs4()) {
+    const bool isControl = letter < 0x20 && letter != U'\t';
+    const bool isNone = letter == 0xFFFE || letter == 0xFFFF;
+    if (!isControl && !isNone) allowed += QString::fromUcs4(&letter, 1);
+  }
+  return allowed.toHtmlEscaped();
+}
+
 InkTextLayout LaidOut(const InkNote& note) {
   InkTextLayout layout;
   layout.Load(note.Text, UsedLinePitch(note.Page));
@@ -69,7 +92,7 @@ QString TextElements(const InkNote& note) {
         QStringLiteral(R"(<text x="%1" y="%2" font-size="%3" xml:space="preserve">%4</text>)")
             .arg(Number(line.Baseline.x()), Number(line.Baseline.y()),
                  Pixels(note.Text.Runs.empty() ? 448 : note.Text.Runs.front().Size),
-                 note.Text.Text.mid(line.From, line.To - line.From).toHtmlEscaped()) +
+                 XmlText(note.Text.Text.mid(line.From, line.To - line.From))) +
         u'\n';
   return elements;
 }
@@ -91,8 +114,8 @@ QRect InkContentArea(const InkNote& note) {
 
 QByteArray InkSvg(const InkNote& note) {
   const QRect area = InkContentArea(note);
-  const QString width = Pixels(area.width());
-  const QString height = Pixels(area.height());
+  const QString width = Pixels(SizeOf(area).width());
+  const QString height = Pixels(SizeOf(area).height());
   QString svg = QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>
 <svg xmlns="http://www.w3.org/2000/svg" width="%1" height="%2" viewBox="%3 %4 %1 %2">
 )")
@@ -100,18 +123,16 @@ QByteArray InkSvg(const InkNote& note) {
   svg += TextElements(note);
   svg +=
       QStringLiteral(R"(<g fill="none" stroke-linecap="round" stroke-linejoin="round">)") + u'\n';
-  for (const InkStrokePtr& stroke : note.Strokes) svg += StrokeElement(note, *stroke);
+  svg += StrokeElements(note, InkTip::Highlighter) + StrokeElements(note, InkTip::Round);
   return (svg + QStringLiteral("</g>\n</svg>\n")).toUtf8();
 }
 
 QImage InkImage(const InkNote& note, double times) {
   const double scale = times / kInkUnitsPerPixel;
   const QRect area = InkContentArea(note);
-  const QRect device =
-      QRectF(area.x() * scale, area.y() * scale, area.width() * scale, area.height() * scale)
-          .toAlignedRect();
-  const double pixels = static_cast<double>(device.width()) * device.height();
-  if (area.isEmpty() || pixels > kMostPixels) return {};
+  const QSizeF size = SizeOf(area) * scale;
+  if (area.isEmpty() || size.width() * size.height() > kMostPixels) return {};
+  const QRect device = QRectF(QPointF(area.topLeft()) * scale, size).toAlignedRect();
   QImage image(device.size(), QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
   QPainter painter(&image);
