@@ -59,11 +59,14 @@ bool InkHand::IsOnSelectedText(QPointF page) const {
 // Some drivers tell of a press before they know its pressure: it begins with the first move that
 // has some.
 bool InkHand::BeginsLate(const InkInput& input) {
-  if (input.Phase == InkPhase::Press) m_isAwaited = !IsTouching(input);
-  if (input.Phase == InkPhase::Release || input.Phase == InkPhase::Hover) m_isAwaited = false;
-  const bool begins = m_isAwaited && input.Phase == InkPhase::Move && IsTouching(input);
-  if (begins) m_isAwaited = false;
-  return begins;
+  if (input.Phase == InkPhase::Press && !IsTouching(input)) {
+    m_awaited = input.Device;
+    return false;
+  }
+  const bool goesOn = input.Phase == InkPhase::Move && !IsTouching(input);
+  const bool ends = m_awaited == input.Device && !goesOn;
+  if (ends) m_awaited.reset();
+  return ends && input.Phase == InkPhase::Move;
 }
 
 void InkHand::Take(InkInput input) {

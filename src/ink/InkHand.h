@@ -84,7 +84,7 @@ class InkHand {
   QPolygonF m_path;    // of another gesture; page pixels
   QPointF m_windowBegin;
   QPoint m_scrollBegin;
-  bool m_isAwaited = false;  // a press came without pressure
+  std::optional<InkDevice> m_awaited;  // its press came without pressure
   int m_eraseGesture = 0;
   std::optional<QPointF> m_lastPlace;
 };
