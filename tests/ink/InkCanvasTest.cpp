@@ -111,6 +111,7 @@ class InkCanvasWalk : public InkCanvasTest, public testing::WithParamInterface<S
   void DoAnything();
   void Draw();
   void TypeAnywhere();
+  void Compose();
   void Scroll();
   void Zoom();
   void ChangePaper();
@@ -141,6 +142,13 @@ void InkCanvasWalk::TypeAnywhere() {
                            QString::fromUtf16(u"\uD55C\uAE00 "),
                            QStringLiteral("a longer piece of text ")};
   m_document.Type(from, to, words[Any(0, 4)]);
+}
+
+// Where there is text: otherwise it looks for room among the ink of that moment.
+void InkCanvasWalk::Compose() {
+  if (Text().isEmpty()) return;
+  m_document.SetPreedit({.Position = Any(0, static_cast<int>(Text().size())),
+                         .Text = QStringLiteral("abc").left(Any(0, 3))});
 }
 
 void InkCanvasWalk::Scroll() {
@@ -195,8 +203,7 @@ void InkCanvasWalk::DoAnything() {
     case 10:
       return ChangePaper();
     case 11:
-      return m_document.SetPreedit({.Position = Any(0, static_cast<int>(Text().size())),
-                                    .Text = QStringLiteral("abc").left(Any(0, 3))});
+      return Compose();
     default:
       return Draw();
   }
