@@ -1,6 +1,8 @@
 // How notes are laid out in chunks, and notes that cannot be written as they are.
 #include <algorithm>
 
+#include <QByteArrayList>
+
 #include <gtest/gtest.h>
 
 #include "ink/InkChunks.h"
