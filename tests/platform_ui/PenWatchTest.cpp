@@ -33,6 +33,24 @@ TEST_P(PenWatchTest, APenIsDownFromItsPressToItsRelease) {
   EXPECT_FALSE(m_screen->IsPenDown());
 }
 
+TEST_P(PenWatchTest, WhereItIsPutDownIsATapUntilItGoesAway) {
+  constexpr int kLong = 600'000;
+  EXPECT_EQ(m_screen->Pens().TappedWithin(kLong), std::nullopt);
+  GetParam().Press(m_input);
+  GetParam().Move(m_input);
+  GetParam().Release(m_input);
+  EXPECT_EQ(m_screen->Pens().TappedWithin(kLong), QPointF(m_screen->mapToGlobal(kAt)));
+}
+
+TEST_F(PenWatchTest, AStrokeIsNoTap) {
+  m_input.TabletPress(kAt);
+  m_input.TabletMove(kAt + QPoint(12, 0));
+  EXPECT_NE(m_screen->Pens().TappedWithin(600'000), std::nullopt);
+  m_input.TabletMove(kAt + QPoint(20, 0));
+  m_input.TabletRelease(kAt);
+  EXPECT_EQ(m_screen->Pens().TappedWithin(600'000), std::nullopt);
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Devices, PenWatchTest,
     testing::Values(WatchCase{"mouse", [](ScreenInput& input) { input.Press(kAt); },

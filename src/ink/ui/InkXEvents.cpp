@@ -156,7 +156,7 @@ void InkX::resizeEvent(QResizeEvent*) { PlaceBars(); }
 void InkX::showEvent(QShowEvent*) {
   const CScreen* const screen = ScreenAround(this);
   const int interval = QGuiApplication::styleHints()->mouseDoubleClickInterval();
-  const auto tap = screen ? screen->Pens().PressedWithin(interval) : std::nullopt;
+  const auto tap = screen ? screen->Pens().TappedWithin(interval) : std::nullopt;
   if (tap) m_parts->Reader.FollowTap(mapFromGlobal(*tap));
   PlaceBars();
 }

@@ -16,19 +16,20 @@ class PenWatch : public QObject {
   PenWatch();
 
   bool IsDown() const { return m_mouse || m_tablet || m_touch; }
-  // Where something was put down last, in global pixels; nothing when that is longer ago.
-  std::optional<QPointF> PressedWithin(int milliseconds) const;
+  // Where something was put down last and not moved since, in global pixels; nothing when that is
+  // longer ago.
+  std::optional<QPointF> TappedWithin(int milliseconds) const;
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void FollowPress(const QEvent& event);
+  void FollowTap(const QEvent& event);
 
   bool m_mouse = false;
   bool m_tablet = false;
   bool m_touch = false;
   QPointF m_pressedAt;
-  QElapsedTimer m_sincePress;  // runs from the first press on
+  QElapsedTimer m_sincePress;  // runs from a press until it is moved
 };
 
 }  // namespace quill
