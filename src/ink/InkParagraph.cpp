@@ -172,7 +172,7 @@ void InkLines::AddPieces(const QString& text, const Formats& formats,
   add(static_cast<int>(text.size()));
 }
 
-void InkLines::AddPiece(std::shared_ptr<QTextLayout> piece, int begin) {
+void InkLines::AddPiece(const std::shared_ptr<QTextLayout>& piece, int begin) {
   for (int i = 0; i < piece->lineCount(); ++i) {
     m_lines.push_back({piece, begin, i});
     m_width = std::max(m_width, piece->lineAt(i).naturalTextWidth());

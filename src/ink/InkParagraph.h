@@ -79,7 +79,7 @@ class InkLines {
 
   void AddPieces(const QString& text, const QList<QTextLayout::FormatRange>& formats,
                  const std::vector<int>& breaks);
-  void AddPiece(std::shared_ptr<QTextLayout> piece, int begin);
+  void AddPiece(const std::shared_ptr<QTextLayout>& piece, int begin);
 
   std::vector<Line> m_lines;
   qreal m_width = 0;  // of the widest line

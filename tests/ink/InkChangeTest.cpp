@@ -11,6 +11,7 @@ InkStrokePtr Dot(int x) { return SealInkStroke({.Points = {{.X = x, .Y = 2 * x}}
 
 std::vector<InkStrokePtr> Dots(int count) {
   std::vector<InkStrokePtr> dots;
+  dots.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) dots.push_back(Dot(i));
   return dots;
 }
