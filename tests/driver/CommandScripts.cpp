@@ -237,6 +237,16 @@ TEST_F(CommandScript, ADeletionThatFailsLeavesTheListAsItIs) {
   EXPECT_EQ(driver.Result(R"({"op":"message"})", u"message"), QJsonValue());
 }
 
+TEST_F(CommandScript, ADoubleTapOpensAMemoAndWritesNothingInIt) {
+  AddMemos({QStringLiteral("a.pwi")});
+  ReadyDriver driver(Arguments());
+  RunCommand(driver, kByMemo);
+  driver.Do(R"({"op":"doubletap","on":"list","x":60,"y":8})");
+  const QJsonObject ink = driver.Result(R"({"op":"ink"})", u"ink").toObject();
+  EXPECT_EQ(ink[u"strokes"].toInt(-1), 0);
+  EXPECT_FALSE(ink[u"canUndo"].toBool(true));
+}
+
 TEST_F(CommandScript, AMemoIsRenamedCopiedAndDeletedFromItsPopup) {
   AddMemos({QStringLiteral("a.pwi"), QStringLiteral("b.pwi")});
   ReadyDriver driver(Arguments());

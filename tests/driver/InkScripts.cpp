@@ -309,14 +309,6 @@ TEST_F(InkScript, AMemoThatCannotBeWrittenKeepsItsFileAndItsInk) {
   EXPECT_EQ(TopTitle(driver), QStringLiteral("Memo"));
 }
 
-TEST_F(InkScript, ADoubleTapOpensAMemoAndWritesNothingInIt) {
-  PutMemo(QStringLiteral("a.pwi"), {});
-  ReadyDriver driver(Arguments());
-  RunCommand(driver, 32825);
-  driver.Do(R"({"op":"doubletap","on":"list","x":60,"y":8})");
-  EXPECT_EQ(Strokes(driver), 0);
-}
-
 TEST_F(InkScript, NewByMemoListsWhatWasWrittenAndNothingElse) {
   ReadyDriver driver(Arguments());
   RunCommand(driver, 32825);
