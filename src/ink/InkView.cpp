@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "ink/InkNote.h"
+#include "ink/InkGeometry.h"
 
 namespace quill {
 
@@ -44,7 +44,7 @@ void InkView::SetZoom(int percent, QPointF anchor) {
   ScrollTo(m_scroll + ((now - anchor) * m_ratio).toPoint());
 }
 
-double InkView::Scale() const { return m_zoom / 100.0 * m_ratio / kInkUnitsPerPixel; }
+double InkView::Scale() const { return InkScale(m_zoom, m_ratio); }
 
 QSize InkView::WindowSize() const {
   return {RoundUp(m_window.width() * m_ratio), RoundUp(m_window.height() * m_ratio)};

@@ -7,14 +7,15 @@
 #include <QWidget>
 
 #include "ink/InkDocument.h"
+#include "ink/InkPaper.h"
 
 namespace quill {
 
 enum class InkAccess { Write, ReadOnly };
 
 // Page styles. Others are kept and answered, and drawn as Page.
-inline constexpr int kInkPage = 16;
-inline constexpr int kInkCloseUp = 2;
+inline constexpr int kInkPage = kRuledPaper;
+inline constexpr int kInkCloseUp = kDottedPaper;
 
 // Views: what else is shown beside the page.
 inline constexpr int kInkPlainView = 0;
