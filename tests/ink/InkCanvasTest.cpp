@@ -6,6 +6,7 @@
 
 #include "ink/InkPageFixture.h"
 #include "ink/InkPictures.h"
+#include "ink/InkScreens.h"
 #include "ink/InkSelect.h"
 
 namespace quill {
@@ -14,10 +15,7 @@ namespace {
 constexpr QSize kWindow(150, 110);
 const InkPen kYellow{.Color = 0xC0FFE000, .Diameter = 400, .Tip = InkTip::Highlighter};
 
-struct Screen {
-  int Zoom = 100;
-  double Ratio = 1;
-};
+using Screen = test::InkScreen;
 
 // A window that shows a page as a program's does: only what it was told is painted again.
 class InkCanvasTest : public test::InkPageFixture {
@@ -234,16 +232,8 @@ TEST_P(InkCanvasWalk, ShowsTheSameOnceSavedAndLoaded) {
   EXPECT_FALSE(Text().isEmpty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Screens, InkCanvasWalk,
-                         testing::Values(Screen{75, 1}, Screen{100, 1}, Screen{150, 1},
-                                         Screen{200, 1}, Screen{300, 1}, Screen{75, 1.5},
-                                         Screen{100, 1.5}, Screen{150, 1.5}, Screen{200, 1.5},
-                                         Screen{300, 1.5}, Screen{75, 2}, Screen{100, 2},
-                                         Screen{150, 2}, Screen{200, 2}, Screen{300, 2}),
-                         [](const auto& screen) {
-                           return "Zoom" + std::to_string(screen.param.Zoom) + "Ratio" +
-                                  std::to_string(static_cast<int>(screen.param.Ratio * 10));
-                         });
+INSTANTIATE_TEST_SUITE_P(Screens, InkCanvasWalk, testing::ValuesIn(test::kInkScreens),
+                         test::NameOfInkScreen);
 
 TEST_F(InkCanvasTest, APastedStrokeLeavesTheOneInTheAir) {
   Open({});

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "ink/InkPictures.h"
+#include "ink/InkScreens.h"
 #include "ink/InkStrokePainter.h"
 
 namespace quill {
@@ -11,10 +12,7 @@ namespace {
 constexpr double kScale = InkScale(100, 1);
 constexpr QRect kView(0, 0, 200, 120);
 
-struct Screen {
-  int Zoom;
-  double Ratio;
-};
+using Screen = test::InkScreen;
 
 class InkLiveStrokePixels : public testing::TestWithParam<Screen> {
  protected:
@@ -51,16 +49,8 @@ TEST_P(InkLiveStrokePixels, AreThoseOfRenderingWhatIsThereAfterEveryPoint) {
   EXPECT_EQ(cache, PageOf(after, Scale()));
 }
 
-INSTANTIATE_TEST_SUITE_P(Screens, InkLiveStrokePixels,
-                         testing::Values(Screen{75, 1}, Screen{100, 1}, Screen{150, 1},
-                                         Screen{200, 1}, Screen{300, 1}, Screen{75, 1.5},
-                                         Screen{100, 1.5}, Screen{150, 1.5}, Screen{200, 1.5},
-                                         Screen{300, 1.5}, Screen{75, 2}, Screen{100, 2},
-                                         Screen{150, 2}, Screen{200, 2}, Screen{300, 2}),
-                         [](const auto& screen) {
-                           return "Zoom" + std::to_string(screen.param.Zoom) + "Ratio" +
-                                  std::to_string(static_cast<int>(screen.param.Ratio * 10));
-                         });
+INSTANTIATE_TEST_SUITE_P(Screens, InkLiveStrokePixels, testing::ValuesIn(test::kInkScreens),
+                         test::NameOfInkScreen);
 
 InkPoint At(int x, int y) {
   return {.X = x * kInkUnitsPerPixel, .Y = y * kInkUnitsPerPixel, .Pressure = 700};
