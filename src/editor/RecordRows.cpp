@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/DatePictures.h"
+#include "store/AutomationDate.h"
 #include "store/CategoryText.h"
 
 namespace quill {
@@ -89,11 +91,7 @@ QString CategoriesOfRow(const QString& value) {
 }
 
 QString DateText(const CalendarDate& date) {
-  if (date.Year == 0) return kNoDate.toString();
-  return QStringLiteral("%1/%2/%3")
-      .arg(date.Month, 2, 10, QLatin1Char('0'))
-      .arg(date.Day, 2, 10, QLatin1Char('0'))
-      .arg(date.Year, 4, 10, QLatin1Char('0'));
+  return date.Year == 0 ? kNoDate.toString() : FormatDate(DayOf(date), kTypedDatePicture);
 }
 
 }  // namespace quill

@@ -6,10 +6,12 @@ namespace quill {
 
 class Clock;
 class DeviceFiles;
+class InfraredFolder;
 class InputPanel;
 class Prompt;
 class RecoveryFiles;
 class RegistryStore;
+class SoundPlayer;
 class Timers;
 
 struct Services {
@@ -19,6 +21,8 @@ struct Services {
   DeviceFiles* Files = nullptr;
   RecoveryFiles* Recovery = nullptr;
   quill::InputPanel* InputPanel = nullptr;
+  SoundPlayer* Sounds = nullptr;
+  InfraredFolder* Infrared = nullptr;
   quill::Prompt* Prompt = nullptr;
 };
 

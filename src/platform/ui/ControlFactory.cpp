@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 
 #include "platform/ui/CheckList.h"
 #include "platform/ui/DatePicker.h"
@@ -10,8 +11,10 @@
 #include "platform/ui/DropDown.h"
 #include "platform/ui/Edit.h"
 #include "platform/ui/MultiEdit.h"
+#include "platform/ui/NumberEdit.h"
 #include "platform/ui/PanelEdit.h"
 #include "platform/ui/TextLabel.h"
+#include "platform/ui/TimePicker.h"
 
 namespace quill {
 
@@ -28,6 +31,19 @@ CDatePicker* MakeDate(const QString& name, QWidget* parent) {
   auto* const date = new CDatePicker(NoneCheck::Absent, parent);
   date->setAccessibleName(name);
   return date;
+}
+
+CTimePicker* MakeTime(const QString& name, QWidget* parent) {
+  auto* const time = new CTimePicker(parent);
+  time->setAccessibleName(name);
+  return time;
+}
+
+CDropDown* MakeTypedDropDown(CDialog& dialog) {
+  auto* const list = new CDropDown(dialog.Screen(), &dialog);
+  list->setEditable(true);
+  list->setInsertPolicy(QComboBox::NoInsert);
+  return list;
 }
 
 QWidget* MakeWidget(const resources::DialogControl& control, CDialog& dialog) {
@@ -47,14 +63,22 @@ QWidget* MakeWidget(const resources::DialogControl& control, CDialog& dialog) {
       return new QPushButton(text, &dialog);
     case resources::ControlKind::Check:
       return new QCheckBox(text, &dialog);
+    case resources::ControlKind::Radio:
+      return new QRadioButton(text, &dialog);
     case resources::ControlKind::CheckList:
       return new CCheckList(text, &dialog);
     case resources::ControlKind::DropDown:
       return new CDropDown(dialog.Screen(), &dialog);
+    case resources::ControlKind::TypedDropDown:
+      return MakeTypedDropDown(dialog);
     case resources::ControlKind::MultiEdit:
       return new CMultiEdit(text, &dialog);
+    case resources::ControlKind::Number:
+      return new CNumberEdit(text, &dialog);
     case resources::ControlKind::Date:
       return MakeDate(text, &dialog);
+    case resources::ControlKind::Time:
+      return MakeTime(text, &dialog);
   }
   Q_UNREACHABLE();
 }

@@ -7,13 +7,14 @@
 #include <algorithm>
 
 #include "platform/CalendarLayout.h"
+#include "platform/DatePictures.h"
 #include "platform/ui/EditMenu.h"
 
 namespace quill {
 
 CDateEdit::CDateEdit(QWidget* parent) : QDateEdit(parent) {
   setLocale(QLocale::c());
-  setDisplayFormat(QStringLiteral("MM/dd/yyyy"));
+  setDisplayFormat(QtFormat(kTypedDatePicture));
   setDateRange(FirstCalendarDate(), LastCalendarDate());
   setButtonSymbols(NoButtons);
   setFrame(false);

@@ -20,10 +20,12 @@ std::vector<MenuItem> ListItems(const QComboBox& list) {
 CDropDown::CDropDown(CScreen& screen, QWidget* parent) : QComboBox(parent), m_screen(screen) {}
 
 void CDropDown::showPopup() {
+  if (Opening) Opening();
   const QRect place(mapTo(&m_screen, QPoint(0, 0)), size());
   CMenuPopup popup(m_screen, ListItems(*this), place);
   popup.StartAt(currentIndex());
   const int chosen = popup.Track() - 1;
+  if (Closed) Closed();
   if (chosen < 0) return;
   setCurrentIndex(chosen);
   Q_EMIT activated(chosen);

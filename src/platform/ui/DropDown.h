@@ -3,6 +3,8 @@
 
 #include <QComboBox>
 
+#include <functional>
+
 namespace quill {
 
 class CScreen;
@@ -14,6 +16,11 @@ class CDropDown : public QComboBox {
 
   // Opens the list, waits, and activates what was chosen.
   void showPopup() override;
+
+  // Called before the list opens, to fill it, and when it has closed, before what was chosen is
+  // activated.
+  std::function<void()> Opening;
+  std::function<void()> Closed;
 
  private:
   CScreen& m_screen;

@@ -1,0 +1,22 @@
+// Plays sounds of the device, one at a time.
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace quill {
+
+class SoundPlayer {
+ public:
+  virtual ~SoundPlayer() = default;
+  // Begins to play the file of a device path, such as "\Windows\Bell.wav", in place of what plays
+  // just now, and returns at once. What cannot be played is silent; the log says why.
+  virtual void Play(const QString& path) = 0;
+  // Ends what plays just now.
+  virtual void Stop() = 0;
+  // Called when a sound ends by itself, and not by Play or Stop.
+  std::function<void()> Ended;
+};
+
+}  // namespace quill
