@@ -13,8 +13,9 @@
 namespace quill::resources {
 
 // A wrapped label's text begins at its top and goes on below; a panel editor has the input panel up
-// while it has the focus; a check list's text is what it is called,
-// and so is a date's, which always has a day.
+// while it has the focus, and so has a number's, into which only digits go, and a typed list's,
+// into which a text may be typed; the text of a check list, a date (which always has a day), a time
+// and a number is what it is called.
 enum class ControlKind {
   Label,
   CentredLabel,
@@ -23,10 +24,14 @@ enum class ControlKind {
   PanelEdit,
   Button,
   Check,
+  Radio,
   CheckList,
   DropDown,
+  TypedDropDown,
   MultiEdit,
+  Number,
   Date,
+  Time,
 };
 enum class ControlState { Visible, Hidden };
 
