@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "resources/AppointmentIds.h"
 #include "resources/Dialogs.h"
 
 namespace quill::resources {
