@@ -20,7 +20,6 @@ std::vector<MenuItem> ListItems(const QComboBox& list) {
 CDropDown::CDropDown(CScreen& screen, QWidget* parent) : QComboBox(parent), m_screen(screen) {}
 
 void CDropDown::showPopup() {
-  if (Opening) Opening();
   const QRect place(mapTo(&m_screen, QPoint(0, 0)), size());
   CMenuPopup popup(m_screen, ListItems(*this), place);
   popup.StartAt(currentIndex());

@@ -17,9 +17,7 @@ class CDropDown : public QComboBox {
   // Opens the list, waits, and activates what was chosen.
   void showPopup() override;
 
-  // Called before the list opens, to fill it, and when it has closed, before what was chosen is
-  // activated.
-  std::function<void()> Opening;
+  // Called when the list has closed, before what was chosen is activated.
   std::function<void()> Closed;
 
  private:

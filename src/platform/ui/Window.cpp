@@ -45,7 +45,8 @@ bool CWindow::focusNextPrevChild(bool next) {
   QWidget* at = start;
   do {
     at = next ? at->nextInFocusChain() : at->previousInFocusChain();
-    const bool takesTab = (at->focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
+    // One with a proxy is the inside of another control.
+    const bool takesTab = (at->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && !at->focusProxy();
     if (takesTab && isAncestorOf(at) && at->isVisible() && at->isEnabled()) {
       at->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
       return true;
