@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <limits>
 
-#include "appointments/ContactLink.h"
 #include "store/AutomationDate.h"
 
 namespace quill {
@@ -61,9 +60,9 @@ void PutAlarm(const AppointmentForm& form, AppointmentItem& item) {
 
 }  // namespace
 
-AppointmentForm NewAppointmentForm(const QString& fileAs, const QDateTime& now) {
+AppointmentForm NewAppointmentForm(const QString& subject, const QDateTime& now) {
   const Moment start = {now.date(), {now.time().hour(), now.time().minute() >= 30 ? 30 : 0}};
-  return {.Subject = ContactLinkPrefix(fileAs), .Start = start, .End = start, .Before = kNewAlarm};
+  return {.Subject = subject, .Start = start, .End = start, .Before = kNewAlarm};
 }
 
 AppointmentForm FormOf(const AppointmentItem& item) {

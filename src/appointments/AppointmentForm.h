@@ -41,8 +41,8 @@ struct AppointmentForm {
   bool operator==(const AppointmentForm&) const = default;
 };
 
-// Of a new appointment of a contact: now, at the last full or half hour, without length.
-AppointmentForm NewAppointmentForm(const QString& fileAs, const QDateTime& now);
+// Of a new appointment: now, at the last full or half hour, without length.
+AppointmentForm NewAppointmentForm(const QString& subject, const QDateTime& now);
 // Of a stored appointment. One that recurs stands on the first day of its pattern.
 AppointmentForm FormOf(const AppointmentItem& item);
 

@@ -26,6 +26,7 @@ constexpr Rgb kGrey = 0x999999;
 constexpr Rgb kLinkColor = 0x3232FF;
 constexpr Rgb kPictureColor = 0x2F5568;
 constexpr Rgb kLineColor = 0x999999;
+constexpr Rgb kCurrentFill = 0xE4ECF7;
 
 constexpr std::array kSubjectControls = {AppointmentIds::kSubject};
 constexpr std::array kStartControls = {AppointmentIds::kStartDate, AppointmentIds::kStartTime};
@@ -96,6 +97,12 @@ void AddSoundPictures(const AppointmentForm& form, PaintedRow& painted) {
 int ValueWidth(AppointmentRow row) {
   const int width = kScreenWidth - kRightMargin - kValueLeft;
   return row == AppointmentRow::Sound ? width - 2 * kPictureSize - kRightMargin : width;
+}
+
+void MarkCurrent(PaintedRow& painted) {
+  painted.State.setFlag(PaintedStateFlag::Current);
+  painted.Items.insert(painted.Items.begin(),
+                       {.Rectangle = painted.Rectangle, .Fill = kCurrentFill});
 }
 
 PaintedRow LayOutRow(AppointmentRow row, const AppointmentForm& form, const TextWidth& width) {
@@ -173,7 +180,7 @@ std::vector<PaintedRow> LayOutAppointmentRows(const AppointmentForm& form,
   for (int i = 0; i < kAppointmentRowCount; ++i) {
     const auto row = static_cast<AppointmentRow>(i);
     rows.push_back(LayOutRow(row, form, width));
-    rows.back().State.setFlag(PaintedStateFlag::Current, row == current);
+    if (row == current) MarkCurrent(rows.back());
   }
   return rows;
 }

@@ -5,10 +5,12 @@
 
 namespace quill {
 
+QString SoundPath(const QString& name) { return QStringLiteral("\\Windows\\") + name; }
+
 QStringList SoundNames(const QStringList& extensions) {
   QStringList names;
   for (const QString& extension : extensions)
-    names += g_services.Files->Find(QStringLiteral("\\Windows\\*.") + extension);
+    names += g_services.Files->Find(SoundPath(QStringLiteral("*.") + extension));
   names.sort(Qt::CaseInsensitive);
   return names;
 }
