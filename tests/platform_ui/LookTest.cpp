@@ -35,6 +35,12 @@ TEST_F(LookTest, TheFontIsMeasuredInPixelsAndNotHinted) {
   EXPECT_EQ(BoldFont().pixelSize(), NormalFont().pixelSize());
 }
 
+TEST_F(LookTest, BoldTextIsMeasuredInTheBoldFont) {
+  for (const QStringView text : {kSample, kHangul})
+    EXPECT_DOUBLE_EQ(QFontMetricsF(BoldFont()).horizontalAdvance(text.toString()),
+                     BoldTextWidth()(text));
+}
+
 class ScaleOfDeviceTest : public LookTest, public testing::WithParamInterface<double> {};
 
 TEST_P(ScaleOfDeviceTest, WidthsAreTheSame) {

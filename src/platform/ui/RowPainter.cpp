@@ -67,13 +67,17 @@ void DrawText(QPainter& painter, const PaintedItem& item) {
   painter.restore();
 }
 
-}  // namespace
-
-TextWidth NormalTextWidth() {
-  return [metrics = QFontMetricsF(NormalFont())](QStringView text) {
+TextWidth WidthIn(const QFont& font) {
+  return [metrics = QFontMetricsF(font)](QStringView text) {
     return metrics.horizontalAdvance(text.toString());
   };
 }
+
+}  // namespace
+
+TextWidth NormalTextWidth() { return WidthIn(NormalFont()); }
+
+TextWidth BoldTextWidth() { return WidthIn(BoldFont()); }
 
 void DrawRow(QPainter& painter, const PaintedRow& row) {
   for (const PaintedItem& item : row.Items) {

@@ -8,8 +8,9 @@ class QPainter;
 
 namespace quill {
 
-// The width of a text in the normal font, in logical pixels: the same at every scale.
+// The width of a text in the normal or the bold font, in logical pixels: the same at every scale.
 TextWidth NormalTextWidth();
+TextWidth BoldTextWidth();
 
 void DrawRow(QPainter& painter, const PaintedRow& row);
 
