@@ -20,6 +20,7 @@ OperationTable AllOperations() {
   Append(table, PopupOperations());
   Append(table, WindowOperations());
   Append(table, ControlOperations());
+  Append(table, RevealOperations());
   Append(table, SheetOperations());
   Append(table, PaintOperations());
   Append(table, ListOperations());

@@ -46,6 +46,7 @@ OperationTable CommandOperations();
 OperationTable PopupOperations();
 OperationTable WindowOperations();
 OperationTable ControlOperations();
+OperationTable RevealOperations();
 OperationTable SheetOperations();
 OperationTable PaintOperations();
 OperationTable ListOperations();

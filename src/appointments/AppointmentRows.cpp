@@ -19,6 +19,8 @@ constexpr int kLabelWidth = 52;
 constexpr int kValueLeft = 60;
 constexpr int kRightMargin = 4;
 constexpr int kPictureSize = 16;
+constexpr int kHeadingLeft = 8;
+constexpr int kHeadingWidth = kScreenWidth - 2 * kHeadingLeft;
 
 constexpr Rgb kLabelColor = 0x3232FF;
 constexpr Rgb kTextColor = 0x000000;
@@ -105,26 +107,32 @@ void MarkCurrent(PaintedRow& painted) {
                        {.Rectangle = painted.Rectangle, .Fill = kCurrentFill});
 }
 
-PaintedRow LayOutRow(AppointmentRow row, const AppointmentForm& form, const TextWidth& width) {
+void AddValue(AppointmentRow row, const AppointmentForm& form, const TextWidth& width,
+              PaintedRow& painted) {
+  const QString value = OnOneLine(ValueText(row, form));
+  painted.Items.push_back(
+      {.Rectangle = {kValueLeft, painted.Rectangle.top(), ValueWidth(row), kHeight},
+       .Text = ElideText(value, ValueWidth(row), width),
+       .Color = ValueColor(row, form)});
+  if (row == AppointmentRow::Sound) AddSoundPictures(form, painted);
+}
+
+// The label and the line below the value.
+PaintedRow LayOutEmptyRow(AppointmentRow row, const AppointmentForm& form) {
   const QRect area = AppointmentRowArea(row);
   const QString label = FactsOf(row).Label.toString();
-  const QString value = OnOneLine(ValueText(row, form));
   PaintedRow painted{.Rectangle = area,
                      .Key = static_cast<int>(row),
-                     .SpokenName = label + QStringLiteral(", ") + value};
+                     .SpokenName = label + QStringLiteral(", ") + OnOneLine(ValueText(row, form))};
   const bool isLink = row == AppointmentRow::Memo;
   painted.Role = isLink ? PaintedRole::Button : PaintedRole::ListItem;
-  painted.Items.push_back({.Rectangle = {kLabelLeft, area.top(), kLabelWidth, area.height()},
+  painted.Items.push_back({.Rectangle = {kLabelLeft, area.top(), kLabelWidth, kHeight},
                            .Text = label,
                            .Alignment = TextAlign::Right,
                            .Color = IsGrey(row, form) ? kGrey : kLabelColor});
-  painted.Items.push_back({.Rectangle = {kValueLeft, area.top(), ValueWidth(row), area.height()},
-                           .Text = ElideText(value, ValueWidth(row), width),
-                           .Color = ValueColor(row, form)});
   painted.Items.push_back({.Rectangle = {kValueLeft, area.bottom(), kScreenWidth - kValueLeft, 1},
                            .Fill = kLineColor,
                            .Pattern = FillPattern::Dots});
-  if (row == AppointmentRow::Sound) AddSoundPictures(form, painted);
   return painted;
 }
 
@@ -174,24 +182,32 @@ QString ValueText(AppointmentRow row, const AppointmentForm& form) {
 }
 
 std::vector<PaintedRow> LayOutAppointmentRows(const AppointmentForm& form,
-                                              std::optional<AppointmentRow> current,
+                                              const AppointmentRowsView& view,
                                               const TextWidth& width) {
   std::vector<PaintedRow> rows;
   for (int i = 0; i < kAppointmentRowCount; ++i) {
     const auto row = static_cast<AppointmentRow>(i);
-    rows.push_back(LayOutRow(row, form, width));
-    if (row == current) MarkCurrent(rows.back());
+    rows.push_back(LayOutEmptyRow(row, form));
+    const bool isHidden = row == view.Revealed && !ControlsOf(row).empty();
+    if (!isHidden) AddValue(row, form, width, rows.back());
+    if (row == view.Current) MarkCurrent(rows.back());
   }
   return rows;
 }
 
 PaintedRow LayOutAppointmentHeading(const QString& text) {
+  constexpr int kTextTop = 12;
+  constexpr int kHintTop = 32;
+  const QString hint = QStringLiteral("Tap a line to change it.");
   PaintedRow row{.Rectangle = {0, 0, kScreenWidth, kTop}, .Key = -1, .SpokenName = text};
   row.Role = PaintedRole::Text;
-  row.Items.push_back({.Rectangle = {kLabelLeft, 0, kScreenWidth - kLabelLeft, kTop - 4},
+  row.Items.push_back({.Rectangle = {kHeadingLeft, kTextTop, kHeadingWidth, kHeight},
                        .Text = text,
                        .Weight = TextWeight::Bold,
                        .Color = kLabelColor});
+  row.Items.push_back({.Rectangle = {kHeadingLeft, kHintTop, kHeadingWidth, kHeight},
+                       .Text = hint,
+                       .Color = kGrey});
   row.Items.push_back({.Rectangle = {0, kTop - 4, kScreenWidth, 1}, .Fill = kTextColor});
   return row;
 }

@@ -33,9 +33,14 @@ std::optional<AppointmentRow> AppointmentRowAt(QPoint at);
 
 QString ValueText(AppointmentRow row, const AppointmentForm& form);
 
+struct AppointmentRowsView {
+  std::optional<AppointmentRow> Current = {};   // the one that keys act on
+  std::optional<AppointmentRow> Revealed = {};  // the one whose controls are shown: it has no value
+};
+
 // One painted row for each row, in their order.
 std::vector<PaintedRow> LayOutAppointmentRows(const AppointmentForm& form,
-                                              std::optional<AppointmentRow> current,
+                                              const AppointmentRowsView& view,
                                               const TextWidth& width);
 // What stands above the rows.
 PaintedRow LayOutAppointmentHeading(const QString& text);

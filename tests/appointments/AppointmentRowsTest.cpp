@@ -132,9 +132,8 @@ INSTANTIATE_TEST_SUITE_P(All, AppointmentTap,
                                          TapCase{{100, 225}, std::nullopt},
                                          TapCase{{100, -70}, std::nullopt}));
 
-std::vector<PaintedRow> LayOut(const AppointmentForm& form,
-                               std::optional<AppointmentRow> current = std::nullopt) {
-  return LayOutAppointmentRows(form, current, TenPerUnit);
+std::vector<PaintedRow> LayOut(const AppointmentForm& form, const AppointmentRowsView& view = {}) {
+  return LayOutAppointmentRows(form, view, TenPerUnit);
 }
 
 PaintedRow Row(const AppointmentForm& form, AppointmentRow row) {
@@ -157,21 +156,34 @@ TEST(AppointmentRows, StandBelowEachOtherAndAreSpokenWithTheirValues) {
 }
 
 TEST(AppointmentRows, TheCurrentOneIsMarked) {
-  const auto rows = LayOut(Tea(), AppointmentRow::End);
+  const auto rows = LayOut(Tea(), {.Current = AppointmentRow::End});
   EXPECT_TRUE(rows[2].State.testFlag(PaintedStateFlag::Current));
   EXPECT_TRUE(rows[2].Items[0].Fill.has_value());
   EXPECT_FALSE(rows[1].State.testFlag(PaintedStateFlag::Current));
 }
 
+TEST(AppointmentRows, TheRevealedOneHasItsLabelAlone) {
+  const auto rows = LayOut(Tea(), {.Revealed = AppointmentRow::Sound});
+  EXPECT_EQ(rows[6].Items.size(), 2U);
+  EXPECT_EQ(rows[6].Items[0].Text, QStringLiteral("Sound"));
+  EXPECT_EQ(rows[6].SpokenName, QStringLiteral("Sound, Bell.wav"));
+  EXPECT_EQ(rows[5].Items.size(), 3U);
+}
+
+TEST(AppointmentRows, TheMemosRowAlwaysSaysWhatItIs) {
+  const auto rows = LayOut(Tea(), {.Revealed = AppointmentRow::Memo});
+  EXPECT_EQ(rows[7].Items[2].Text, QStringLiteral("Edit memo..."));
+}
+
 TEST(AppointmentRows, TheAlarmIsGreyWhileThereIsNone) {
-  const Rgb grey = Row(Tea(), AppointmentRow::Alarm).Items[1].Color;
+  const Rgb grey = Row(Tea(), AppointmentRow::Alarm).Items[2].Color;
   EXPECT_EQ(Row(Tea(), AppointmentRow::Alarm).Items[0].Color, grey);
-  EXPECT_NE(Row(kAlarm, AppointmentRow::Alarm).Items[1].Color, grey);
+  EXPECT_NE(Row(kAlarm, AppointmentRow::Alarm).Items[2].Color, grey);
   EXPECT_NE(Row(kAlarm, AppointmentRow::Alarm).Items[0].Color, grey);
 }
 
 TEST(AppointmentRows, TheMemosTextIsBlue) {
-  EXPECT_EQ(Row(Tea(), AppointmentRow::Memo).Items[1].Color, 0x3232FFU);
+  EXPECT_EQ(Row(Tea(), AppointmentRow::Memo).Items[2].Color, 0x3232FFU);
 }
 
 TEST(AppointmentRows, TwoPicturesOfSixteenPixelsSayWhetherThereIsASound) {
@@ -191,16 +203,16 @@ TEST(AppointmentRows, LongValuesEndWithDotsBeforeTheRightEnd) {
     changed.Subject = QString(40, u'가');
     changed.Sound = QString(40, u'나');
   });
-  EXPECT_EQ(Row(form, AppointmentRow::Subject).Items[1].Text,
+  EXPECT_EQ(Row(form, AppointmentRow::Subject).Items[2].Text,
             QString(14, u'가') + QStringLiteral("..."));
   const PaintedRow sound = Row(form, AppointmentRow::Sound);
-  EXPECT_LE(sound.Items[1].Rectangle.right(), sound.Items[3].Rectangle.left());
-  EXPECT_TRUE(sound.Items[1].Text.endsWith(QStringLiteral("...")));
+  EXPECT_LE(sound.Items[2].Rectangle.right(), sound.Items[3].Rectangle.left());
+  EXPECT_TRUE(sound.Items[2].Text.endsWith(QStringLiteral("...")));
 }
 
 TEST(AppointmentRows, ASubjectOfSeveralLinesIsShownOnOne) {
   const auto form = With([](auto& changed) { changed.Subject = QStringLiteral("a\nb"); });
-  EXPECT_EQ(Row(form, AppointmentRow::Subject).Items[1].Text, QStringLiteral("a b"));
+  EXPECT_EQ(Row(form, AppointmentRow::Subject).Items[2].Text, QStringLiteral("a b"));
 }
 
 TEST(AppointmentRows, TheHeadingEndsAboveThem) {

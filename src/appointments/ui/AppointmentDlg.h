@@ -1,0 +1,52 @@
+// The appointment dialog: painted rows, and over a row, once it is tapped, the controls that change
+// it. The appointment is held from the beginning to the end; nothing of it is stored before OK.
+#pragma once
+
+#include <optional>
+
+#include "appointments/ui/AppointmentControls.h"
+#include "platform/ui/Dialog.h"
+
+namespace quill {
+
+class CAppointmentRowList;
+
+// What the dialog was opened for.
+enum class DialogMode { NewAppointment = 6, ExistingAppointment = 7 };
+
+class CAppointmentDlg : public CDialog {
+  Q_OBJECT
+ public:
+  // A new appointment; subject is what its own begins with.
+  CAppointmentDlg(CScreen& screen, const QString& subject);
+  // An existing one. One that cannot be read is shown empty, and cannot be saved.
+  CAppointmentDlg(CScreen& screen, Oid oid);
+
+  // Saves and ends with OK. Without a subject, and where the store refuses the appointment, the
+  // user is told, and the dialog stays.
+  void OnOK() override;
+
+ protected:
+  void OnInitDialog() override;
+  void FocusFirstControl() override;
+
+ private:
+  CAppointmentDlg(CScreen& screen, DialogMode mode);
+
+  void TakeAppointment();
+  void Choose(AppointmentRow row);
+  void EditPattern();
+  void EditMemo();
+  bool Save();
+
+  const DialogMode m_mode;
+  QString m_subject;  // of a new appointment
+  Oid m_oid = 0;      // of an existing one
+  std::optional<AppointmentItem> m_item;
+  RecurrencePattern m_pattern = {};  // what the wizard edits
+  RecurrenceChoice m_storedChoice = RecurrenceChoice::Once;
+  CAppointmentRowList* m_rows;  // a child
+  AppointmentControls m_controls;
+};
+
+}  // namespace quill
