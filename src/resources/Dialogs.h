@@ -14,8 +14,8 @@ namespace quill::resources {
 
 // A wrapped label's text begins at its top and goes on below; a panel editor has the input panel up
 // while it has the focus, and so has a number's, into which only digits go, and a typed list's,
-// into which a text may be typed; the text of a check list, a date (which always has a day), a time
-// and a number is what it is called.
+// into which a text may be typed; a toggle is a button that is on or off. The text of a list, a
+// date (which always has a day), a time and a number is what it is called.
 enum class ControlKind {
   Label,
   CentredLabel,
@@ -32,8 +32,12 @@ enum class ControlKind {
   Number,
   Date,
   Time,
+  Toggle,
 };
 enum class ControlState { Visible, Hidden };
+
+// Of a label that nothing asks for.
+inline constexpr int kNoId = -1;
 
 struct Rectangle {
   int X;

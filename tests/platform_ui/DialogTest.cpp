@@ -12,6 +12,8 @@
 #include "platform/ui/DropDown.h"
 #include "platform/ui/MultiEdit.h"
 #include "platform/ui/PanelEdit.h"
+#include "platform/ui/PictureToggle.h"
+#include "platform/ui/TypedDropDown.h"
 #include "platform_ui/SampleWindows.h"
 #include "platform_ui/ScreenFixture.h"
 
@@ -112,6 +114,26 @@ TEST_F(DialogTest, ADateIsMadeWithItsNameAndAlwaysHasADay) {
   ASSERT_NE(date, nullptr);
   EXPECT_EQ(date->accessibleName(), QStringLiteral("Start"));
   EXPECT_FALSE(date->HasNoneCheck());
+}
+
+TEST_F(DialogTest, AListIsMadeWithItsName) {
+  constexpr std::array kLists = {
+      resources::DialogControl{resources::ControlKind::DropDown, 1001, u"Day", {0, 0, 90, 18}},
+      resources::DialogControl{
+          resources::ControlKind::TypedDropDown, 1002, u"Number", {0, 20, 90, 18}}};
+  const SampleDialog dialog(*m_screen, {1, u"Lists", {10, 40, 100, 80}, kLists});
+  EXPECT_EQ(dialog.Control(1001)->accessibleName(), QStringLiteral("Day"));
+  EXPECT_EQ(dialog.Control(1002)->accessibleName(), QStringLiteral("Number"));
+  EXPECT_NE(qobject_cast<CTypedDropDown*>(dialog.Control(1002)), nullptr);
+}
+
+TEST_F(DialogTest, AToggleIsMadeWithItsText) {
+  constexpr std::array kToggles = {
+      resources::DialogControl{resources::ControlKind::Toggle, 1001, u"Sun", {0, 0, 30, 28}}};
+  const SampleDialog dialog(*m_screen, {1, u"Toggle", {10, 40, 100, 80}, kToggles});
+  const auto* toggle = qobject_cast<CPictureToggle*>(dialog.Control(1001));
+  ASSERT_NE(toggle, nullptr);
+  EXPECT_EQ(toggle->text(), QStringLiteral("Sun"));
 }
 
 TEST_F(DialogTest, AnOKButtonOfEitherNumberEndsItWithOK) {

@@ -259,6 +259,43 @@ TEST_F(SheetTest, APageHasTheInputPanelsButtonAndNoCommandsByDefault) {
       }});
 }
 
+TEST_F(SheetTest, APagesControlsAreMadeFromAResource) {
+  class ResourcePage : public CSheetPage {
+   public:
+    explicit ResourcePage(CSheet& sheet) : CSheetPage(sheet, QStringLiteral("Page")) {
+      using resources::ControlKind;
+      AddPageControl({ControlKind::Edit, test::kFirstEdit, u"text", {10, 20, 60, 18}});
+      Label = AddPageControl({ControlKind::Label, resources::kNoId, u"name", {80, 20, 60, 18}});
+    }
+    QWidget* Label;
+  };
+  CSheet sheet(*m_screen, QStringLiteral("Sheet"));
+  const ResourcePage page(sheet);
+  EXPECT_EQ(Edit(page, test::kFirstEdit).text(), QStringLiteral("text"));
+  EXPECT_EQ(Edit(page, test::kFirstEdit).geometry(), QRect(10, 20, 60, 18));
+  EXPECT_EQ(Edit(page, test::kFirstEdit).parentWidget(), &page);
+  EXPECT_EQ(page.Label->geometry(), QRect(80, 20, 60, 18));
+  EXPECT_EQ(page.Controls().size(), 1U) << "a label without an id is nobody's control";
+}
+
+TEST_F(SheetTest, IsToldWhichPageIsShown) {
+  class TellingSheet : public SampleSheet {
+   public:
+    using SampleSheet::SampleSheet;
+    QList<int> Shown;
+
+   protected:
+    void OnPageShown() override { Shown.append(ActiveIndex()); }
+  };
+  TellingSheet sheet(*m_screen);
+  Run(sheet, {[&] {
+        sheet.ShowPage(1);
+        sheet.ShowPage(1);
+        sheet.ShowPage(0);
+      }});
+  EXPECT_EQ(sheet.Shown, (QList<int>{0, 1, 0}));
+}
+
 TEST_F(SheetTest, WithoutPagesItIsAnEmptyWindow) {
   CSheet sheet(*m_screen, QStringLiteral("Empty"));
   const Steps steps(*m_screen, {Keys(Qt::Key_Tab, Qt::ControlModifier), Keys(Qt::Key_Return)});

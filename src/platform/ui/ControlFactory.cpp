@@ -7,14 +7,15 @@
 
 #include "platform/ui/CheckList.h"
 #include "platform/ui/DatePicker.h"
-#include "platform/ui/Dialog.h"
 #include "platform/ui/DropDown.h"
 #include "platform/ui/Edit.h"
 #include "platform/ui/MultiEdit.h"
 #include "platform/ui/NumberEdit.h"
 #include "platform/ui/PanelEdit.h"
+#include "platform/ui/PictureToggle.h"
 #include "platform/ui/TextLabel.h"
 #include "platform/ui/TimePicker.h"
+#include "platform/ui/TypedDropDown.h"
 
 namespace quill {
 
@@ -39,54 +40,59 @@ CTimePicker* MakeTime(const QString& name, QWidget* parent) {
   return time;
 }
 
-CDropDown* MakeTypedDropDown(CDialog& dialog) {
-  auto* const list = new CDropDown(dialog.Screen(), &dialog);
-  list->setEditable(true);
-  list->setInsertPolicy(QComboBox::NoInsert);
+QWidget* Named(const QString& name, QWidget* list) {
+  list->setAccessibleName(name);
   return list;
 }
 
-QWidget* MakeWidget(const resources::DialogControl& control, CDialog& dialog) {
+QWidget* MakeWidget(const resources::DialogControl& control, CScreen& screen, QWidget* parent) {
   const QString text = control.Text.toString();
   switch (control.Kind) {
     case resources::ControlKind::Label:
-      return MakeLabel(text, Qt::AlignLeft, &dialog);
+      return MakeLabel(text, Qt::AlignLeft, parent);
     case resources::ControlKind::CentredLabel:
-      return MakeLabel(text, Qt::AlignHCenter, &dialog);
+      return MakeLabel(text, Qt::AlignHCenter, parent);
     case resources::ControlKind::WrappedLabel:
-      return new CTextLabel(text, &dialog);
+      return new CTextLabel(text, parent);
     case resources::ControlKind::Edit:
-      return new CEdit(text, &dialog);
+      return new CEdit(text, parent);
     case resources::ControlKind::PanelEdit:
-      return new CPanelEdit(text, &dialog);
+      return new CPanelEdit(text, parent);
     case resources::ControlKind::Button:
-      return new QPushButton(text, &dialog);
+      return new QPushButton(text, parent);
     case resources::ControlKind::Check:
-      return new QCheckBox(text, &dialog);
+      return new QCheckBox(text, parent);
     case resources::ControlKind::Radio:
-      return new QRadioButton(text, &dialog);
+      return new QRadioButton(text, parent);
     case resources::ControlKind::CheckList:
-      return new CCheckList(text, &dialog);
+      return new CCheckList(text, parent);
     case resources::ControlKind::DropDown:
-      return new CDropDown(dialog.Screen(), &dialog);
+      return Named(text, new CDropDown(screen, parent));
     case resources::ControlKind::TypedDropDown:
-      return MakeTypedDropDown(dialog);
+      return Named(text, new CTypedDropDown(screen, parent));
     case resources::ControlKind::MultiEdit:
-      return new CMultiEdit(text, &dialog);
+      return new CMultiEdit(text, parent);
     case resources::ControlKind::Number:
-      return new CNumberEdit(text, &dialog);
+      return new CNumberEdit(text, parent);
     case resources::ControlKind::Date:
-      return MakeDate(text, &dialog);
+      return MakeDate(text, parent);
     case resources::ControlKind::Time:
-      return MakeTime(text, &dialog);
+      return MakeTime(text, parent);
+    case resources::ControlKind::Toggle:
+      return new CPictureToggle(text, parent);
   }
   Q_UNREACHABLE();
 }
 
 }  // namespace
 
-QWidget* MakeControl(const resources::DialogControl& control, CDialog& dialog) {
-  QWidget* const widget = MakeWidget(control, dialog);
+QRect ToRect(const resources::Rectangle& place) {
+  return {place.X, place.Y, place.Width, place.Height};
+}
+
+QWidget* MakeControl(const resources::DialogControl& control, CScreen& screen, QWidget* parent) {
+  QWidget* const widget = MakeWidget(control, screen, parent);
+  widget->setGeometry(ToRect(control.Place));
   widget->setVisible(control.State == resources::ControlState::Visible);
   return widget;
 }

@@ -1,5 +1,7 @@
-// Makes the widget of a dialog resource's control.
+// Makes the widget of a resource's control, for dialogs and for the pages of sheets.
 #pragma once
+
+#include <QRect>
 
 #include "resources/Dialogs.h"
 
@@ -7,9 +9,11 @@ class QWidget;
 
 namespace quill {
 
-class CDialog;
+class CScreen;
 
-// The widget belongs to the dialog. It is not placed.
-QWidget* MakeControl(const resources::DialogControl& control, CDialog& dialog);
+QRect ToRect(const resources::Rectangle& place);
+
+// The widget belongs to the parent, in which it stands at the control's place.
+QWidget* MakeControl(const resources::DialogControl& control, CScreen& screen, QWidget* parent);
 
 }  // namespace quill

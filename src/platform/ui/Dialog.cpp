@@ -16,10 +16,6 @@ namespace {
 
 constexpr Rgb kDialogBorder = 0x2F5568;
 
-QRect ToRect(const resources::Rectangle& place) {
-  return {place.X, place.Y, place.Width, place.Height};
-}
-
 }  // namespace
 
 CDialog::CDialog(CScreen& screen, const resources::DialogResource& resource)
@@ -31,9 +27,8 @@ CDialog::CDialog(CScreen& screen, const resources::DialogResource& resource)
 }
 
 QWidget* CDialog::AddDialogControl(const resources::DialogControl& control) {
-  QWidget* const widget = MakeControl(control, *this);
-  const int top = m_size == WindowSize::Small ? kSmallCaptionHeight : 0;
-  widget->setGeometry(ToRect(control.Place).translated(0, top));
+  QWidget* const widget = MakeControl(control, Screen(), this);
+  if (m_size == WindowSize::Small) widget->move(widget->pos() + QPoint(0, kSmallCaptionHeight));
   AddControl(control.Id, widget);
   FollowButton(control.Id, widget);
   return widget;

@@ -7,11 +7,16 @@ namespace quill {
 
 namespace {
 
+// The entry whose text is shown, -1 when a text is typed that no entry has.
+int ShownEntry(const QComboBox& list) {
+  return list.isEditable() ? list.findText(list.currentText()) : list.currentIndex();
+}
+
 // A list entry's command is its index, one up: 0 means that nothing was chosen.
 std::vector<MenuItem> ListItems(const QComboBox& list) {
   std::vector<MenuItem> items;
   for (int i = 0; i < list.count(); ++i)
-    items.push_back({.Text = list.itemText(i), .Id = i + 1, .Checked = i == list.currentIndex()});
+    items.push_back({.Text = list.itemText(i), .Id = i + 1, .Checked = i == ShownEntry(list)});
   return items;
 }
 
@@ -22,7 +27,7 @@ CDropDown::CDropDown(CScreen& screen, QWidget* parent) : QComboBox(parent), m_sc
 void CDropDown::showPopup() {
   const QRect place(mapTo(&m_screen, QPoint(0, 0)), size());
   CMenuPopup popup(m_screen, ListItems(*this), place);
-  popup.StartAt(currentIndex());
+  popup.StartAt(ShownEntry(*this));
   const int chosen = popup.Track() - 1;
   if (Closed) Closed();
   if (chosen < 0) return;

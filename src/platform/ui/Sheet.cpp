@@ -45,6 +45,7 @@ void CSheet::ShowPage(int index) {
   PutPageInPlace(page, before);
   page.BecomeActive();
   if (window()->focusWidget() == &page) focusNextPrevChild(true);
+  OnPageShown();
   Screen().UpdateChrome();
 }
 

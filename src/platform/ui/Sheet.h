@@ -46,6 +46,8 @@ class CSheet : public CModalWindow {
   void FocusFirstControl() override;
   // Where the pages stand: all that the tabs leave.
   virtual QRect PageArea() const;
+  // Called when another page is shown than before, however that came about.
+  virtual void OnPageShown() {}
   bool eventFilter(QObject* watched, QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/ui/Window.h"
+#include "resources/Dialogs.h"
 
 namespace quill {
 
@@ -35,6 +36,10 @@ class CSheetPage : public QWidget {
   virtual CommandRoute Route() const { return {}; }
   // The popup of the menu key. False when the page has none.
   virtual bool ShowContextMenu() { return false; }
+
+ protected:
+  // Makes a resource's control at its place in the page, and adds it under its id if it has one.
+  QWidget* AddPageControl(const resources::DialogControl& control);
 
  private:
   CSheet& m_sheet;
