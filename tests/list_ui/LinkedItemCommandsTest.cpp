@@ -1,11 +1,16 @@
 #include "list/ui/LinkedItemCommands.h"
 
 #include "ViewFixture.h"
+#include "appointments/ContactLink.h"
 #include "ink/ui/InkX.h"
 #include "list/ContactPopup.h"
 #include "list/Selection.h"
 #include "memo/MemoFolder.h"
 #include "memo/MemoListing.h"
+#include "platform/ui/PaintedWindow.h"
+#include "resources/AppointmentIds.h"
+#include "store/AppointmentStore.h"
+#include "store/AutomationDate.h"
 #include "support/FixedClock.h"
 #include "support/ScriptedPrompt.h"
 
@@ -95,9 +100,84 @@ TEST_F(LinkedItemCommandsTest, OverMemosNoneIsAddedToAContact) {
   EXPECT_EQ(AllMemos(g_memo).size(), 1);
 }
 
-TEST_F(LinkedItemCommandsTest, AppointmentsCannotBeMadeYet) {
-  for (const int id : {32819, 33001, 33200})
-    EXPECT_EQ(m_frame->RunCommand(id), CommandResult::Disabled) << id;
+class LinkedAppointments : public LinkedItemCommandsTest {
+ protected:
+  void SetUp() override {
+    LinkedItemCommandsTest::SetUp();
+    m_oids = {Add(QStringLiteral("(Kim) tea")), Add(QStringLiteral("(Kim) dinner"))};
+    g_linkedItems = FindLinkedItems(QStringLiteral("Kim"));
+    m_store.Counts() = {};
+  }
+
+  static Oid Add(const QString& subject) {
+    const CalendarDate start = MakeCalendarDate({2004, 9, 15}, {10, 0});
+    AppointmentItem item{.Subject = subject, .Start = start, .End = start, .BodyInk = "ink"};
+    item.Recurrence = PatternOf(item);
+    return SaveAppointment(item) ? item.Id : 0;
+  }
+  static std::vector<Oid> Stored() { return FindContactAppointments(QStringLiteral("Kim")); }
+  // Whether the window on top is a preview that says this.
+  bool Shows(const QString& text) const {
+    const auto* const face = m_screen->Topmost()->findChild<CPaintedWindow*>();
+    return face && RowNamed(*face, text).isValid();
+  }
+  test::Step Choose(int command) {
+    return [this, command] { m_screen->Topmost()->RunCommand(command); };
+  }
+  test::Step Cancel() {
+    return [this] { m_screen->Topmost()->OnCancel(); };
+  }
+  test::Step Delete() { return Choose(AppointmentPreviewIds::kDelete); }
+
+  std::vector<Oid> m_oids;
+};
+
+TEST_F(LinkedAppointments, AreShownByTheirNumber) {
+  Run(33001, {[this] { EXPECT_TRUE(Shows(QStringLiteral("(Kim) tea"))); }, Cancel()});
+  Run(33002, {[this] { EXPECT_TRUE(Shows(QStringLiteral("(Kim) dinner"))); }, Cancel()});
+  EXPECT_EQ(Stored(), m_oids);
+}
+
+TEST_F(LinkedAppointments, AreTwoHundredAtMost) {
+  g_linkedItems.Appointments = std::vector<Oid>(199, m_oids[0]);
+  g_linkedItems.Appointments.push_back(m_oids[1]);
+  Run(33200, {[this] { EXPECT_TRUE(Shows(QStringLiteral("(Kim) dinner"))); }, Cancel()});
+}
+
+TEST_F(LinkedAppointments, DeleteInThePreviewDeletesThatOneAtOnce) {
+  Run(33001, {Delete()});
+  EXPECT_EQ(Stored(), std::vector<Oid>({m_oids[1]}));
+  EXPECT_TRUE(m_prompt.Shown().empty());
+}
+
+TEST_F(LinkedAppointments, ADeletionIsCountedWhenThePopupOpensAgain) {
+  Run(33001, {Delete()});
+  EXPECT_EQ(g_linkedItems.AppointmentCount, 2);
+  EXPECT_EQ(m_store.Counts(), test::StoreCounts{}) << "the list is not built again";
+  BuildRowPopup(g_list, 0, m_frame->Route());
+  EXPECT_EQ(g_linkedItems.AppointmentCount, 1);
+  EXPECT_EQ(g_linkedItems.Appointments, std::vector<Oid>({m_oids[1]}));
+}
+
+TEST_F(LinkedAppointments, OneThatGoesWhileItIsShownIsNotMissed) {
+  Run(33001, {[this] { EXPECT_TRUE(DeleteAppointment(m_oids[0])); }, Delete()});
+  EXPECT_EQ(Stored(), std::vector<Oid>({m_oids[1]}));
+}
+
+TEST_F(LinkedAppointments, OneThatIsGoneIsAnEmptyPreviewThatDeletesNothing) {
+  ASSERT_TRUE(DeleteAppointment(m_oids[0]));
+  Run(33001, {[this] {
+                EXPECT_FALSE(Shows(QStringLiteral("(Kim) tea")));
+                EXPECT_EQ(m_screen->Topmost()->Caption(), QStringLiteral("Memo"));
+              },
+              Delete()});
+  EXPECT_EQ(Stored(), std::vector<Oid>({m_oids[1]}));
+}
+
+TEST_F(LinkedAppointments, WithoutOneOfThisNumberNothingHappens) {
+  for (const int id : {33003, 33200}) m_frame->RunCommand(id);
+  EXPECT_EQ(m_screen->Topmost(), m_frame.get());
+  EXPECT_EQ(Stored(), m_oids);
 }
 
 }  // namespace

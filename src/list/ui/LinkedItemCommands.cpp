@@ -2,6 +2,8 @@
 
 #include <optional>
 
+#include "appointments/ui/AppointmentOpening.h"
+#include "appointments/ui/AppointmentPreviewDlg.h"
 #include "list/ContactPopup.h"
 #include "list/ListState.h"
 #include "list/ui/ContactsView.h"
@@ -9,14 +11,13 @@
 #include "memo/MemoNames.h"
 #include "memo/ui/MemoOpening.h"
 #include "platform/ui/Screen.h"
+#include "resources/AppointmentIds.h"
 #include "resources/Ids.h"
+#include "store/AppointmentStore.h"
 
 namespace quill {
 
 namespace {
-
-// Listed in the popups, disabled until their windows exist.
-CommandRow Unavailable(int first, int last) { return {first, last, nullptr, nullptr}; }
 
 // What the current row's contact is filed under.
 std::optional<QString> CurrentContact() {
@@ -26,9 +27,25 @@ std::optional<QString> CurrentContact() {
   return g_list.Rows[static_cast<std::size_t>(g_list.CurrentRow)].Name;
 }
 
+void AddToCalendar(CContactsView& view) {
+  if (const auto fileAs = CurrentContact()) AddAppointment(*ScreenAround(&view), *fileAs);
+}
+
 void AddMemo(CContactsView& view) {
   if (const auto fileAs = CurrentContact())
     WriteNewMemo(*ScreenAround(&view), NewMemoPath(g_memo, *fileAs));
+}
+
+// What is chosen in the preview happens at once. Should the appointment be gone by then, nothing
+// does.
+void OpenLinkedAppointment(CContactsView& view, int id) {
+  const auto index = static_cast<std::size_t>(id - ID_OPEN_APPOINTMENT_FIRST);
+  if (index >= g_linkedItems.Appointments.size()) return;
+  const Oid appointment = g_linkedItems.Appointments[index];
+  CScreen& screen = *ScreenAround(&view);
+  const int result = CAppointmentPreviewDlg(screen, appointment).DoModal();
+  if (result == AppointmentPreviewIds::kModifyResult) EditAppointment(screen, appointment);
+  if (result == AppointmentPreviewIds::kDeleteResult) DeleteAppointment(appointment);
 }
 
 void OpenLinkedMemo(CContactsView& view, int id) {
@@ -40,9 +57,10 @@ void OpenLinkedMemo(CContactsView& view, int id) {
 
 std::unique_ptr<CommandTarget> MakeLinkedItemCommands(CContactsView& view) {
   return std::make_unique<CommandTarget>(std::vector<CommandRow>{
-      Unavailable(ID_ADD_APPOINTMENT, ID_ADD_APPOINTMENT),
+      {ID_ADD_APPOINTMENT, ID_ADD_APPOINTMENT, [&view](int) { AddToCalendar(view); }},
       {ID_ADD_MEMO, ID_ADD_MEMO, [&view](int) { AddMemo(view); }},
-      Unavailable(ID_OPEN_APPOINTMENT_FIRST, ID_OPEN_APPOINTMENT_LAST),
+      {ID_OPEN_APPOINTMENT_FIRST, ID_OPEN_APPOINTMENT_LAST,
+       [&view](int id) { OpenLinkedAppointment(view, id); }},
       {ID_OPEN_MEMO_FIRST, ID_OPEN_MEMO_LAST, [&view](int id) { OpenLinkedMemo(view, id); }},
   });
 }

@@ -9,7 +9,9 @@ namespace quill {
 
 class CContactsView;
 
-// A memo that is opened is one of g_linkedItems. The list stays as it is.
+// What is opened is one of g_linkedItems: a memo in its editor, an appointment in its preview, from
+// where it is changed or deleted. The list stays as it is, and so do g_linkedItems until a popup
+// opens again.
 std::unique_ptr<CommandTarget> MakeLinkedItemCommands(CContactsView& view);
 
 }  // namespace quill
