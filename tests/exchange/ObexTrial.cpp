@@ -28,12 +28,14 @@ Trace OfInbox(const QByteArray& sent, qsizetype piece, ObexVerdict verdict) {
   Trace trace;
   for (qsizetype at = 0; at < sent.size(); at += piece) {
     inbox.Take(QByteArrayView(sent).sliced(at, std::min(piece, sent.size() - at)));
-    while (inbox.Offered()) {
-      trace.Offered += inbox.Offered()->Bytes;
-      inbox.Answer(verdict);
-    }
     trace.Output += inbox.TakeOutput();
   }
+  // Answered sooner, an offer could not be taken back by what comes behind it.
+  while (inbox.Offered()) {
+    trace.Offered += inbox.Offered()->Bytes;
+    inbox.Answer(verdict);
+  }
+  trace.Output += inbox.TakeOutput();
   trace.IsOver = inbox.IsOver();
   return trace;
 }
