@@ -8,6 +8,7 @@
 #include "cli/ExportVerb.h"
 #include "cli/ImportVerb.h"
 #include "cli/ListVerb.h"
+#include "cli/ReceiveVerb.h"
 #include "cli/ShowVerb.h"
 
 namespace quill {
@@ -27,6 +28,13 @@ constexpr auto kImporting = std::to_array<Option>({
     {kCharsetOption, u"NAME", u"of text that does not say its character set"},
     {kRejectsOption, u"FILE", u"keep the cards that cannot be read in this file"},
 });
+constexpr auto kReceiving = std::to_array<Option>({
+    {kLanOption, u"", u"let peers of the local network push, not of this machine alone"},
+    {kPortOption, u"N", u"listen on this port; 0 for any that is free"},
+    {kTrustOption, u"ADDRESS", u"take what this peer pushes without asking"},
+    {kCountOption, u"N", u"end after so many cards, not after two minutes"},
+    {kSaveOption, u"", u"receive so from now on, in the window too"},
+});
 constexpr auto kVerbs = std::to_array<Verb>({
     {u"check", u"", u"look the store over and mend its index", 0, 0, kPrinting, RunCheck},
     {u"export", u"FILE", u"write contacts to a vCard file, - for standard output", 1, 1, kExporting,
@@ -34,6 +42,8 @@ constexpr auto kVerbs = std::to_array<Verb>({
     {u"import", u"FILE|DIR...", u"bring in the contacts of vCard files", 1, kAny, kImporting,
      RunImport},
     {u"list", u"", u"print the contacts' names, one on a line", 0, 0, kPrinting, RunList},
+    {u"receive", u"", u"take the cards that are pushed here in the next two minutes", 0, 0,
+     kReceiving, RunReceive},
     {u"show", u"NAME", u"print the contacts of this name, or whose name begins so", 1, 1, kPrinting,
      RunShow},
 });

@@ -108,6 +108,7 @@ void ObexInbox::Offer() {
   if (object->Cards > m_limits.Cards) return Forget(ObexResponse::TooLarge);
   m_incoming = {};
   m_offered = std::move(object);
+  ++m_offers;
 }
 
 void ObexInbox::Answer(ObexVerdict verdict) {

@@ -43,6 +43,8 @@ class ObexInbox {
 
   // The object that waits for an answer; null when there is none, also when the peer took it back.
   const ObexObject* Offered() const { return m_offered ? &*m_offered : nullptr; }
+  // How many there were so far, by which a new one is told from the one before.
+  int Offers() const { return m_offers; }
   // May bring up the next one, which came meanwhile. Ignored when there is none.
   void Answer(ObexVerdict verdict);
 
@@ -77,6 +79,7 @@ class ObexInbox {
   QByteArray m_output;
   Incoming m_incoming;
   std::optional<ObexObject> m_offered;
+  int m_offers = 0;
   bool m_isOver = false;
 };
 

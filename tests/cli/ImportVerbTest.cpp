@@ -7,9 +7,9 @@
 #include <memory>
 
 #include "cli/ConsoleFixture.h"
+#include "cli/InputFrom.h"
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace quill {
 namespace {
@@ -243,26 +243,9 @@ TEST_F(ImportVerb, SaysWhoseCardItCouldNotRead) {
                            ":1: card 1 (Jay): it holds no name, company, number or address\n");
 }
 
-// Standard input is a file for as long as this lives.
-class InputFrom {
- public:
-  explicit InputFrom(QFile& file) : m_before(::dup(STDIN_FILENO)) {
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(::dup2(file.handle(), STDIN_FILENO), STDIN_FILENO);
-  }
-  ~InputFrom() {
-    EXPECT_EQ(::dup2(m_before, STDIN_FILENO), STDIN_FILENO);
-    ::close(m_before);
-  }
-  Q_DISABLE_COPY_MOVE(InputFrom)
-
- private:
-  int m_before;
-};
-
 TEST_F(ImportVerb, ReadsStandardInput) {
   QFile file(MakeFile(u"two.vcf"_qs, kTwoCards));
-  const InputFrom input(file);
+  const test::InputFrom input(file);
   EXPECT_EQ(Import(u"-"_qs), kExitDone);
   EXPECT_EQ(TakeOut(), "standard input: 2 new, 0 changed, 0 the same, 0 unreadable\n");
 }

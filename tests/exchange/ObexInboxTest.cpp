@@ -305,6 +305,18 @@ TEST(ObexInbox, GivesUpAnOfferThatThePeerTakesBack) {
   EXPECT_EQ(inbox.TakeOutput(), "") << "there is nothing to answer";
 }
 
+TEST(ObexInbox, CountsItsOffersSoThatNoneIsTakenForAnother) {
+  ObexInbox inbox;
+  const QByteArray second = "BEGIN:VCARD\nFN:Bob\nEND:VCARD\n";
+  EXPECT_EQ(inbox.Offers(), 0);
+  AnswerOf(inbox, PutFinal({EndOfBody(kCard)}));
+  EXPECT_EQ(inbox.Offers(), 1);
+  AnswerOf(inbox, Request(ObexRequest::Abort) + PutFinal({EndOfBody(second)}));
+  ASSERT_TRUE(inbox.Offered());
+  EXPECT_EQ(inbox.Offered()->Bytes, second);
+  EXPECT_EQ(inbox.Offers(), 2);
+}
+
 TEST(ObexInbox, EndsWhenMoreThanAPacketComesDuringAnOffer) {
   ObexInbox inbox({.Packet = 255});
   const QByteArray gets = Request(ObexRequest::Get).repeated(65535 / 3);
