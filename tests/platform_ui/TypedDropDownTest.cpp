@@ -57,6 +57,11 @@ TEST_F(TypedDropDownTest, TakesAnyTextAndSaysSo) {
   TypeOver(QStringLiteral("7x"));
   EXPECT_EQ(m_list.currentText(), QStringLiteral("7x"));
   EXPECT_EQ(m_changes, 2);
+}
+
+TEST_F(TypedDropDownTest, NeverTakesWhatIsTypedForAnEntry) {
+  TypeOver(QStringLiteral("7"));
+  m_input.Key(Qt::Key_Return);
   EXPECT_EQ(m_list.count(), 3);
 }
 
@@ -154,6 +159,15 @@ TEST_F(TypedDropDownTest, TheMenuKeyOpensTheEditMenu) {
   const Steps steps(*m_screen, {[this] { m_screen->Popup()->Dismiss(); }});
   m_input.Key(Qt::Key_Menu);
   EXPECT_TRUE(m_panel.IsUp());
+}
+
+TEST_F(TypedDropDownTest, TheTabKeyStopsAtItOnce) {
+  m_list.setFocus();
+  m_input.Key(Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget(), &m_other);
+  m_input.Key(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(QApplication::focusWidget(), &m_list);
+  EXPECT_EQ(m_list.lineEdit()->selectedText(), QStringLiteral("2"));
 }
 
 TEST_F(TypedDropDownTest, WhatAnInputMethodCommitsIsTypedToo) {

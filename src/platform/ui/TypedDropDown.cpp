@@ -4,9 +4,20 @@
 
 namespace quill {
 
+namespace {
+
+// The Tab key comes to the list, which has the focus for it, not to the editor as well.
+QLineEdit* MakeCell(QWidget* list) {
+  auto* const cell = new CPanelEdit({}, list);
+  cell->setFocusPolicy(Qt::ClickFocus);
+  return cell;
+}
+
+}  // namespace
+
 CTypedDropDown::CTypedDropDown(CScreen& screen, QWidget* parent) : CDropDown(screen, parent) {
   setInsertPolicy(NoInsert);
-  setLineEdit(new CPanelEdit({}, this));
+  setLineEdit(MakeCell(this));
   setCompleter(nullptr);
   connect(lineEdit(), &QLineEdit::textEdited, this, &CTypedDropDown::FollowText);
   connect(this, &QComboBox::activated, this, [this] { TellChanged(); });
