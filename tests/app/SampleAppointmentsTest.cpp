@@ -9,6 +9,7 @@
 #include "app/Places.h"
 #include "app/SamplePeople.h"
 #include "appointments/ContactLink.h"
+#include "ink/InkFormat.h"
 #include "store/AppointmentStore.h"
 #include "store/AppointmentValidity.h"
 #include "store/AutomationDate.h"
@@ -81,6 +82,14 @@ TEST_F(SampleAppointments, RecurWeeklyAndYearly) {
   EXPECT_TRUE(std::any_of(ingrid.begin(), ingrid.end(), [](const AppointmentItem& item) {
     return item.Recurrence && item.Recurrence->Type == RecurrenceType::Yearly;
   }));
+}
+
+TEST_F(SampleAppointments, SomeHaveANoteByHand) {
+  const auto tennis = Items(FindContactAppointments(u"Zander, Milo"_qs));
+  ASSERT_EQ(tennis.size(), 1U);
+  const InkContent content = ReadInk(tennis[0].BodyInk);
+  EXPECT_EQ(content.Reading, InkReading::Whole);
+  EXPECT_FALSE(content.Note.Strokes.empty());
 }
 
 // A calendar that takes so many appointments and no more.

@@ -128,6 +128,13 @@ class LinkedAppointments : public LinkedItemCommandsTest {
     return [this] { m_screen->Topmost()->OnCancel(); };
   }
   test::Step Delete() { return Choose(AppointmentPreviewIds::kDelete); }
+  test::Step Modify() { return Choose(AppointmentPreviewIds::kModify); }
+  // Of the appointment dialog.
+  QString Subject() const {
+    auto* const edit =
+        qobject_cast<QLineEdit*>(m_screen->Topmost()->Control(AppointmentIds::kSubject));
+    return edit ? edit->text() : QString();
+  }
 
   std::vector<Oid> m_oids;
 };
@@ -142,6 +149,26 @@ TEST_F(LinkedAppointments, AreTwoHundredAtMost) {
   g_linkedItems.Appointments = std::vector<Oid>(199, m_oids[0]);
   g_linkedItems.Appointments.push_back(m_oids[1]);
   Run(33200, {[this] { EXPECT_TRUE(Shows(QStringLiteral("(Kim) dinner"))); }, Cancel()});
+}
+
+TEST_F(LinkedAppointments, ANewOneBeginsWithTheNameOfTheCurrentRowsContact) {
+  SelectRow(g_list, 1);
+  Run(32819, {[this] { EXPECT_EQ(Subject(), QStringLiteral("(Lee)")); }, Cancel()});
+  EXPECT_EQ(Stored(), m_oids);
+}
+
+TEST_F(LinkedAppointments, NoneIsMadeWithoutARowOrOverMemos) {
+  g_list.CurrentRow = -1;
+  m_frame->RunCommand(32819);
+  View().ShowMode(ViewMode::ByMemo);
+  m_frame->RunCommand(32819, CommandCheck::Anyway);
+  EXPECT_EQ(m_screen->Topmost(), m_frame.get());
+}
+
+TEST_F(LinkedAppointments, ModifyInThePreviewOpensThatOne) {
+  Run(33002,
+      {Modify(), [this] { EXPECT_EQ(Subject(), QStringLiteral("(Kim) dinner")); }, Cancel()});
+  EXPECT_EQ(Stored(), m_oids);
 }
 
 TEST_F(LinkedAppointments, DeleteInThePreviewDeletesThatOneAtOnce) {
