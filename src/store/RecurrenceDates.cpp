@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace quill {
 
@@ -17,8 +18,11 @@ int DaysOfMask(const RecurrencePattern& pattern) { return pattern.DayOfWeekMask 
 
 bool IsWithin(int value, int lowest, int highest) { return value >= lowest && value <= highest; }
 
+// The reckoned dates below are nothing where they lie beyond kLastRecurrenceDate.
+
 std::optional<QDate> AddDays(QDate date, qint64 days) {
-  return days > date.daysTo(kLastRecurrenceDate) ? kLastRecurrenceDate : date.addDays(days);
+  if (days > date.daysTo(kLastRecurrenceDate)) return std::nullopt;
+  return date.addDays(days);
 }
 
 // The days of the mask as distances from Sunday, ascending.
@@ -40,7 +44,6 @@ std::optional<QDate> WeeklyDate(const RecurrencePattern& pattern, int number) {
   const qint64 toSunday = -startDistance;
   const WeekDays first = DaysFrom(DaysOfMask(pattern), startDistance);
   const WeekDays whole = DaysFrom(DaysOfMask(pattern), 0);
-  if (whole.Count == 0) return std::nullopt;
   const auto at = [](const WeekDays& days, int index) {
     return days.Distances[static_cast<std::size_t>(index)];
   };
@@ -89,7 +92,6 @@ bool HasDayInMonth(const RecurrencePattern& pattern) {
 }
 
 std::optional<QDate> MonthlyDate(const RecurrencePattern& pattern, int number) {
-  if (!HasDayInMonth(pattern)) return std::nullopt;
   const bool yearly = IsYearly(pattern.Type);
   const QDate start = pattern.PatternStartDate;
   const qint64 firstMonth =
@@ -97,7 +99,7 @@ std::optional<QDate> MonthlyDate(const RecurrencePattern& pattern, int number) {
   const qint64 step = yearly ? kMonthsInYear : pattern.Interval;
   const qint64 passed = DateInMonth(pattern, firstMonth) < start ? 1 : 0;
   const qint64 month = firstMonth + (number - 1 + passed) * step;
-  if (month / kMonthsInYear > kLastRecurrenceDate.year()) return kLastRecurrenceDate;
+  if (month / kMonthsInYear > kLastRecurrenceDate.year()) return std::nullopt;
   return DateInMonth(pattern, month);
 }
 
@@ -107,22 +109,70 @@ bool Repeats(const RecurrencePattern& pattern) {
          (IsYearly(pattern.Type) || pattern.Interval >= 1);
 }
 
-}  // namespace
+bool Happens(const RecurrencePattern& pattern) {
+  if (!IsKnown(pattern.Type) || !Repeats(pattern)) return false;
+  if (pattern.Type == RecurrenceType::Daily) return true;
+  if (pattern.Type == RecurrenceType::Weekly) return DaysOfMask(pattern) != 0;
+  return HasDayInMonth(pattern);
+}
 
-std::optional<QDate> OccurrenceDate(const RecurrencePattern& pattern, int number) {
-  if (number < 1 || !Repeats(pattern)) return std::nullopt;
+// Of a pattern that happens, counted from 1.
+std::optional<QDate> ReckonDate(const RecurrencePattern& pattern, int number) {
   switch (pattern.Type) {
     case RecurrenceType::Daily:
       return AddDays(pattern.PatternStartDate, qint64{number - 1} * pattern.Interval);
     case RecurrenceType::Weekly:
       return WeeklyDate(pattern, number);
-    case RecurrenceType::Monthly:
-    case RecurrenceType::MonthlyNth:
-    case RecurrenceType::Yearly:
-    case RecurrenceType::YearlyNth:
+    default:
       return MonthlyDate(pattern, number);
   }
-  return std::nullopt;
+}
+
+// The number of the first occurrence on a date or after it. Dates ascend with their numbers, so a
+// few of them tell.
+int NumberFrom(const RecurrencePattern& pattern, QDate date) {
+  int low = 1;
+  int high = kMoreDaysThanThereAre;
+  while (low < high) {
+    const int middle = low + (high - low) / 2;
+    const auto reckoned = ReckonDate(pattern, middle);
+    if (reckoned && *reckoned < date) {
+      low = middle + 1;
+    } else {
+      high = middle;
+    }
+  }
+  return low;
+}
+
+bool EndsByNumber(const RecurrencePattern& pattern) {
+  return !pattern.NoEndDate && pattern.Occurrences > 0;
+}
+
+QDate EndOf(const RecurrencePattern& pattern) {
+  const bool byDate = !pattern.NoEndDate && pattern.Occurrences <= 0;
+  return byDate && pattern.PatternEndDate.isValid() ? pattern.PatternEndDate : kLastRecurrenceDate;
+}
+
+}  // namespace
+
+std::optional<QDate> OccurrenceDate(const RecurrencePattern& pattern, int number) {
+  if (number < 1 || !Happens(pattern)) return std::nullopt;
+  return ReckonDate(pattern, number).value_or(kLastRecurrenceDate);
+}
+
+std::vector<QDate> OccurrencesBetween(const RecurrencePattern& pattern, QDate first, QDate last) {
+  std::vector<QDate> dates;
+  if (!first.isValid() || !last.isValid() || !Happens(pattern)) return dates;
+  const QDate end = std::min(last, EndOf(pattern));
+  const int lastNumber =
+      EndsByNumber(pattern) ? pattern.Occurrences : std::numeric_limits<int>::max();
+  for (int number = NumberFrom(pattern, first); number <= lastNumber; ++number) {
+    const auto date = ReckonDate(pattern, number);
+    if (!date || *date > end) break;
+    dates.push_back(*date);
+  }
+  return dates;
 }
 
 QDate LastOccurrence(const RecurrencePattern& pattern) {

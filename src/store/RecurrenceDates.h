@@ -12,6 +12,7 @@
 #include <QDate>
 
 #include <optional>
+#include <vector>
 
 #include "store/RecurrencePattern.h"
 
@@ -23,6 +24,12 @@ inline const QDate kLastRecurrenceDate(9999, 12, 31);
 // without a day, an unknown type, numbers out of range) and for numbers below 1. One beyond
 // kLastRecurrenceDate is given as that date.
 std::optional<QDate> OccurrenceDate(const RecurrencePattern& pattern, int number);
+
+// The dates from first to last, both included, on which the pattern happens, ascending: none for
+// a pattern that never happens and for invalid dates. They end as the pattern does; one whose end
+// date is missing goes on. What has gone by since the pattern's start costs nothing: the time taken
+// is that of the dates returned.
+std::vector<QDate> OccurrencesBetween(const RecurrencePattern& pattern, QDate first, QDate last);
 
 // The date of the last one of Occurrences; PatternStartDate when there is none.
 QDate LastOccurrence(const RecurrencePattern& pattern);

@@ -179,6 +179,96 @@ INSTANTIATE_TEST_SUITE_P(
                   "2004-02-04"}),
     [](const auto& row) { return std::string(row.param.Name); });
 
+QString DatesText(const std::vector<QDate>& dates) {
+  QStringList texts;
+  for (const QDate date : dates) texts.append(date.toString(Qt::ISODate));
+  return texts.join(u' ');
+}
+
+RecurrencePattern Times(int occurrences, RecurrencePattern pattern) {
+  pattern.NoEndDate = false;
+  pattern.Occurrences = occurrences;
+  return pattern;
+}
+
+RecurrencePattern Until(const char* end, RecurrencePattern pattern) {
+  pattern.NoEndDate = false;
+  pattern.PatternEndDate = QDate::fromString(QString::fromLatin1(end), Qt::ISODate);
+  return pattern;
+}
+
+RecurrencePattern WithoutEnd(RecurrencePattern pattern) {
+  pattern.NoEndDate = true;
+  return pattern;
+}
+
+const RecurrencePattern kDaily = Starting("2004-02-01", {.Type = Daily});
+const RecurrencePattern kLastOfMonth = Starting("2004-01-31", OnDay(Monthly, 31, 1));
+
+struct BetweenCase {
+  const char* Name;
+  RecurrencePattern Pattern;
+  QDate First;
+  QDate Last;
+  const char* Dates;
+};
+
+class BetweenDates : public testing::TestWithParam<BetweenCase> {};
+
+TEST_P(BetweenDates, AreTheOccurrencesOfBothDaysAndThoseBetween) {
+  const BetweenCase& row = GetParam();
+  EXPECT_EQ(DatesText(OccurrencesBetween(row.Pattern, row.First, row.Last)),
+            QString::fromLatin1(row.Dates));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Patterns, BetweenDates,
+    testing::Values(
+        BetweenCase{"FromTheStart", kDaily, QDate(2004, 2, 1), QDate(2004, 2, 3),
+                    "2004-02-01 2004-02-02 2004-02-03"},
+        BetweenCase{"FromBeforeTheStart", kDaily, QDate(-4000, 1, 1), QDate(2004, 2, 2),
+                    "2004-02-01 2004-02-02"},
+        BetweenCase{"WhollyBeforeTheStart", kDaily, QDate(2003, 2, 1), QDate(2004, 1, 31), ""},
+        BetweenCase{"OnOneDay", kDaily, QDate(2504, 2, 28), QDate(2504, 2, 28), "2504-02-28"},
+        BetweenCase{"OnADayBetweenTwo", kLastOfMonth, QDate(2004, 3, 1), QDate(2004, 3, 30), ""},
+        BetweenCase{"Backwards", kDaily, QDate(2004, 2, 3), QDate(2004, 2, 1), ""},
+        BetweenCase{"FromNoDay", kDaily, QDate(), QDate(2004, 2, 1), ""},
+        BetweenCase{"ToNoDay", kDaily, QDate(2004, 2, 1), QDate(), ""},
+        BetweenCase{"AcrossALeapDay", kLastOfMonth, QDate(2008, 1, 31), QDate(2008, 3, 31),
+                    "2008-01-31 2008-02-29 2008-03-31"},
+        BetweenCase{"AMonthsFifthInstance", Starting("2004-02-01", OnInstance(MonthlyNth, 5, 1, 1)),
+                    QDate(2004, 8, 1), QDate(2004, 9, 30), "2004-08-29 2004-09-26"},
+        BetweenCase{"TheLastOfANumber", Times(3, kDaily), QDate(2004, 2, 2), QDate(2005, 2, 1),
+                    "2004-02-02 2004-02-03"},
+        BetweenCase{"BehindTheLastOfANumber", Times(3, kDaily), QDate(2004, 2, 4),
+                    QDate(2005, 2, 1), ""},
+        BetweenCase{"ANumberWinsOverADate", Times(3, Until("2004-02-02", kDaily)),
+                    QDate(2004, 2, 2), QDate(2005, 2, 1), "2004-02-02 2004-02-03"},
+        BetweenCase{"OnTheEndDateToo", Until("2004-02-02", kDaily), QDate(2004, 2, 1),
+                    QDate(2005, 2, 1), "2004-02-01 2004-02-02"},
+        BetweenCase{"TheEndDateWithANumberOfNone", Times(0, Until("2004-02-02", kDaily)),
+                    QDate(2004, 2, 1), QDate(2005, 2, 1), "2004-02-01 2004-02-02"},
+        BetweenCase{"BehindTheEndDate", Until("2004-02-02", kDaily), QDate(2004, 2, 3),
+                    QDate(2005, 2, 1), ""},
+        BetweenCase{"WithAnEndDateThatIsMissing", Times(0, kDaily), QDate(2004, 2, 9),
+                    QDate(2004, 2, 10), "2004-02-09 2004-02-10"},
+        BetweenCase{"WithoutAnEndTheNumberDoesNotCount", WithoutEnd(Times(3, kDaily)),
+                    QDate(2004, 2, 9), QDate(2004, 2, 9), "2004-02-09"},
+        BetweenCase{"WithoutAnEndTheEndDateDoesNotCount", WithoutEnd(Until("2004-02-02", kDaily)),
+                    QDate(2004, 2, 9), QDate(2004, 2, 9), "2004-02-09"},
+        BetweenCase{"TheLastDaysThereAre", Starting("0001-01-01", {.Type = Daily}),
+                    QDate(9999, 12, 30), QDate(12000, 1, 1), "9999-12-30 9999-12-31"},
+        BetweenCase{"NoDayInsteadOfOneTooFar", Starting("9999-12-30", WeeklyOn(1)),
+                    QDate(9999, 12, 1), QDate(12000, 1, 1), ""},
+        BetweenCase{"NoMonthInsteadOfOneTooFar", Starting("9999-11-15", OnDay(Monthly, 15, 1)),
+                    QDate(9999, 12, 1), QDate(12000, 1, 1), "9999-12-15"},
+        BetweenCase{"AllOfAHugeInterval", Starting("0001-01-01", Every(kHuge, WeeklyOn(127))),
+                    QDate(1, 1, 1), QDate(9999, 12, 31),
+                    "0001-01-01 0001-01-02 0001-01-03 0001-01-04 0001-01-05 0001-01-06"},
+        BetweenCase{"AHugeNumber", Times(kHuge, Every(1'000'000, kDaily)), QDate(2004, 2, 2),
+                    QDate(9999, 12, 31), "4741-12-29 7479-11-25"}),
+    [](const auto& row) { return std::string(row.param.Name); });
+
 class NeverHappens : public testing::TestWithParam<RecurrencePattern> {};
 
 TEST_P(NeverHappens, AndEndsOnItsStartDate) {
@@ -210,6 +300,10 @@ INSTANTIATE_TEST_SUITE_P(
                     RecurrencePattern{.Type = Daily}, Starting("-0044-03-15", {.Type = Daily}),
                     RecurrencePattern{.Type = Monthly, .PatternStartDate = QDate(-44, 3, 15)},
                     RecurrencePattern{.Type = Daily, .PatternStartDate = QDate(10000, 1, 1)}));
+
+TEST_P(NeverHappens, BetweenAnyDates) {
+  EXPECT_TRUE(OccurrencesBetween(GetParam(), QDate(-4000, 1, 1), QDate(2010, 1, 1)).empty());
+}
 
 TEST(RecurrenceDates, ANumberBelowOneNamesNoDate) {
   const RecurrencePattern pattern = Starting("2004-02-01", {.Type = Daily});
