@@ -1,6 +1,7 @@
 #include "appointments/ui/RecurrencePatternPage.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QLabel>
 #include <QRadioButton>
 #include <QtMath>

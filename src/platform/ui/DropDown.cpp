@@ -15,8 +15,10 @@ int ShownEntry(const QComboBox& list) {
 // A list entry's command is its index, one up: 0 means that nothing was chosen.
 std::vector<MenuItem> ListItems(const QComboBox& list) {
   std::vector<MenuItem> items;
+  items.reserve(static_cast<std::size_t>(list.count()));
+  const int shown = ShownEntry(list);
   for (int i = 0; i < list.count(); ++i)
-    items.push_back({.Text = list.itemText(i), .Id = i + 1, .Checked = i == ShownEntry(list)});
+    items.push_back({.Text = list.itemText(i), .Id = i + 1, .Checked = i == shown});
   return items;
 }
 
