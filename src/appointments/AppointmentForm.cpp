@@ -13,6 +13,7 @@ constexpr AlarmTime kNewAlarm = {12, AlarmUnit::Hours};
 // Sums of LED 1, dialog 4, sound 8 and repeat 16.
 constexpr int kSilentAlarm = 21;
 constexpr int kSoundingAlarm = 29;
+constexpr double kMillisecondsInDay = 86'400'000;
 
 Moment MomentOf(const CalendarDate& date) { return {DayOf(date), TimeOfDay(date)}; }
 
@@ -22,31 +23,24 @@ CalendarDate DateOf(const Moment& moment) { return MakeCalendarDate(moment.Date,
 int MinutesBetween(const CalendarDate& start, const CalendarDate& end) {
   constexpr double kMinutesInDay = 1440;
   constexpr double kRounding = 5.787037037037037e-6;
-  const auto from = ToAutomationDate(start);
-  const auto to = ToAutomationDate(end);
-  if (!from || !to) return 0;
-  const double minutes = (*to - *from) * kMinutesInDay + kRounding;
   constexpr double kMost = std::numeric_limits<int>::max();
-  return static_cast<int>(std::clamp(minutes, -kMost, kMost));
-}
-
-constexpr qint64 kDay = 86'400'000;  // milliseconds
-
-qint64 MillisecondsBetween(const Moment& start, const Moment& end) {
-  return (start.Date.daysTo(end.Date) * kDay) + start.Time.msecsTo(end.Time);
+  if (start.Year == 0 || end.Year == 0) return 0;
+  const double days = static_cast<double>(MillisecondsBetween(start, end)) / kMillisecondsInDay;
+  return static_cast<int>(std::clamp(days * kMinutesInDay + kRounding, -kMost, kMost));
 }
 
 QDate DayAfter(const Moment& start, qint64 milliseconds) {
+  constexpr auto kDay = static_cast<qint64>(kMillisecondsInDay);
   const qint64 sinceMidnight = start.Time.msecsSinceStartOfDay() + milliseconds;
   const bool isBefore = sinceMidnight % kDay < 0;
   return start.Date.addDays((sinceMidnight / kDay) - (isBefore ? 1 : 0));
 }
 
-// The span is that of the appointment itself.
-void TakePatternDay(const RecurrencePattern& pattern, AppointmentForm& form) {
-  const qint64 span = MillisecondsBetween(form.Start, form.End);
+// It keeps the span of the appointment itself.
+void TakePatternDay(const AppointmentItem& item, AppointmentForm& form) {
+  const RecurrencePattern& pattern = *item.Recurrence;
   form.Start = {pattern.PatternStartDate, pattern.StartTime};
-  form.End = {DayAfter(form.Start, span), pattern.EndTime};
+  form.End = {DayAfter(form.Start, MillisecondsBetween(item.Start, item.End)), pattern.EndTime};
 }
 
 void PutAlarm(const AppointmentForm& form, AppointmentItem& item) {
@@ -75,14 +69,14 @@ AppointmentForm FormOf(const AppointmentItem& item) {
                        .Sound = item.ReminderSoundFile.value_or(QString())};
   if (!item.Recurrence) return form;
   form.Recurrence = ChoiceOf(*item.Recurrence, form.Start.Date);
-  TakePatternDay(*item.Recurrence, form);
+  TakePatternDay(item, form);
   return form;
 }
 
 void FollowStart(AppointmentForm& form) { form.End = std::max(form.Start, form.End); }
 
 void PutForm(const AppointmentForm& form, AppointmentItem& item) {
-  item.Subject = form.Subject.left(kMostSubject);
+  item.Subject = form.Subject;
   item.Location.clear();
   item.Categories.clear();
   item.Start = DateOf(form.Start);

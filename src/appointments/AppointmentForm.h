@@ -13,7 +13,7 @@
 
 namespace quill {
 
-inline constexpr int kMostSubject = 260;  // UTF-16 units that are read of a subject
+inline constexpr int kMostSubject = 260;  // UTF-16 units that can be entered
 
 enum class Alarm { Yes, No };  // in the order of the list
 

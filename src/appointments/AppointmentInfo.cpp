@@ -18,7 +18,7 @@ void TakePattern(const RecurrencePattern& pattern, QDate start, AppointmentInfo&
   info.Recurring = true;
   info.Choice = ChoiceOf(pattern, start);
   info.Type = static_cast<int>(pattern.Type);
-  info.DayMask = IsOnStartDay(info.Choice) ? WeekdayBit(start) : pattern.DayOfWeekMask;
+  info.DayMask = ShowsStartWeekday(info.Choice) ? WeekdayBit(start) : pattern.DayOfWeekMask;
   info.Interval = pattern.Interval;
   info.DayOfMonth = pattern.DayOfMonth;
   info.Instance = pattern.Instance;

@@ -11,7 +11,6 @@ namespace {
 
 constexpr QStringView kAllDay = u"All Day Event";
 constexpr qint64 kHour = 3'600'000;  // milliseconds
-constexpr qint64 kDay = 24 * kHour;
 
 QString TimeText(const CalendarDate& moment) {
   return FormatTime(TimeOfDay(moment), kHalfOfDayTimePicture);
@@ -47,9 +46,7 @@ QString RangeText(const RecurrencePattern& pattern) {
 }
 
 qint64 WholeHours(const AppointmentItem& item) {
-  const qint64 days = DayOf(item.Start).daysTo(DayOf(item.End));
-  const qint64 milliseconds = TimeOfDay(item.Start).msecsTo(TimeOfDay(item.End));
-  return (days * kDay + milliseconds) / kHour;
+  return MillisecondsBetween(item.Start, item.End) / kHour;
 }
 
 QString LengthText(const AppointmentItem& item) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "appointments/SoundNames.h"
 #include "platform/DatePictures.h"
 #include "platform/ScreenLayout.h"
 #include "resources/AppointmentDialogs.h"

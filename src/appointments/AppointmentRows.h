@@ -20,7 +20,6 @@ enum class AppointmentRow { Subject, Start, End, AllDay, Recurrence, Alarm, Soun
 inline constexpr int kAppointmentRowCount = 8;
 
 inline constexpr Rgb kAppointmentBackground = 0xFFFFFF;
-inline constexpr QStringView kSoundOff = u"Sound off";
 
 // The ids of the controls that a tap on the row shows; none for the memo's, which opens the editor.
 std::span<const int> ControlsOf(AppointmentRow row);

@@ -9,8 +9,6 @@ namespace quill {
 
 namespace {
 
-constexpr int kDefaultOccurrences = 10;
-
 // The choices that write a pattern of their own, from Everyday on.
 constexpr std::array kTypes = {RecurrenceType::Daily,      RecurrenceType::Weekly,
                                RecurrenceType::Weekly,     RecurrenceType::Monthly,
@@ -52,7 +50,7 @@ QStringList RecurrenceChoiceTexts(QDate start) {
   return {QStringLiteral("Once"),
           QStringLiteral("Everyday"),
           QStringLiteral("Every ") + names.Weekday,
-          kWeekdays.toString(),
+          kMondayToFridayText.toString(),
           QStringLiteral("Day %1 of every month").arg(names.Day),
           QStringLiteral("The %1 %2 of every month").arg(names.Ordinal, names.WeekdayAbbrev),
           QStringLiteral("%1 %2 of every year").arg(names.MonthAbbrev).arg(names.Day),
@@ -66,11 +64,8 @@ void PutRecurrence(AppointmentItem& item, RecurrenceChoice choice, RecurrencePat
   if (choice != RecurrenceChoice::EditPattern) {
     const QDate day = DayOf(item.Start);
     pattern.Type = TypeOf(choice);
-    pattern.PatternStartDate = day;
-    pattern.StartTime = TimeOfDay(item.Start);
+    PutMoments(pattern, item);
     pattern.NoEndDate = true;
-    pattern.EndTime = TimeOfDay(item.End);
-    pattern.Duration = item.Duration;
     pattern.Interval = 1;
     pattern.DayOfWeekMask =
         choice == RecurrenceChoice::Weekdays ? kMondayToFriday : WeekdayBit(day);
@@ -81,13 +76,20 @@ void PutRecurrence(AppointmentItem& item, RecurrenceChoice choice, RecurrencePat
   item.Recurrence = pattern;
 }
 
+void PutMoments(RecurrencePattern& pattern, const AppointmentItem& item) {
+  pattern.PatternStartDate = DayOf(item.Start);
+  pattern.StartTime = TimeOfDay(item.Start);
+  pattern.EndTime = TimeOfDay(item.End);
+  pattern.Duration = item.Duration;
+}
+
 RecurrencePattern DefaultPattern(const AppointmentItem& item) {
   RecurrencePattern pattern = PatternOf(item);
   PutOccurrences(pattern, kDefaultOccurrences);
   return pattern;
 }
 
-bool IsOnStartDay(RecurrenceChoice choice) {
+bool ShowsStartWeekday(RecurrenceChoice choice) {
   return choice == RecurrenceChoice::Everyday || choice == RecurrenceChoice::EveryMonth ||
          choice == RecurrenceChoice::EveryYear;
 }
@@ -96,7 +98,7 @@ RecurrenceChoice ChoiceOf(const RecurrencePattern& pattern, QDate start) {
   if (!pattern.NoEndDate || pattern.Interval > 1) return RecurrenceChoice::EditPattern;
   if (RunsMondayToFriday(pattern)) return RecurrenceChoice::Weekdays;
   const RecurrenceChoice choice = PlainChoiceOf(pattern.Type);
-  const bool isOnDay = IsOnStartDay(choice) || pattern.DayOfWeekMask == WeekdayBit(start) ||
+  const bool isOnDay = ShowsStartWeekday(choice) || pattern.DayOfWeekMask == WeekdayBit(start) ||
                        pattern.DayOfWeekMask == kMondayToFriday;
   return isOnDay ? choice : RecurrenceChoice::EditPattern;
 }

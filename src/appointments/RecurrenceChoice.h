@@ -23,6 +23,7 @@ enum class RecurrenceChoice {
 };
 
 inline constexpr int kMondayToFriday = 62;  // as a mask of weekdays
+inline constexpr int kDefaultOccurrences = 10;
 
 // The texts of all nine; start is the appointment's first day.
 QStringList RecurrenceChoiceTexts(QDate start);
@@ -32,6 +33,9 @@ QStringList RecurrenceChoiceTexts(QDate start);
 // duration; every member is written, whatever the type needs, but those of the end.
 void PutRecurrence(AppointmentItem& item, RecurrenceChoice choice, RecurrencePattern pattern);
 
+// The pattern begins on the item's first day and has its times and length; the rest stays.
+void PutMoments(RecurrencePattern& pattern, const AppointmentItem& item);
+
 // The pattern with which the wizard begins for an appointment that does not recur: weekly on the
 // item's first day, without an end, and 10 times should it get one.
 RecurrencePattern DefaultPattern(const AppointmentItem& item);
@@ -40,6 +44,6 @@ RecurrencePattern DefaultPattern(const AppointmentItem& item);
 // intended.
 RecurrenceChoice ChoiceOf(const RecurrencePattern& pattern, QDate start);
 // Whether the choice is shown with the weekday of the start, whatever the pattern's mask is.
-bool IsOnStartDay(RecurrenceChoice choice);
+bool ShowsStartWeekday(RecurrenceChoice choice);
 
 }  // namespace quill

@@ -8,7 +8,7 @@
 
 namespace quill {
 
-inline constexpr QStringView kWeekdays = u"Weekdays(Mon-Fri)";
+inline constexpr QStringView kMondayToFridayText = u"Weekdays(Mon-Fri)";
 
 // Sunday first.
 inline constexpr std::array<QStringView, 7> kWeekdayNames = {

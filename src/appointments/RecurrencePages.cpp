@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "appointments/RecurrenceChoice.h"
 #include "appointments/RecurrenceNames.h"
 
 namespace quill {
@@ -10,7 +11,7 @@ namespace quill {
 namespace {
 
 constexpr int kDaysToDefaultEnd = 61;
-constexpr int kDefaultOccurrences = 10;
+constexpr int kMostOffered = 10;  // occurrences
 
 constexpr std::array kIntervals = {1, 2, 3, 4, 5, 10, 15, 20};
 constexpr std::array<QStringView, 5> kInstanceNames = {u"First", u"Second", u"Third", u"Fourth",
@@ -110,7 +111,7 @@ QStringList OfferedIntervals() {
 
 QStringList OfferedDays() { return NumbersTo(31); }
 
-QStringList OfferedOccurrences() { return NumbersTo(kDefaultOccurrences); }
+QStringList OfferedOccurrences() { return NumbersTo(kMostOffered); }
 
 QStringList InstanceNames() { return ListOf(kInstanceNames); }
 

@@ -8,8 +8,8 @@ namespace quill {
 namespace {
 
 QString WeekdaysText(int interval) {
-  if (interval == 1) return QStringLiteral("Every ") + kWeekdays.toString();
-  return QStringLiteral("Every %1 %2").arg(interval).arg(kWeekdays);
+  if (interval == 1) return QStringLiteral("Every ") + kMondayToFridayText.toString();
+  return QStringLiteral("Every %1 %2").arg(interval).arg(kMondayToFridayText);
 }
 
 QString DailyText(int interval) {

@@ -5,6 +5,8 @@
 
 namespace quill {
 
+inline constexpr QStringView kSoundOff = u"Sound off";  // what stands for no sound
+
 // The names of the files in "\Windows\" with one of these extensions (such as "wav"), sorted
 // without case among all of them; empty when the folder cannot be read.
 QStringList SoundNames(const QStringList& extensions);

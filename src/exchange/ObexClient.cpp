@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/TextFitting.h"
+
 namespace quill {
 
 namespace {
@@ -10,12 +12,6 @@ namespace {
 constexpr qsizetype kLongestName = 50;  // UTF-16 units
 
 constexpr QByteArrayView kCardType("text/x-vcard\0", 13);
-
-QString Shortened(const QString& name) {
-  QString shortened = name.left(kLongestName);
-  if (shortened.size() < name.size() && shortened.back().isHighSurrogate()) shortened.chop(1);
-  return shortened;
-}
 
 bool IsAnswer(quint8 code) { return code >= static_cast<quint8>(ObexResponse::Continue); }
 
@@ -107,7 +103,7 @@ void ObexClient::PutMore() {
 
 std::vector<ObexHeader> ObexClient::PutHeaders() const {
   if (m_sent > 0) return {};
-  return {ObexText(ObexHeaderId::Name, Shortened(Object().Name)),
+  return {ObexText(ObexHeaderId::Name, CutText(Object().Name)),
           ObexBytes(ObexHeaderId::Type, kCardType.toByteArray()),
           ObexNumber(ObexHeaderId::Length, static_cast<quint32>(Object().Card.size()))};
 }

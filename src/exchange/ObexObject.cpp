@@ -7,6 +7,7 @@
 
 #include "exchange/CardName.h"
 #include "exchange/CardReader.h"
+#include "platform/TextFitting.h"
 
 namespace quill {
 
@@ -71,11 +72,7 @@ QString ObexLabel(const QString& name) {
   const QString line = QString::fromUtf8(name.toUtf8()).simplified();
   QString label;
   std::copy_if(line.begin(), line.end(), std::back_inserter(label), IsShown);
-  label = label.trimmed();
-  if (label.size() <= kLongestLabel) return label;
-  label.truncate(kLongestLabel);
-  if (label.back().isHighSurrogate()) label.chop(1);
-  return label;
+  return CutText(label.trimmed(), kLongestLabel);
 }
 
 }  // namespace quill

@@ -1,7 +1,6 @@
 #include "list/PendingRequest.h"
 
-#include <algorithm>
-
+#include "platform/TextFitting.h"
 #include "store/ContactStore.h"
 #include "store/Restriction.h"
 
@@ -18,20 +17,13 @@ Oid FindByName(const QString& fileAs) {
   return ReadListRow({named, 1}, record);
 }
 
-// A character outside of the first plane stays whole or goes.
-QString CutAtLimit(const QString& text) {
-  QString cut = text.first(std::min(text.size(), kRequestTextLimit));
-  if (cut.size() < text.size() && cut.back().isHighSurrogate()) cut.chop(1);
-  return cut;
-}
-
 }  // namespace
 
 RequestAnswer TakeRequest(PendingRequest& request, int kind, const QString& text) {
   const auto asked = static_cast<PendingKind>(kind);
   switch (asked) {
     case PendingKind::New:
-      request = {.Kind = asked, .Text = CutAtLimit(text)};
+      request = {.Kind = asked, .Text = CutText(text, kRequestTextLimit)};
       return RequestAnswer::Kept;
     case PendingKind::Show:
     case PendingKind::ShowAgain:

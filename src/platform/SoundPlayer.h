@@ -15,7 +15,8 @@ class SoundPlayer {
   virtual void Play(const QString& path) = 0;
   // Ends what plays just now.
   virtual void Stop() = 0;
-  // Called when a sound ends by itself, and not by Play or Stop.
+  // Called when a sound ends by itself, also because it cannot be played, and not by Play or Stop.
+  // Not from within Play.
   std::function<void()> Ended;
 };
 

@@ -45,6 +45,11 @@ void AppendWrapped(QStringView paragraph, double limit, const TextWidth& width,
 
 }  // namespace
 
+QString CutText(const QString& text, qsizetype units) {
+  if (text.size() <= units) return text;
+  return text.first(SplitsSurrogatePair(text, units) ? units - 1 : units);
+}
+
 QString ShortenText(const QString& text, double limit, const TextWidth& width) {
   if (width(text) <= limit) return text;
   for (qsizetype length = 0; length < text.size(); ++length) {

@@ -18,6 +18,9 @@ using TextWidth = std::function<double(QStringView)>;
 // counts as one character. A text that is not wider is returned unchanged, line breaks included.
 QString ShortenText(const QString& text, double limit, const TextWidth& width);
 
+// The text's first units, as many as this at most: a surrogate pair at the end stays whole or goes.
+QString CutText(const QString& text, qsizetype units);
+
 // The text with a blank for each carriage return and line feed.
 QString OnOneLine(QString text);
 

@@ -7,7 +7,8 @@ namespace quill {
 namespace {
 
 constexpr qint64 kJulianDayZero = 2415019;  // 1899-12-30
-constexpr double kMillisecondsPerDay = 86'400'000.0;
+constexpr qint64 kDay = 86'400'000;         // milliseconds
+constexpr auto kMillisecondsPerDay = static_cast<double>(kDay);
 constexpr double kFirstDate = -657434.0;   // 0100-01-01
 constexpr double kEndOfDates = 2958466.0;  // 10000-01-01
 constexpr int kFirstContactYear = 1900;
@@ -57,6 +58,10 @@ std::optional<double> ToAutomationDate(const CalendarDate& date) {
   const auto days = static_cast<double>(day.toJulianDay() - kJulianDayZero);
   const double fraction = time.msecsSinceStartOfDay() / kMillisecondsPerDay;
   return days < 0 ? days - fraction : days + fraction;
+}
+
+qint64 MillisecondsBetween(const CalendarDate& from, const CalendarDate& to) {
+  return (DayOf(from).daysTo(DayOf(to)) * kDay) + TimeOfDay(from).msecsTo(TimeOfDay(to));
 }
 
 CalendarDate ToContactDate(double automationDate) {

@@ -25,6 +25,9 @@ CalendarDate MakeCalendarDate(QDate date, QTime time);
 QDate DayOf(const CalendarDate& date);
 QTime TimeOfDay(const CalendarDate& date);
 
+// From one to the other; negative when the other is before. Both have a day and a time.
+qint64 MillisecondsBetween(const CalendarDate& from, const CalendarDate& to);
+
 // A contact's date: outside the years 1900 to 2999 there is none, which covers the empty date.
 CalendarDate ToContactDate(double automationDate);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/TextFitting.h"
 #include "store/CategoryText.h"
 
 namespace quill {
@@ -13,12 +14,9 @@ bool IsChecked(const CategoryItems& items, const QString& name) {
       items, [&name](const CheckListItem& item) { return item.Checked && item.Text == name; });
 }
 
-// Never ends with half a character.
 QString ShortName(const QString& name) {
   if (name.size() <= kCategoryInTextLimit) return name;
-  QString shortened = name.first(kCategoryInTextLimit);
-  if (shortened.back().isHighSurrogate()) shortened.chop(1);
-  return shortened + QStringLiteral("...");
+  return CutText(name, kCategoryInTextLimit) + QStringLiteral("...");
 }
 
 }  // namespace

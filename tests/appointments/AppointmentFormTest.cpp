@@ -168,14 +168,6 @@ TEST(PutForm, WritesWhatIsShownAndResetsWhatIsNot) {
                                    .CarriedLines = QStringLiteral("X:1\n")}));
 }
 
-TEST(PutForm, ReadsSoManyUnitsOfTheSubject) {
-  AppointmentForm form = Tea();
-  form.Subject = QString(300, u'가');
-  AppointmentItem item;
-  PutForm(form, item);
-  EXPECT_EQ(item.Subject, QString(260, u'가'));
-}
-
 struct DurationCase {
   Moment Start;
   Moment End;
@@ -211,6 +203,26 @@ TEST(PutForm, AMinuteIsNeverLostByRounding) {
     PutForm(form, item);
     ASSERT_EQ(item.Duration, minutes);
   }
+}
+
+TEST(PutForm, TheDurationOfLongAgoIsReckonedAsThatOfToday) {
+  AppointmentForm form = Tea();
+  form.Start = {QDate(1604, 5, 5), QTime(9, 0)};
+  form.End = {QDate(1604, 5, 5), QTime(9, 30)};
+  AppointmentItem item;
+  PutForm(form, item);
+  EXPECT_EQ(item.Duration, 30);
+}
+
+TEST(FormOf, WhatIsNoDateInTheStoreIsNoneInTheForm) {
+  AppointmentItem item;
+  item.Start = {.Year = 2004, .Month = 13, .Day = 40, .Hour = 30};
+  item.Recurrence = RecurrencePattern{};
+  EXPECT_FALSE(FormOf(item).Start.Date.isValid());
+  EXPECT_FALSE(FormOf(item).End.Date.isValid());
+  item.Recurrence.reset();
+  EXPECT_FALSE(FormOf(item).Start.Date.isValid());
+  EXPECT_FALSE(FormOf(item).Start.Time.isValid());
 }
 
 TEST(PutForm, WhatIsNoMomentHasNoDuration) {

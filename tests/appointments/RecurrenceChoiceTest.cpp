@@ -176,7 +176,7 @@ TEST(RecurrenceChoice, TheWizardBeginsWeeklyOnTheStartWithTenTimesShouldItEnd) {
 
 TEST(RecurrenceChoice, ThreeAreShownWithTheWeekdayOfTheStart) {
   for (int i = 0; i <= static_cast<int>(RecurrenceChoice::EditPattern); ++i)
-    EXPECT_EQ(IsOnStartDay(static_cast<RecurrenceChoice>(i)), i == 1 || i == 4 || i == 6) << i;
+    EXPECT_EQ(ShowsStartWeekday(static_cast<RecurrenceChoice>(i)), i == 1 || i == 4 || i == 6) << i;
 }
 
 }  // namespace

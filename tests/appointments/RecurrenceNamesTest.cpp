@@ -57,7 +57,9 @@ TEST(RecurrenceNames, MonthsAreAbbreviatedWithAPeriodAlsoMay) {
   EXPECT_EQ(names, expected);
 }
 
-TEST(RecurrenceNames, MondayToFridayHasAName) { EXPECT_EQ(kWeekdays, u"Weekdays(Mon-Fri)"); }
+TEST(RecurrenceNames, MondayToFridayHasAName) {
+  EXPECT_EQ(kMondayToFridayText, u"Weekdays(Mon-Fri)");
+}
 
 TEST(RecurrenceNames, AnInvalidDayHasNone) {
   const DayNames names = NamesOf({});

@@ -132,6 +132,41 @@ TEST_F(AppointmentDlgTest, AnEndBeforeTheStartStaysUntilSavingFails) {
   EXPECT_EQ(Count(AllAppointments()), 0);
 }
 
+TEST_F(AppointmentDlgTest, ReturnInTheStartsRowIsNoChangeOfIt) {
+  m_prompt.Expect(PromptAnswer::OK);
+  Add({[&] {
+         Get<CTimePicker>(AppointmentIds::kEndTime).setTime({8, 0});
+       },
+       [&] { Rows().ActivateRow(static_cast<int>(AppointmentRow::Start)); },
+       [&] { m_input.Key(Qt::Key_Return); },
+       [&] { EXPECT_EQ(m_prompt.Shown().at(0).Text, kCannotSave); }, Cancel()});
+}
+
+TEST_F(AppointmentDlgTest, DaysBeyondTheCalendarStayUnlessTheyAreChanged) {
+  AppointmentItem item = Tea();
+  item.Start = MakeCalendarDate({1604, 5, 5}, {9, 0});
+  item.End = MakeCalendarDate({1604, 5, 5}, {10, 30});
+  const AppointmentItem saved = Saved(
+      item,
+      {[&] { EXPECT_EQ(RowText(AppointmentRow::Start), QStringLiteral("1604.05.05 09:00 AM")); }});
+  EXPECT_EQ(saved.Start, item.Start);
+  EXPECT_EQ(saved.End, item.End);
+  EXPECT_EQ(saved.Duration, 90);
+}
+
+TEST_F(AppointmentDlgTest, ADamagedDateIsShownEmptyAndCannotBeSaved) {
+  m_prompt.Expect(PromptAnswer::OK);
+  const Oid oid = Add({.Subject = QStringLiteral("(Kim)")});
+  Edit(oid, {[&] { EXPECT_EQ(RowText(AppointmentRow::Start), QStringLiteral(" 12:00 AM")); }, OK(),
+             [&] { EXPECT_EQ(m_prompt.Shown().at(0).Text, kCannotSave); }, Cancel()});
+}
+
+TEST_F(AppointmentDlgTest, ALongSubjectIsCutWithoutHalfACharacter) {
+  AppointmentItem item = Tea();
+  item.Subject = QString(259, u'x') + QStringLiteral("\U0001F600");
+  EXPECT_EQ(Saved(item, {}).Subject, QString(259, u'x'));
+}
+
 TEST_F(AppointmentDlgTest, AllDayKeepsTheTimes) {
   const AppointmentItem saved =
       Saved(Tea(), {[&] {
@@ -302,6 +337,30 @@ TEST_F(AppointmentDlgTest, TheKeysReachEveryRowAndItsControls) {
          EXPECT_EQ(QApplication::focusWidget(), Dialog().Control(AppointmentIds::kEndTime));
          for (int section = 0; section < 3; ++section) m_input.Key(Qt::Key_Tab);
          EXPECT_EQ(QApplication::focusWidget(), Dialog().Control(kResultOK));
+       },
+       Cancel()});
+}
+
+TEST_F(AppointmentDlgTest, ATapBelowTheRowsHidesTheControls) {
+  Add({[&] { Rows().ActivateRow(static_cast<int>(AppointmentRow::AllDay)); },
+       [&] {
+         EXPECT_TRUE(Dialog().Control(AppointmentIds::kAllDay)->isVisible());
+         m_input.Tap(Dialog().mapTo(m_screen, QPoint(20, 240)));
+         EXPECT_FALSE(Dialog().Control(AppointmentIds::kAllDay)->isVisible());
+         EXPECT_EQ(RowText(AppointmentRow::AllDay), QStringLiteral("No"));
+       },
+       Cancel()});
+}
+
+TEST_F(AppointmentDlgTest, AnotherRowAndAnAlarmThatIsTurnedOffEndTheSound) {
+  Add({Chooses(AppointmentIds::kAlarm, 0), Chooses(AppointmentIds::kSound, 1),
+       [&] { Rows().ActivateRow(static_cast<int>(AppointmentRow::Alarm)); },
+       [&] {
+         EXPECT_EQ(m_sounds.Asked.last(), QStringLiteral("stop"));
+         Get<QAbstractButton>(AppointmentIds::kPlay).click();
+         Choose(AppointmentIds::kAlarm, 1);
+         EXPECT_EQ(m_sounds.Asked.size(), 4);
+         EXPECT_EQ(m_sounds.Asked.last(), QStringLiteral("stop"));
        },
        Cancel()});
 }

@@ -1,5 +1,7 @@
 #include "appointments/ui/AppointmentRowList.h"
 
+#include <QKeyEvent>
+
 #include "platform_ui/SampleWindows.h"
 #include "platform_ui/ScreenFixture.h"
 
@@ -13,7 +15,7 @@ class AppointmentRowListTest : public test::ScreenFixture {
     m_list.ShowForm({.Subject = QStringLiteral("(Kim)"),
                      .Start = {QDate(2004, 2, 3), QTime(9, 0)},
                      .End = {QDate(2004, 2, 3), QTime(9, 0)}});
-    m_list.Chosen = [this](AppointmentRow row) { m_chosen.push_back(row); };
+    m_list.Chosen = [this](auto row) { m_chosen.push_back(row); };
     m_frame.show();
     m_list.show();
   }
@@ -25,10 +27,10 @@ class AppointmentRowListTest : public test::ScreenFixture {
 
   test::SampleFrame m_frame{*m_screen};
   CAppointmentRowList m_list{QStringLiteral("Appointment"), &m_frame};
-  std::vector<AppointmentRow> m_chosen;
+  std::vector<std::optional<AppointmentRow>> m_chosen;
 };
 
-using Rows = std::vector<AppointmentRow>;
+using Rows = std::vector<std::optional<AppointmentRow>>;
 
 TEST_F(AppointmentRowListTest, ATapChoosesItsRow) {
   m_input.Tap(OnRow(AppointmentRow::Alarm));
@@ -36,10 +38,11 @@ TEST_F(AppointmentRowListTest, ATapChoosesItsRow) {
   EXPECT_EQ(m_chosen, Rows({AppointmentRow::Alarm, AppointmentRow::Alarm}));
 }
 
-TEST_F(AppointmentRowListTest, TapsAboveTheRowsAndBelowThemAreIgnored) {
+TEST_F(AppointmentRowListTest, TapsAboveTheRowsAreIgnoredAndThoseBelowChooseNone) {
   m_input.Tap(At(64));
-  m_input.Tap(At(226));
   EXPECT_TRUE(m_chosen.empty());
+  m_input.Tap(At(226));
+  EXPECT_EQ(m_chosen, Rows({std::nullopt}));
 }
 
 TEST_F(AppointmentRowListTest, APenThatLeavesTheRowChoosesNothing) {
@@ -83,6 +86,13 @@ TEST_F(AppointmentRowListTest, ReturnEnterAndTheSpaceBarChooseTheCurrentRow) {
   m_input.Key(Qt::Key_Down);
   for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) m_input.Key(key);
   EXPECT_EQ(m_chosen, Rows(3, AppointmentRow::Start));
+}
+
+TEST_F(AppointmentRowListTest, AHeldKeyChoosesOnce) {
+  m_list.setFocus();
+  QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+  QCoreApplication::sendEvent(&m_list, &repeated);
+  EXPECT_TRUE(m_chosen.empty());
 }
 
 TEST_F(AppointmentRowListTest, AssistiveTechnologyChoosesRowsButNotTheHeading) {

@@ -74,6 +74,19 @@ TEST_F(SoundPreviewTest, ClosingTheListStops) {
   EXPECT_EQ(m_sounds.Asked, QStringList({kPlayAlarm, kStop}));
 }
 
+// The list stops what plays before its choice is played.
+TEST_F(SoundPreviewTest, AChoiceFromTheOpenListIsHeardThoughTheListClosed) {
+  QObject::connect(&m_list, &QComboBox::activated, m_preview.get(),
+                   [this] { m_preview->Replay(); });
+  m_list.setCurrentIndex(1);
+  m_button.click();
+  const test::Steps steps(*m_screen,
+                          {[&] { m_screen->Popup()->Choose(m_screen->Popup()->Items()[2].Id); }});
+  m_list.showPopup();
+  EXPECT_EQ(m_sounds.Asked, QStringList({kPlayAlarm, kStop, kPlayBell}));
+  EXPECT_EQ(m_button.text(), QStringLiteral("[]"));
+}
+
 TEST_F(SoundPreviewTest, NothingPlaysAfterItsEnd) {
   m_list.setCurrentIndex(1);
   m_button.click();

@@ -205,12 +205,14 @@ TEST_F(AppointmentScript, OneThatCannotBeSavedStaysOpenUntilItCan) {
   EXPECT_EQ(Stored().size(), 1);
 }
 
-TEST_F(AppointmentScript, OneThatIsGoneMeanwhileIsNotOpened) {
+TEST_F(AppointmentScript, OneThatIsGoneMeanwhileIsAnEmptyPreview) {
   const int oid = PutTea();
   Popup();
   m_driver.Do(R"({"op":"drop-appointment","quiet":true,"oid":)" + QByteArray::number(oid) + '}');
   Run("choose", 33001);
-  if (TopWindow() != QStringLiteral("MainFrame")) Cancel();
+  EXPECT_EQ(TopWindow(), QStringLiteral("AppointmentPreviewDlg"));
+  EXPECT_FALSE(Shows(QStringLiteral("(Kim) tea")));
+  Cancel();
   EXPECT_EQ(TopWindow(), QStringLiteral("MainFrame"));
   EXPECT_TRUE(Stored().isEmpty());
 }

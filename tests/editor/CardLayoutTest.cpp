@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "editor/PaintedItems.h"
+#include "support/PaintedItems.h"
 
 namespace quill {
 namespace {

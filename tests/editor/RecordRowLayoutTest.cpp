@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "editor/PaintedItems.h"
 #include "resources/SheetPictures.h"
+#include "support/PaintedItems.h"
 
 namespace quill {
 namespace {

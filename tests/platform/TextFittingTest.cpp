@@ -94,6 +94,15 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(WrapLines, AnEmptyTextHasNoLine) { EXPECT_TRUE(WrapLines({}, 50, TenEach).isEmpty()); }
 
+TEST(CutText, KeepsCharactersWholeAndShorterTextsAsTheyAre) {
+  const QString text = QStringLiteral("ab\U0001F600c");
+  EXPECT_EQ(CutText(text, 5), text);
+  EXPECT_EQ(CutText(text, 4), QStringLiteral("ab\U0001F600"));
+  EXPECT_EQ(CutText(text, 3), QStringLiteral("ab"));
+  EXPECT_EQ(CutText(text, 2), QStringLiteral("ab"));
+  EXPECT_EQ(CutText({}, 3), QString());
+}
+
 class ElideTextTest : public testing::TestWithParam<ShorteningCase> {};
 
 TEST_P(ElideTextTest, FitsWithItsDots) {

@@ -73,6 +73,13 @@ TEST_F(DatePickerTest, ShowsTheDayBetweenItsCheckAndItsButton) {
   EXPECT_TRUE(Part<QCheckBox>(m_picker).isChecked());
 }
 
+TEST_F(DatePickerTest, ReturnIsNoChange) {
+  m_picker.setFocus();
+  m_input.Key(Qt::Key_Return);
+  EXPECT_EQ(m_changes, 0);
+  EXPECT_EQ(m_picker.Date(), QDate(1990, 5, 12));
+}
+
 TEST_F(DatePickerTest, WithoutADayItShowsTheOneToBeginWith) {
   m_picker.SetDate(std::nullopt, {2004, 9, 15});
   EXPECT_EQ(m_picker.Date(), std::nullopt);

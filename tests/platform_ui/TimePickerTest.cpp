@@ -15,9 +15,9 @@ class TimePickerTest : public test::ScreenFixture {
  protected:
   TimePickerTest() {
     m_picker.setGeometry(80, 40, 78, 17);
-    m_picker.setTime({9, 30, 12});
+    m_picker.SetTime({9, 30, 12});
     m_picker.show();
-    QObject::connect(&m_picker, &QTimeEdit::timeChanged, &m_frame, [this] { ++m_changes; });
+    m_picker.Changed = [this] { ++m_changes; };
   }
 
   QToolButton& Button() { return *m_picker.findChild<QToolButton*>(); }
@@ -39,8 +39,21 @@ TEST_F(TimePickerTest, ShowsTwelveHoursLeftOfItsButton) {
   EXPECT_EQ(Button().geometry(), QRect(61, 0, 17, 17));
 }
 
-TEST_F(TimePickerTest, KeepsTheSecondsOfATimeThatWasSet) {
+TEST_F(TimePickerTest, ReturnChangesNothingNotEvenTheSeconds) {
+  m_picker.setFocus();
+  m_input.Key(Qt::Key_Return);
   EXPECT_EQ(m_picker.time(), QTime(9, 30, 12));
+  EXPECT_EQ(m_changes, 0);
+}
+
+TEST_F(TimePickerTest, OnlyTheUsersChangesAreTold) {
+  m_picker.SetTime({10, 0});
+  EXPECT_EQ(m_changes, 0);
+  m_picker.setFocus();
+  m_picker.setSelectedSection(QDateTimeEdit::MinuteSection);
+  m_input.Key(Qt::Key_Up);
+  EXPECT_EQ(m_picker.time(), QTime(10, 1));
+  EXPECT_EQ(m_changes, 1);
 }
 
 TEST_F(TimePickerTest, IsTypedSectionBySection) {

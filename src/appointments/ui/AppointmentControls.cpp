@@ -3,12 +3,11 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSignalBlocker>
 
+#include "platform/TextFitting.h"
 #include "platform/ui/DatePicker.h"
 #include "platform/ui/Dialog.h"
 #include "platform/ui/DropDown.h"
-#include "platform/ui/InputCommit.h"
 #include "platform/ui/NumberEdit.h"
 #include "platform/ui/TimePicker.h"
 #include "resources/AppointmentIds.h"
@@ -17,8 +16,10 @@ namespace quill {
 
 AppointmentControls::AppointmentControls(CDialog& dialog)
     : m_dialog(dialog),
+      m_start{.DateId = AppointmentIds::kStartDate, .TimeId = AppointmentIds::kStartTime},
+      m_end{.DateId = AppointmentIds::kEndDate, .TimeId = AppointmentIds::kEndTime},
       m_sound(List(AppointmentIds::kSound), Get<QPushButton>(AppointmentIds::kPlay)) {
-  NameControls();
+  FillLists();
   FollowTexts();
   FollowMoments();
   FollowLists();
@@ -35,37 +36,27 @@ void AppointmentControls::TellChanged() const {
   if (Changed) Changed();
 }
 
-void AppointmentControls::NameControls() {
-  Get<QLineEdit>(AppointmentIds::kSubject).setAccessibleName(QStringLiteral("Subject"));
-  List(AppointmentIds::kRecurrence).setAccessibleName(QStringLiteral("Recur"));
-  List(AppointmentIds::kAlarm).setAccessibleName(QStringLiteral("Alarm"));
-  List(AppointmentIds::kAlarmUnit).setAccessibleName(QStringLiteral("Unit"));
-  List(AppointmentIds::kSound).setAccessibleName(QStringLiteral("Sound"));
-}
-
 void AppointmentControls::FollowTexts() {
   const auto tell = [this] { TellChanged(); };
   auto& subject = Get<QLineEdit>(AppointmentIds::kSubject);
+  subject.setAccessibleName(QStringLiteral("Subject"));
   subject.setMaxLength(kMostSubject);
-  QObject::connect(&subject, &QLineEdit::textChanged, &m_dialog, tell);
-  QObject::connect(&Get<CNumberEdit>(AppointmentIds::kAlarmAmount), &QLineEdit::textChanged,
-                   &m_dialog, tell);
-  QObject::connect(&Get<QCheckBox>(AppointmentIds::kAllDay), &QCheckBox::toggled, &m_dialog, tell);
+  connect(&subject, &QLineEdit::textChanged, this, tell);
+  connect(&Get<CNumberEdit>(AppointmentIds::kAlarmAmount), &QLineEdit::textChanged, this, tell);
+  connect(&Get<QCheckBox>(AppointmentIds::kAllDay), &QCheckBox::toggled, this, tell);
 }
 
 // An end that is set before the start stays so.
 void AppointmentControls::FollowMoments() {
   Get<CDatePicker>(AppointmentIds::kStartDate).Changed = [this] { StartChanged(); };
   Get<CDatePicker>(AppointmentIds::kEndDate).Changed = [this] { TellChanged(); };
-  QObject::connect(&Get<CTimePicker>(AppointmentIds::kStartTime), &QTimeEdit::timeChanged,
-                   &m_dialog, [this] { StartChanged(); });
-  QObject::connect(&Get<CTimePicker>(AppointmentIds::kEndTime), &QTimeEdit::timeChanged, &m_dialog,
-                   [this] { TellChanged(); });
+  Get<CTimePicker>(AppointmentIds::kStartTime).Changed = [this] { StartChanged(); };
+  Get<CTimePicker>(AppointmentIds::kEndTime).Changed = [this] { TellChanged(); };
 }
 
 void AppointmentControls::FollowLists() {
   const auto follow = [this](int id, const std::function<void(int)>& chosen) {
-    QObject::connect(&List(id), &QComboBox::activated, &m_dialog, [this, chosen](int index) {
+    connect(&List(id), &QComboBox::activated, this, [this, chosen](int index) {
       chosen(index);
       TellChanged();
     });
@@ -76,8 +67,8 @@ void AppointmentControls::FollowLists() {
   follow(AppointmentIds::kSound, [this](int) { SoundChosen(); });
 }
 
-void AppointmentControls::FillLists(QDate start) {
-  List(AppointmentIds::kRecurrence).addItems(RecurrenceChoiceTexts(start));
+void AppointmentControls::FillLists() {
+  List(AppointmentIds::kRecurrence).addItems(RecurrenceChoiceTexts({}));  // until a form is shown
   List(AppointmentIds::kAlarm).addItems({QStringLiteral("Yes"), QStringLiteral("No")});
   for (const QStringView unit : kAlarmUnitNames)
     List(AppointmentIds::kAlarmUnit).addItem(unit.toString());
@@ -85,9 +76,9 @@ void AppointmentControls::FillLists(QDate start) {
 }
 
 void AppointmentControls::ShowForm(const AppointmentForm& form) {
-  Get<QLineEdit>(AppointmentIds::kSubject).setText(form.Subject);
-  SetMoment(AppointmentIds::kStartDate, AppointmentIds::kStartTime, form.Start);
-  SetMoment(AppointmentIds::kEndDate, AppointmentIds::kEndTime, form.End);
+  Get<QLineEdit>(AppointmentIds::kSubject).setText(CutText(form.Subject, kMostSubject));
+  SetMoment(m_start, form.Start);
+  SetMoment(m_end, form.End);
   Get<QCheckBox>(AppointmentIds::kAllDay).setChecked(form.AllDay);
   SetRecurrence(form.Recurrence);
   List(AppointmentIds::kAlarm).setCurrentIndex(static_cast<int>(form.Alarm));
@@ -102,8 +93,8 @@ void AppointmentControls::ShowForm(const AppointmentForm& form) {
 AppointmentForm AppointmentControls::Form() const {
   return {
       .Subject = Get<QLineEdit>(AppointmentIds::kSubject).text(),
-      .Start = MomentOf(AppointmentIds::kStartDate, AppointmentIds::kStartTime),
-      .End = MomentOf(AppointmentIds::kEndDate, AppointmentIds::kEndTime),
+      .Start = MomentOf(m_start),
+      .End = MomentOf(m_end),
       .AllDay = Get<QCheckBox>(AppointmentIds::kAllDay).isChecked(),
       .Recurrence = static_cast<RecurrenceChoice>(List(AppointmentIds::kRecurrence).currentIndex()),
       .Alarm = static_cast<Alarm>(List(AppointmentIds::kAlarm).currentIndex()),
@@ -117,11 +108,13 @@ void AppointmentControls::SetRecurrence(RecurrenceChoice choice) {
   List(AppointmentIds::kRecurrence).setCurrentIndex(static_cast<int>(choice));
 }
 
-void AppointmentControls::Reveal(AppointmentRow row) {
+void AppointmentControls::Reveal(std::optional<AppointmentRow> row) {
+  m_sound.Stop();
   for (int i = 0; i < kAppointmentRowCount; ++i)
     for (const int id : ControlsOf(static_cast<AppointmentRow>(i))) m_dialog.Control(id)->hide();
+  if (!row) return;
   QWidget* first = nullptr;
-  for (const int id : ControlsOf(row)) {
+  for (const int id : ControlsOf(*row)) {
     QWidget* const control = m_dialog.Control(id);
     control->show();
     if (!first && control->isEnabled()) first = control;
@@ -129,21 +122,26 @@ void AppointmentControls::Reveal(AppointmentRow row) {
   if (first) first->setFocus(Qt::OtherFocusReason);
 }
 
-Moment AppointmentControls::MomentOf(int dateId, int timeId) const {
-  return {Get<CDatePicker>(dateId).ShownDate(), Get<CTimePicker>(timeId).time()};
+Moment AppointmentControls::Shown(const MomentPickers& pickers) const {
+  return {Get<CDatePicker>(pickers.DateId).ShownDate(), Get<CTimePicker>(pickers.TimeId).time()};
 }
 
-void AppointmentControls::SetMoment(int dateId, int timeId, const Moment& moment) {
-  auto& time = Get<CTimePicker>(timeId);
-  const QSignalBlocker blocker(&time);
-  Get<CDatePicker>(dateId).SetDate(moment.Date, {});
-  time.setTime(moment.Time);
+Moment AppointmentControls::MomentOf(const MomentPickers& pickers) const {
+  const Moment shown = Shown(pickers);
+  return shown == pickers.Shown ? pickers.Given : shown;
+}
+
+void AppointmentControls::SetMoment(MomentPickers& pickers, const Moment& moment) {
+  Get<CDatePicker>(pickers.DateId).SetDate(moment.Date, {});
+  Get<CTimePicker>(pickers.TimeId).SetTime(moment.Time);
+  pickers.Given = moment;
+  pickers.Shown = Shown(pickers);
 }
 
 void AppointmentControls::StartChanged() {
   AppointmentForm form = Form();
   FollowStart(form);
-  SetMoment(AppointmentIds::kEndDate, AppointmentIds::kEndTime, form.End);
+  SetMoment(m_end, form.End);  // the same one keeps what it was given
   RefillRecurrence();
   TellChanged();
 }
@@ -163,6 +161,7 @@ bool AppointmentControls::HasAlarm() const { return Form().Alarm == Alarm::Yes; 
 
 void AppointmentControls::EnableAlarm() {
   const bool alarm = HasAlarm();
+  if (!alarm) m_sound.Stop();
   for (const int id :
        {AppointmentIds::kAlarmAmount, AppointmentIds::kAlarmUnit, AppointmentIds::kSound})
     m_dialog.Control(id)->setEnabled(alarm);

@@ -1,5 +1,9 @@
 #include "appointments/ui/AppointmentDlg.h"
 
+#include <QPushButton>
+
+#include <utility>
+
 #include "appointments/ui/AppointmentRowList.h"
 #include "appointments/ui/RecurrenceSheet.h"
 #include "memo/MemoState.h"
@@ -11,7 +15,6 @@
 #include "platform/ui/WaitCursor.h"
 #include "resources/AppointmentDialogs.h"
 #include "store/AppointmentStore.h"
-#include "store/AutomationDate.h"
 
 namespace quill {
 
@@ -35,7 +38,9 @@ CAppointmentDlg::CAppointmentDlg(CScreen& screen, DialogMode mode)
       m_controls(*this) {
   m_rows->lower();
   m_rows->setGeometry(rect());
-  m_rows->Chosen = [this](AppointmentRow row) { Choose(row); };
+  m_rows->Chosen = [this](std::optional<AppointmentRow> row) { Choose(row); };
+  connect(qobject_cast<QPushButton*>(Control(AppointmentIds::kMemo)), &QPushButton::clicked, this,
+          &CAppointmentDlg::EditMemo);
   m_controls.Changed = [this] { m_rows->ShowForm(m_controls.Form()); };
   m_controls.PatternAsked = [this] { EditPattern(); };
 }
@@ -51,14 +56,14 @@ CAppointmentDlg::CAppointmentDlg(CScreen& screen, Oid oid)
 }
 
 void CAppointmentDlg::OnInitDialog() {
-  AppointmentForm form = NewAppointmentForm(m_subject, g_services.Clock->Now());
-  m_controls.FillLists(form.Start.Date);
-  m_controls.ShowForm(form);
+  m_controls.ShowForm(NewAppointmentForm(m_subject, g_services.Clock->Now()));
   TakeAppointment();
   if (!m_item) return;
-  m_pattern = m_item->Recurrence.value_or(DefaultPattern(*m_item));
   if (m_mode == DialogMode::ExistingAppointment) m_controls.ShowForm(FormOf(*m_item));
-  m_storedChoice = m_controls.Form().Recurrence;
+  m_seen = m_controls.Form();
+  m_storedChoice = m_seen.Recurrence;
+  m_isDefaultPattern = !m_item->Recurrence;
+  m_pattern = m_isDefaultPattern ? DefaultPattern(*m_item) : *m_item->Recurrence;
 }
 
 // A new one is filled from the controls at once. An existing one that cannot be read is none.
@@ -74,7 +79,7 @@ void CAppointmentDlg::TakeAppointment() {
 void CAppointmentDlg::FocusFirstControl() { m_rows->setFocus(Qt::ActiveWindowFocusReason); }
 
 // The focus goes first: what is hidden would hand it on as the Tab key does.
-void CAppointmentDlg::Choose(AppointmentRow row) {
+void CAppointmentDlg::Choose(std::optional<AppointmentRow> row) {
   CommitInput();
   m_rows->setFocus(Qt::OtherFocusReason);
   m_controls.Reveal(row);
@@ -82,12 +87,25 @@ void CAppointmentDlg::Choose(AppointmentRow row) {
   if (row == AppointmentRow::Memo) EditMemo();
 }
 
-void CAppointmentDlg::EditPattern() {
-  CRecurrenceSheet sheet(Screen(), m_pattern, m_controls.Form().Start.Date);
-  if (sheet.DoModal() == kResultOK)
-    m_pattern = sheet.Pattern();
+// A start or an end that was changed since becomes the pattern's: the wizard edits neither. Where
+// they were not, the pattern keeps its own.
+void CAppointmentDlg::FollowMoments() {
+  const AppointmentForm form = m_controls.Form();
+  if (!m_item || (form.Start == m_seen.Start && form.End == m_seen.End)) return;
+  m_seen = form;
+  PutForm(form, *m_item);
+  if (m_isDefaultPattern)
+    m_pattern = DefaultPattern(*m_item);
   else
-    m_controls.SetRecurrence(m_storedChoice);
+    PutMoments(m_pattern, *m_item);
+}
+
+void CAppointmentDlg::EditPattern() {
+  FollowMoments();
+  CRecurrenceSheet sheet(Screen(), m_pattern, m_controls.Form().Start.Date);
+  if (sheet.DoModal() != kResultOK) return m_controls.SetRecurrence(m_storedChoice);
+  m_pattern = sheet.Pattern();
+  m_isDefaultPattern = false;
 }
 
 void CAppointmentDlg::EditMemo() {
@@ -108,13 +126,16 @@ void CAppointmentDlg::OnOK() {
        PromptIcon::Warning);
 }
 
+// What is not saved leaves the appointment in hand as it was.
 bool CAppointmentDlg::Save() {
   if (!m_item) return false;
+  FollowMoments();
   const AppointmentForm form = m_controls.Form();
-  PutForm(form, *m_item);
-  PutRecurrence(*m_item, form.Recurrence, m_pattern);
+  AppointmentItem item = *m_item;
+  PutForm(form, item);
+  PutRecurrence(item, form.Recurrence, m_pattern);
   const WaitCursor wait;
-  return SaveAppointment(*m_item);
+  return SaveAppointment(item);
 }
 
 }  // namespace quill

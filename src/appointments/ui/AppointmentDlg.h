@@ -34,7 +34,8 @@ class CAppointmentDlg : public CDialog {
   CAppointmentDlg(CScreen& screen, DialogMode mode);
 
   void TakeAppointment();
-  void Choose(AppointmentRow row);
+  void Choose(std::optional<AppointmentRow> row);
+  void FollowMoments();
   void EditPattern();
   void EditMemo();
   bool Save();
@@ -44,6 +45,8 @@ class CAppointmentDlg : public CDialog {
   Oid m_oid = 0;      // of an existing one
   std::optional<AppointmentItem> m_item;
   RecurrencePattern m_pattern = {};  // what the wizard edits
+  bool m_isDefaultPattern = false;   // until the wizard edited it
+  AppointmentForm m_seen = {};       // whose start and end the pattern has
   RecurrenceChoice m_storedChoice = RecurrenceChoice::Once;
   CAppointmentRowList* m_rows;  // a child
   AppointmentControls m_controls;

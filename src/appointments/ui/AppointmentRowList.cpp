@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/ui/RowPainter.h"
 
@@ -20,7 +21,7 @@ void CAppointmentRowList::ShowForm(const AppointmentForm& form) {
   LayOut();
 }
 
-void CAppointmentRowList::SetRevealed(AppointmentRow row) {
+void CAppointmentRowList::SetRevealed(std::optional<AppointmentRow> row) {
   m_revealed = row;
   LayOut();
 }
@@ -44,11 +45,16 @@ void CAppointmentRowList::Choose(AppointmentRow row) {
   Chosen(row);
 }
 
-void CAppointmentRowList::PenPress(QPoint at) { m_pressed = AppointmentRowAt(at); }
+void CAppointmentRowList::PenPress(QPoint at) {
+  if (at.y() >= AppointmentRowArea(AppointmentRow::Subject).top()) m_pressedAt = at;
+}
 
 void CAppointmentRowList::PenRelease(QPoint at) {
-  const auto pressed = std::exchange(m_pressed, std::nullopt);
-  if (pressed && rect().contains(at) && AppointmentRowAt(at) == pressed) Choose(*pressed);
+  const auto pressedAt = std::exchange(m_pressedAt, std::nullopt);
+  if (!pressedAt || !rect().contains(at)) return;
+  const auto row = AppointmentRowAt(at);
+  if (AppointmentRowAt(*pressedAt) != row) return;
+  row ? Choose(*row) : Chosen(std::nullopt);
 }
 
 void CAppointmentRowList::MoveCurrent(int step) {
@@ -70,7 +76,8 @@ void CAppointmentRowList::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
-      return Choose(m_current);
+      if (!event->isAutoRepeat()) Choose(m_current);
+      return;
     default:
       CPaintedWindow::keyPressEvent(event);
   }

@@ -1,6 +1,6 @@
 // The painted rows of the appointment dialog. A tap on a row, or Return and the space bar on the
-// current one, chooses it; the arrow keys move the current row, which shows while the list has the
-// focus.
+// current one, chooses it; a tap below them chooses none, one on the heading nothing at all; the
+// arrow keys move the current row, which shows while the list has the focus.
 #pragma once
 
 #include <functional>
@@ -17,10 +17,10 @@ class CAppointmentRowList : public CPaintedWindow {
 
   void ShowForm(const AppointmentForm& form);
   // The row whose controls are shown over it.
-  void SetRevealed(AppointmentRow row);
+  void SetRevealed(std::optional<AppointmentRow> row);
   void ActivateRow(int row) override;
 
-  std::function<void(AppointmentRow row)> Chosen;
+  std::function<void(std::optional<AppointmentRow> row)> Chosen;
 
  protected:
   void PenPress(QPoint at) override;
@@ -38,7 +38,7 @@ class CAppointmentRowList : public CPaintedWindow {
   AppointmentForm m_form;
   AppointmentRow m_current = AppointmentRow::Subject;
   std::optional<AppointmentRow> m_revealed;
-  std::optional<AppointmentRow> m_pressed;
+  std::optional<QPoint> m_pressedAt;
 };
 
 }  // namespace quill

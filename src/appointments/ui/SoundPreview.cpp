@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "appointments/AppointmentRows.h"
 #include "appointments/SoundNames.h"
 #include "platform/Services.h"
 #include "platform/SoundPlayer.h"

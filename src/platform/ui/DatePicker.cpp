@@ -7,6 +7,8 @@
 #include <QSignalBlocker>
 #include <QToolButton>
 
+#include <utility>
+
 #include "platform/CalendarLayout.h"
 #include "platform/Clock.h"
 #include "platform/Services.h"
@@ -61,6 +63,7 @@ void CDatePicker::SetDate(std::optional<QDate> date, QDate shownWhenNone) {
   m_edit->setDate(KeepInCalendar(date.value_or(shownWhenNone)));
   m_check->setChecked(date || m_none == NoneCheck::Absent);
   FollowCheck();
+  m_told = Date();
 }
 
 std::optional<QDate> CDatePicker::Date() const {
@@ -72,7 +75,8 @@ QDate CDatePicker::ShownDate() const { return m_edit->date(); }
 void CDatePicker::ChooseDate(QDate date) {
   const auto before = Date();
   SetDate(KeepInCalendar(date), {});
-  if (Date() != before) TellChanged();
+  m_told = before;
+  TellChanged();
 }
 
 void CDatePicker::SetChecked(bool checked) {
@@ -93,8 +97,9 @@ void CDatePicker::FollowCheck() {
   setFocusProxy(m_check->isChecked() ? static_cast<QWidget*>(m_edit) : m_check);
 }
 
+// The Return key is told of as a change, even if it changes nothing.
 void CDatePicker::TellChanged() {
-  if (Changed) Changed();
+  if (std::exchange(m_told, Date()) != Date() && Changed) Changed();
 }
 
 bool CDatePicker::Holds(const QWidget* widget) const { return widget && isAncestorOf(widget); }

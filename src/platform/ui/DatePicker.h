@@ -63,6 +63,7 @@ class CDatePicker : public QWidget {
   QCheckBox* m_check;
   CDateEdit* m_edit;
   QToolButton* m_button;
+  std::optional<QDate> m_told;  // what Changed was told last
 };
 
 }  // namespace quill

@@ -3,7 +3,10 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QSignalBlocker>
 #include <QToolButton>
+
+#include <utility>
 
 #include "platform/DatePictures.h"
 #include "platform/ui/EditMenu.h"
@@ -44,6 +47,18 @@ CTimePicker::CTimePicker(QWidget* parent) : QTimeEdit(parent), m_button(new QToo
   m_button->setArrowType(Qt::DownArrow);
   m_button->setFocusPolicy(Qt::NoFocus);
   connect(m_button, &QToolButton::clicked, this, [this] { OpenList(); });
+  connect(this, &QTimeEdit::timeChanged, this, &CTimePicker::TellChanged);
+}
+
+void CTimePicker::SetTime(QTime time) {
+  const QSignalBlocker blocker(this);
+  setTime(time);
+  m_told = this->time();
+}
+
+// The Return key is told of as a change, even if it changes nothing.
+void CTimePicker::TellChanged() {
+  if (std::exchange(m_told, time()) != time() && Changed) Changed();
 }
 
 void CTimePicker::OpenList() {

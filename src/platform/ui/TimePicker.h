@@ -5,6 +5,8 @@
 
 #include <QTimeEdit>
 
+#include <functional>
+
 class QToolButton;
 
 namespace quill {
@@ -15,8 +17,13 @@ class CTimePicker : public QTimeEdit {
   // parent is a window of a screen or stands in one.
   explicit CTimePicker(QWidget* parent);
 
+  // Says nothing to Changed.
+  void SetTime(QTime time);
   // Opens the list and waits.
   void OpenList();
+
+  // Called after each change by the user.
+  std::function<void()> Changed;
 
  protected:
   void contextMenuEvent(QContextMenuEvent* event) override;
@@ -24,7 +31,10 @@ class CTimePicker : public QTimeEdit {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void TellChanged();
+
   QToolButton* m_button;
+  QTime m_told;  // what Changed was told last
 };
 
 }  // namespace quill
