@@ -9,6 +9,7 @@
 #include "platform/DesktopDeviceFiles.h"
 #include "platform/DesktopInputPanel.h"
 #include "platform/DesktopRecoveryFiles.h"
+#include "platform/DesktopSoundPlayer.h"
 #include "platform/JsonRegistry.h"
 #include "platform/Services.h"
 #include "store/pim/PimStore.h"
@@ -29,6 +30,7 @@ struct Program::Services {
   DesktopDeviceFiles Files;
   DesktopRecoveryFiles Recovery;
   DesktopInputPanel InputPanel;
+  DesktopSoundPlayer Sounds{Files};
 };
 
 Program::Program(ProgramOptions options)
@@ -42,6 +44,7 @@ Program::Program(ProgramOptions options)
   g_services.Files = &m_services->Files;
   g_services.Recovery = &m_services->Recovery;
   g_services.InputPanel = &m_services->InputPanel;
+  g_services.Sounds = &m_services->Sounds;
 }
 
 Program::~Program() {
@@ -50,6 +53,7 @@ Program::~Program() {
   g_services.Files = nullptr;
   g_services.Recovery = nullptr;
   g_services.InputPanel = nullptr;
+  g_services.Sounds = nullptr;
 }
 
 bool Program::TakeFirstStart() { return !std::exchange(m_started, true); }

@@ -1,9 +1,8 @@
 // The program: everything that lives once per process, whatever the scale of its windows.
 //
 // It installs the device's services in g_services (clock, registry, files, recovery files, input
-// panel) and owns
-// them, the store provider and the instance lock. Timers and prompt belong to the shell, which is
-// made anew for each scale; it also listens for requests when IsInstance.
+// panel, sounds) and owns them, the store provider and the instance lock. Timers and prompt belong
+// to the shell, which is made anew for each scale; it also listens for requests when IsInstance.
 #pragma once
 
 #include <memory>

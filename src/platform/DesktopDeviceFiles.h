@@ -23,12 +23,15 @@ class DesktopDeviceFiles : public DeviceFiles {
   bool Move(const QString& from, const QString& to) override;
   bool Copy(const QString& from, const QString& to) override;
 
+  // The desktop's path of a device path, whether or not a file is there; empty when it is not
+  // reachable.
+  QString FileAt(const QString& path) const;
+
  private:
   QString RootOf(const QStringList& parts) const;
   QString Locate(const QStringList& parts) const;
-  // Each is the desktop's path of a device path, and empty when that is not reachable. PlaceFor is
-  // for what may be made: its root is there then, as on a device, and its name is allowed.
-  QString FileAt(const QString& path) const;
+  // As FileAt, for what may be made: its root is there then, as on a device, and its name is
+  // allowed.
   QString PlaceFor(const QString& path) const;
   // The same for a file, whose path does not end as a folder's may.
   QString FilePlaceFor(const QString& path) const;

@@ -11,7 +11,8 @@ class SoundPlayer {
  public:
   virtual ~SoundPlayer() = default;
   // Begins to play the file of a device path, such as "\Windows\Bell.wav", in place of what plays
-  // just now, and returns at once. What cannot be played is silent; the log says why.
+  // just now, and returns at once. What cannot be played is silent and ends soon; the log says
+  // why.
   virtual void Play(const QString& path) = 0;
   // Ends what plays just now.
   virtual void Stop() = 0;

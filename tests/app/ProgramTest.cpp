@@ -29,6 +29,7 @@ TEST_F(ProgramAt, AHomeInstallsTheServicesForItsLife) {
     const Program program(Options());
     EXPECT_TRUE(g_services.Clock);
     EXPECT_TRUE(g_services.InputPanel);
+    EXPECT_TRUE(g_services.Sounds);
     ASSERT_TRUE(g_services.Files);
     EXPECT_TRUE(g_services.Files->WriteWhole(u"\\My Documents\\A.pwi"_qs, "memo"));
     ASSERT_TRUE(g_services.Recovery);
@@ -39,6 +40,7 @@ TEST_F(ProgramAt, AHomeInstallsTheServicesForItsLife) {
   }
   EXPECT_FALSE(g_services.Clock);
   EXPECT_FALSE(g_services.InputPanel);
+  EXPECT_FALSE(g_services.Sounds);
   EXPECT_FALSE(g_services.Registry);
   EXPECT_FALSE(g_services.Files);
   EXPECT_FALSE(g_services.Recovery);
