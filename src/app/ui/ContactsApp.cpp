@@ -7,6 +7,7 @@
 
 #include "app/RequestBus.h"
 #include "app/RequestChannel.h"
+#include "app/SampleSounds.h"
 #include "app/ui/AboutDialog.h"
 #include "app/ui/ContactsDoc.h"
 #include "app/ui/FileExchange.h"
@@ -90,10 +91,7 @@ void CContactsApp::InitInstance() {
   AcceptDrops();
   ShowMainWindow();  // before the session: opening it may have to show a message
   Listen();
-  if (m_program.TakeFirstStart())
-    m_frame->View().OnInitialUpdate(m_program.Store());
-  else
-    m_frame->View().ShowState();
+  m_program.TakeFirstStart() ? SetUp() : m_frame->View().ShowState();
   if (m_screen->IsClosing()) return;
   m_frame->View().FocusList();
   m_frame->WatchStore();
@@ -101,6 +99,11 @@ void CContactsApp::InitInstance() {
     // A refusal is logged there, and in the exit code.
     m_program.HandleFirstRequest([this](const Request& asked) { return HandleRequest(asked); });
   });
+}
+
+void CContactsApp::SetUp() {
+  m_frame->View().OnInitialUpdate(m_program.Store());
+  MakeSampleSounds(*g_services.Files);
 }
 
 void CContactsApp::AcceptDrops() {

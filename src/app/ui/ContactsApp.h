@@ -64,6 +64,7 @@ class CContactsApp {
  private:
   Scale FittedScale() const;
   void InitInstance();
+  void SetUp();
   void ShowMainWindow();
   bool MayLeave() const;
   void LeaveFor(Scale next);
