@@ -1,10 +1,12 @@
-// now, panel, fault, quit.
+// now, panel, fault, sounds, quit.
 #include <QDateTime>
+#include <QJsonArray>
 
 #include "driver/Arguments.h"
 #include "driver/FaultTable.h"
 #include "driver/Operations.h"
 #include "driver/SettableClock.h"
+#include "driver/SilentSounds.h"
 #include "driver/Steps.h"
 #include "platform/InputPanel.h"
 #include "platform/Services.h"
@@ -48,6 +50,20 @@ Answer SwitchFault(const QJsonObject& arguments, OperationContext& context) {
   return Done();
 }
 
+QJsonObject SoundJson(const SoundRequest& request) {
+  const bool stops = request.What == SoundRequest::Kind::Stop;
+  QJsonObject object;
+  object.insert(u"what", stops ? QStringLiteral("stop") : QStringLiteral("play"));
+  if (!stops) object.insert(u"file", request.Path);
+  return object;
+}
+
+Answer TellSounds(const QJsonObject&, OperationContext& context) {
+  QJsonArray sounds;
+  for (const SoundRequest& request : context.Sounds.Requests()) sounds.append(SoundJson(request));
+  return Result(u"sounds", sounds);
+}
+
 Answer Quit(const QJsonObject&, OperationContext& context) {
   context.Steps.CloseProgram();
   return Done();
@@ -56,7 +72,11 @@ Answer Quit(const QJsonObject&, OperationContext& context) {
 }  // namespace
 
 OperationTable DeviceOperations() {
-  return {{u"now", Now}, {u"panel", Panel}, {u"fault", SwitchFault}, {u"quit", Quit}};
+  return {{u"now", Now},
+          {u"panel", Panel},
+          {u"fault", SwitchFault},
+          {u"sounds", TellSounds},
+          {u"quit", Quit}};
 }
 
 }  // namespace quill::driver

@@ -23,6 +23,7 @@ class Driver : public Steps {
     OperationTable Operations;
     SettableClock& Clock;
     FaultTable& Faults;
+    const SilentSounds& Sounds;
     StoreProvider& Store;  // below the faults
     QString StoreFile;
   };

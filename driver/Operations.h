@@ -17,6 +17,7 @@ namespace quill::driver {
 class FaultTable;
 class Pen;
 class SettableClock;
+class SilentSounds;
 class Steps;
 
 // What handlers work with. Owns nothing.
@@ -25,6 +26,7 @@ struct OperationContext {
   driver::Pen& Pen;
   SettableClock& Clock;
   FaultTable& Faults;
+  const SilentSounds& Sounds;
   StoreProvider& Store;  // below the faults
   QString StoreFile;
 };

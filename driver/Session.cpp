@@ -14,6 +14,7 @@
 #include "driver/FaultyFiles.h"
 #include "driver/FaultyStore.h"
 #include "driver/SettableClock.h"
+#include "driver/SilentSounds.h"
 #include "platform/JsonRegistry.h"
 #include "platform/Services.h"
 #include "store/pim/PimStore.h"
@@ -56,11 +57,14 @@ int RunSession(const OperationTable& operations, int& argc, char** argv) {
   g_services.Clock = &clock;
   FaultyFiles files(*g_services.Files, faults);
   g_services.Files = &files;
+  SilentSounds sounds;
+  g_services.Sounds = &sounds;
 
   // A reader that goes away ends the script, not the process.
   std::signal(SIGPIPE, SIG_IGN);
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  Driver driver({operations, clock, faults, store, places.StoreFile}, STDIN_FILENO, STDOUT_FILENO);
+  Driver driver({operations, clock, faults, sounds, store, places.StoreFile}, STDIN_FILENO,
+                STDOUT_FILENO);
   driver.FollowApplications();
   const int code = RunShell(program, argc, argv);
   driver.Finish();

@@ -1,6 +1,6 @@
 // The driver with operations of its own that look deeper into a running shell: what assistive
-// technology is told, how many widgets there are, and values of the registry; and one that opens a
-// sample sheet.
+// technology is told, how many widgets there are, and values of the registry; one that
+// opens a sample sheet, and two that ask for sounds.
 #include <QAccessible>
 #include <QApplication>
 #include <QJsonArray>
@@ -13,6 +13,7 @@
 #include "platform/Clock.h"
 #include "platform/RegistryStore.h"
 #include "platform/Services.h"
+#include "platform/SoundPlayer.h"
 #include "platform/ui/DatePicker.h"
 #include "platform/ui/MultiEdit.h"
 #include "platform/ui/Screen.h"
@@ -88,6 +89,17 @@ Answer OpenSheet(const QJsonObject&, OperationContext& context) {
   return Done();
 }
 
+// As a window does it.
+Answer Play(const QJsonObject& arguments, OperationContext&) {
+  g_services.Sounds->Play(Text(arguments, u"file").value_or(QString()));
+  return Done();
+}
+
+Answer StopSound(const QJsonObject&, OperationContext&) {
+  g_services.Sounds->Stop();
+  return Done();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -98,5 +110,7 @@ int main(int argc, char** argv) {
   operations.push_back({u"recall", Recall});
   operations.push_back({u"clock", TellTime});
   operations.push_back({u"open-sheet", OpenSheet});
+  operations.push_back({u"play", Play});
+  operations.push_back({u"stop-sound", StopSound});
   return RunSession(operations, argc, argv);
 }
