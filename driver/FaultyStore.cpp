@@ -72,6 +72,9 @@ class FaultyCalendarFolder : public CalendarFolder {
   bool Read(Oid oid, AppointmentItem& item) override {
     return !m_faults.Fails(u"read", oid) && Inner().Read(oid, item);
   }
+  bool ReadSubject(Oid oid, QString& subject) override {
+    return !m_faults.Fails(u"read", oid) && Inner().ReadSubject(oid, subject);
+  }
   Oid Save(const AppointmentItem& item) override {
     return m_faults.Fails(u"save-appointment", item.Id) ? 0 : Inner().Save(item);
   }

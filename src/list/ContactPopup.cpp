@@ -8,6 +8,7 @@
 #include "platform/CommandTarget.h"
 #include "resources/Menus.h"
 #include "store/AppointmentStore.h"
+#include "store/ContactStore.h"
 
 namespace quill {
 
@@ -46,13 +47,13 @@ void MakeSubmenu(MenuItem& item, const LinkedKind& kind, const LinkedItems& link
 
 LinkedItems FindLinkedItems(const QString& fileAs) {
   LinkedItems linked;
+  // One view of the store for all of them: faster than a look at its state for each.
+  const auto reading = g_store.Provider ? g_store.Provider->BeginReading() : nullptr;
   linked.Appointments = FindContactAppointments(fileAs);
   linked.AppointmentCount = static_cast<int>(linked.Appointments.size());
   if (linked.AppointmentCount > kLinkedItemsLimit) linked.Appointments.resize(kLinkedItemsLimit);
-  for (const Oid oid : linked.Appointments) {
-    const auto appointment = OpenAppointment(oid);
-    linked.Subjects.append(appointment ? appointment->Subject : QString());
-  }
+  for (const Oid oid : linked.Appointments)
+    linked.Subjects.append(AppointmentSubject(oid).value_or(QString()));
   linked.Memos = MemosWithPrefix(g_memo, fileAs);
   linked.MemoCount = static_cast<int>(linked.Memos.size());
   if (linked.MemoCount > kLinkedItemsLimit) linked.Memos.resize(kLinkedItemsLimit);

@@ -35,6 +35,13 @@ std::optional<AppointmentItem> OpenAppointment(Oid oid) {
   return item;
 }
 
+std::optional<QString> AppointmentSubject(Oid oid) {
+  CalendarFolder* folder = Folder();
+  QString subject;
+  if (!folder || !folder->ReadSubject(oid, subject)) return std::nullopt;
+  return subject;
+}
+
 bool SaveAppointment(AppointmentItem& item) {
   CalendarFolder* folder = Folder();
   if (!folder) return false;

@@ -16,6 +16,8 @@ namespace quill {
 AppointmentItem CreateAppointment();
 // Nothing when there is no such appointment.
 std::optional<AppointmentItem> OpenAppointment(Oid oid);
+// Its subject alone, for lists of many.
+std::optional<QString> AppointmentSubject(Oid oid);
 // Saves what AppointmentValidity.h lets through, its pattern settled (see RecurrencePattern.h); the
 // item becomes what was saved, Id included. False, and the item untouched, when it is refused or
 // not written; the reason goes to the log.

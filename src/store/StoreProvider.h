@@ -79,8 +79,10 @@ class CalendarFolder {
   // The item at a position, 1-based; 0 when there is none.
   virtual Oid OidAt(const AppointmentCollection& collection, int position) = 0;
 
-  // Fills the whole item and returns true, or leaves it untouched and returns false.
+  // Each fills the whole of what it reads and returns true, or leaves it untouched and returns
+  // false. The subject alone is read without the ink, which may be long.
   virtual bool Read(Oid oid, AppointmentItem& item) = 0;
+  virtual bool ReadSubject(Oid oid, QString& subject) = 0;
   // Writes the whole item, unchecked: what may be saved is a rule above the store. Without an Id it
   // makes a new appointment. Returns its Oid, 0 on failure (nothing written).
   virtual Oid Save(const AppointmentItem& item) = 0;

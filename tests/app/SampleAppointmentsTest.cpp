@@ -105,6 +105,7 @@ class FullCalendar : public CalendarFolder {
   int Count(const AppointmentCollection&) override { return 0; }
   Oid OidAt(const AppointmentCollection&, int) override { return 0; }
   bool Read(Oid, AppointmentItem&) override { return false; }
+  bool ReadSubject(Oid, QString&) override { return false; }
   Oid Save(const AppointmentItem&) override { return m_room > 0 ? m_room-- : 0; }
   bool PutInk(AppointmentItem&, const QByteArray&) override { return false; }
   bool Remove(Oid) override { return false; }

@@ -116,8 +116,22 @@ TEST_F(FaultyStoreTest, WithoutFaultsTheCalendarGoesThrough) {
   AppointmentItem read;
   EXPECT_TRUE(calendar.Read(1, read));
   EXPECT_EQ(read.BodyInk, "ink");
+  QString subject;
+  EXPECT_TRUE(calendar.ReadSubject(1, subject));
+  EXPECT_EQ(subject, QStringLiteral("(Kim)"));
   EXPECT_TRUE(calendar.Remove(1));
   EXPECT_FALSE(calendar.Remove(1));
+}
+
+TEST_F(FaultyStoreTest, AnAppointmentsSubjectIsReadAsTheAppointmentIs) {
+  Open();
+  const Oid first = store.Calendar()->Save({.Subject = QStringLiteral("(Kim)")});
+  const Oid second = store.Calendar()->Save({.Subject = QStringLiteral("(Lee)")});
+  faults.Switch(QStringLiteral("read"), Fault{.OnlyItem = first});
+  QString subject;
+  EXPECT_FALSE(store.Calendar()->ReadSubject(first, subject));
+  EXPECT_TRUE(store.Calendar()->ReadSubject(second, subject));
+  EXPECT_EQ(subject, QStringLiteral("(Lee)"));
 }
 
 TEST_F(FaultyStoreTest, SavingAnAppointmentFailsUntilSwitchedOff) {

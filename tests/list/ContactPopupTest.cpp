@@ -113,6 +113,18 @@ TEST_F(LinkedItemsOf, AContactWithoutAnyAreNone) {
   EXPECT_TRUE(linked.Memos.isEmpty());
 }
 
+TEST_F(LinkedItemsOf, AContactHasNoAppointmentsWithoutASession) {
+  AddAppointment(QStringLiteral("(Kim)"));
+  CloseSession();
+  EXPECT_EQ(FindLinkedItems(QStringLiteral("Kim")).AppointmentCount, 0);
+}
+
+TEST_F(LinkedItemsOf, FindingThemLeavesTheStoreToWrite) {
+  FindLinkedItems(QStringLiteral("Kim"));
+  AddAppointment(QStringLiteral("(Kim)"));
+  EXPECT_EQ(FindLinkedItems(QStringLiteral("Kim")).AppointmentCount, 1);
+}
+
 TEST_F(LinkedItemsOf, MoreThanTwoHundredAreCountedAndTheFirstAreOffered) {
   const auto transaction = m_store.Begin();
   for (int i = 0; i < 205; ++i) AddAppointment(QStringLiteral("(Kim) %1").arg(i));

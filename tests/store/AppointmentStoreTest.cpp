@@ -47,6 +47,7 @@ TEST_F(AppointmentStore, ASavedOneGetsItsOidAndIsOpenedAgain) {
   ASSERT_TRUE(SaveAppointment(item));
   EXPECT_EQ(item.Id, 1);
   EXPECT_EQ(OpenAppointment(1), item);
+  EXPECT_EQ(AppointmentSubject(1), QStringLiteral("(Kim) tea"));
 }
 
 TEST_F(AppointmentStore, SavingAgainChangesTheSameOne) {
@@ -110,6 +111,7 @@ TEST_F(AppointmentStore, OneThatIsGoneIsNeitherOpenedNorSavedNorDeleted) {
   ASSERT_TRUE(SaveAppointment(item));
   EXPECT_TRUE(DeleteAppointment(item.Id));
   EXPECT_FALSE(OpenAppointment(item.Id));
+  EXPECT_FALSE(AppointmentSubject(item.Id));
   EXPECT_FALSE(SaveAppointment(item));
   EXPECT_FALSE(DeleteAppointment(item.Id));
 }
@@ -152,6 +154,7 @@ TEST_F(AppointmentStore, WithoutASessionNothingIsThereAndNothingHappens) {
   CloseSession();
   const AppointmentItem before = item;
   EXPECT_FALSE(OpenAppointment(1));
+  EXPECT_FALSE(AppointmentSubject(1));
   EXPECT_FALSE(SaveAppointment(item));
   EXPECT_FALSE(DeleteAppointment(1));
   EXPECT_FALSE(PutAppointmentInk(item, "ink"));

@@ -139,12 +139,23 @@ TEST_F(PimCalendarFolder, AnUnknownAppointmentIsNeitherReadNorWrittenNorRemoved)
   AppointmentItem item{.Id = 9, .Uid = QStringLiteral("before")};
   EXPECT_FALSE(Calendar().Read(5, item));
   EXPECT_EQ(item, (AppointmentItem{.Id = 9, .Uid = QStringLiteral("before")}));
+  QString subject = QStringLiteral("before");
+  EXPECT_FALSE(Calendar().ReadSubject(5, subject));
+  EXPECT_EQ(subject, QStringLiteral("before"));
   EXPECT_EQ(Calendar().Save({.Id = 5}), 0);
   EXPECT_FALSE(m_store.LastError().isEmpty());
   EXPECT_EQ(Calendar().Save({.Id = -1}), 0);
   EXPECT_FALSE(Calendar().Remove(5));
   EXPECT_FALSE(Calendar().Remove(0));
   EXPECT_EQ(Calendar().Count(Calendar().Items()), 0);
+}
+
+TEST_F(PimCalendarFolder, ASubjectIsReadAloneAsItIsInTheWholeItem) {
+  const Oid oid =
+      Calendar().Save({.Subject = QStringLiteral("(김) 차"), .Location = QStringLiteral("집")});
+  QString subject;
+  EXPECT_TRUE(Calendar().ReadSubject(oid, subject));
+  EXPECT_EQ(subject, QStringLiteral("(김) 차"));
 }
 
 TEST_F(PimCalendarFolder, WhatSavingWouldRefuseIsWrittenAllTheSame) {

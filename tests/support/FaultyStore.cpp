@@ -69,6 +69,10 @@ Oid FaultyCalendar::OidAt(const AppointmentCollection& collection, int position)
 
 bool FaultyCalendar::Read(Oid oid, AppointmentItem& item) { return Inner->Read(oid, item); }
 
+bool FaultyCalendar::ReadSubject(Oid oid, QString& subject) {
+  return Inner->ReadSubject(oid, subject);
+}
+
 Oid FaultyCalendar::Save(const AppointmentItem& item) {
   return Faults.Save ? 0 : Inner->Save(item);
 }

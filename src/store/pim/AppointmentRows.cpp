@@ -12,6 +12,7 @@ namespace quill {
 namespace {
 
 constexpr double kMillisecondsPerDay = 86'400'000.0;
+constexpr char kFromOne[] = " FROM appointment WHERE Oid = ?1";
 constexpr QStringView kPatternPrefix = u"Recurrence";
 
 QByteArray PatternColumnName(const PatternFieldRow& row) {
@@ -123,7 +124,8 @@ AppointmentSql MakeAppointmentSql() {
                     values.join(", ") + ')',
           .Update = "UPDATE appointment SET " + assignments.join(", ") + " WHERE Oid = ?" +
                     QByteArray::number(kAppointmentOidParameter),
-          .Read = "SELECT " + names.join(", ") + " FROM appointment WHERE Oid = ?1"};
+          .Read = "SELECT " + names.join(", ") + kFromOne,
+          .ReadSubject = "SELECT " + PropertyOf(&AppointmentItem::Subject).toUtf8() + kFromOne};
 }
 
 void BindAppointment(Query& query, const AppointmentItem& item) {

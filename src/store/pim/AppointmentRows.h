@@ -33,7 +33,9 @@ QByteArray AppointmentTables();
 struct AppointmentSql {
   QByteArray Insert;
   QByteArray Update;
-  QByteArray Read;  // its only parameter is the Oid
+  // The only parameter of each is the Oid.
+  QByteArray Read;
+  QByteArray ReadSubject;
 };
 AppointmentSql MakeAppointmentSql();
 

@@ -68,6 +68,14 @@ bool PimCalendar::Read(Oid oid, AppointmentItem& item) {
   return true;
 }
 
+bool PimCalendar::ReadSubject(Oid oid, QString& subject) {
+  Query query = m_database.Prepare(m_sql.ReadSubject);
+  query.BindNumber(1, oid);
+  if (!query.Next()) return false;
+  subject = query.Text(0);
+  return true;
+}
+
 Oid PimCalendar::Save(const AppointmentItem& item) {
   if (!m_database.MayWrite()) return 0;
   if (item.Id != 0) return Update(item);

@@ -26,6 +26,7 @@ class PimCalendar : public CalendarFolder {
   int Count(const AppointmentCollection& collection) override;
   Oid OidAt(const AppointmentCollection& collection, int position) override;
   bool Read(Oid oid, AppointmentItem& item) override;
+  bool ReadSubject(Oid oid, QString& subject) override;
   Oid Save(const AppointmentItem& item) override;
   bool PutInk(AppointmentItem& item, const QByteArray& ink) override;
   bool Remove(Oid oid) override;
