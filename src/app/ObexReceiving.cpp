@@ -1,5 +1,7 @@
 #include "app/ObexReceiving.h"
 
+#include <algorithm>
+
 namespace quill {
 namespace {
 
@@ -11,7 +13,7 @@ ObexReceiving::ObexReceiving(const ObexTransports& transports, ObexReception& re
                              Timers& timers)
     : m_transports(transports), m_reception(reception), m_timers(timers) {
   m_reception.Answered = [this] {
-    if (m_isEnding) Stop();
+    if (m_isEnding && !IsBusy()) Stop();
   };
 }
 
@@ -43,8 +45,14 @@ bool ObexReceiving::Listen() {
   return isHeard;
 }
 
+bool ObexReceiving::IsBusy() const {
+  return m_reception.IsAsking() ||
+         std::any_of(m_transports.begin(), m_transports.end(),
+                     [](const auto& transport) { return transport->IsBusy(); });
+}
+
 void ObexReceiving::OnTimer(int) {
-  if (m_isEnding || !m_reception.IsAsking()) return Stop();
+  if (m_isEnding || !IsBusy()) return Stop();
   m_isEnding = true;
   for (const auto& transport : m_transports) transport->StopLettingIn();
 }

@@ -26,8 +26,8 @@ class ObexReceiving : private TimerTarget {
   // While it is on, the two minutes begin anew. False when no transport can listen.
   bool Begin();
   void Stop();
-  // Also behind the two minutes, and for two more at most, while the user is asked what came in
-  // them.
+  // Also behind the two minutes, and for two more at most, while the user is asked about what came
+  // in them or it is still coming.
   bool IsOn() const { return m_isOn; }
 
   // Called when it goes on or off.
@@ -36,6 +36,7 @@ class ObexReceiving : private TimerTarget {
  private:
   void OnTimer(int id) override;
   bool Listen();
+  bool IsBusy() const;
   void SetOn(bool isOn);
 
   const ObexTransports& m_transports;

@@ -24,6 +24,8 @@ class ObexTcpTransport : public ObexTransport {
   bool Listen(ObexHost& host) override;
   void StopLettingIn() override { m_inbox.StopLettingIn(); }
   void StopListening() override { m_inbox.Stop(); }
+  // A peer is asked about once all has come.
+  bool IsBusy() const override { return false; }
 
   // On which it listens; 0 while it does not.
   quint16 Port() const { return m_inbox.Port(); }

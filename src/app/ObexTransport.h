@@ -72,6 +72,8 @@ class ObexTransport {
   // Nobody new is let in; who is being asked about stays until the answer.
   virtual void StopLettingIn() = 0;
   virtual void StopListening() = 0;
+  // Whether something is still coming that is wanted.
+  virtual bool IsBusy() const = 0;
 };
 
 }  // namespace quill

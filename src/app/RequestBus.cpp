@@ -19,14 +19,6 @@ constexpr uint kDoNotQueue = 4;  // the bus' flag: refuse rather than wait for t
 
 QString Latin(const char* text) { return QString::fromLatin1(text); }
 
-// Asked first, because the bus library would start a bus of its own where there is none.
-bool SessionBusExists() {
-  if (qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS"))
-    return !qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS");
-  const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
-  return !runtime.isEmpty() && QFileInfo::exists(runtime + QStringLiteral("/bus"));
-}
-
 QDBusMessage NameRequest() {
   QDBusMessage message = QDBusMessage::createMethodCall(
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
@@ -36,6 +28,13 @@ QDBusMessage NameRequest() {
 }
 
 }  // namespace
+
+bool SessionBusExists() {
+  if (qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS"))
+    return !qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS");
+  const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  return !runtime.isEmpty() && QFileInfo::exists(runtime + QStringLiteral("/bus"));
+}
 
 RequestBus::RequestBus(RequestHandler handler) : m_handler(std::move(handler)) {}
 

@@ -131,6 +131,25 @@ TEST_F(Receiving, LetsNobodyInWhileTheLastQuestionIsAnswered) {
   EXPECT_FALSE(m_receiving->IsOn());
 }
 
+TEST_F(Receiving, WaitsForWhatIsStillComing) {
+  ASSERT_TRUE(m_receiving->Begin());
+  m_first->Take();
+  m_second->Busy = true;
+  m_timers.Advance(ObexReceiving::kDuration);
+  EXPECT_EQ(m_first->Take(), QStringList{u"let nobody in"_qs});
+  m_timers.Advance(ObexReceiving::kDuration);
+  EXPECT_EQ(m_first->Take(), QStringList{u"stop"_qs});
+}
+
+TEST_F(Receiving, WaitsForWhatComesAfterTheLastAnswer) {
+  BeginAsking();
+  m_second->Busy = true;
+  m_consent.Answer(ConsentAnswer::Wanted);
+  EXPECT_TRUE(m_receiving->IsOn());
+  m_timers.Advance(ObexReceiving::kDuration);
+  EXPECT_FALSE(m_receiving->IsOn());
+}
+
 TEST_F(Receiving, GoesOnAfterAQuestionWithinTheTwoMinutes) {
   ASSERT_TRUE(m_receiving->Begin());
   m_reception.Ask(m_pusher);

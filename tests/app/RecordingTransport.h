@@ -31,12 +31,14 @@ class RecordingTransport : public ObexTransport {
   }
   void StopLettingIn() override { Calls += QStringLiteral("let nobody in"); }
   void StopListening() override { Calls += QStringLiteral("stop"); }
+  bool IsBusy() const override { return Busy; }
 
   // What was called since the last time.
   QStringList Take() { return std::exchange(Calls, {}); }
 
   bool Present = true;
   bool Listens = true;
+  bool Busy = false;
   QStringList Calls;
   ObexFound Found;
   std::vector<ObexSending> Cards;
