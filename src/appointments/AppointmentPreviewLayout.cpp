@@ -1,5 +1,7 @@
 #include "appointments/AppointmentPreviewLayout.h"
 
+#include <utility>
+
 namespace quill {
 
 namespace {
@@ -12,6 +14,7 @@ constexpr int kSubjectTop = 3;
 constexpr double kSubjectLimit = 190;
 constexpr int kFirstLineTop = 22;
 constexpr int kLineDistance = 17;
+constexpr int kCloseDistance = 13;  // of four lines
 
 constexpr Rgb kHeadingColor = 0x3232FF;
 constexpr Rgb kButtonBorder = 0x2F5568;
@@ -37,10 +40,38 @@ PaintedRow LayOutSubject(const QString& subject, const TextWidth& width) {
   return row;
 }
 
-PaintedRow LayOutLine(int index, const QString& line, const TextWidth& width) {
-  PaintedRow row = TextRow(kFirstLineTop + index * kLineDistance, line);
-  row.Items.push_back({.Rectangle = row.Rectangle, .Text = ElideText(line, kTextWidth, width)});
+// Each line of a text as it is painted: the first text of three may take two lines.
+QStringList PaintedLines(const QStringList& texts, int index, const TextWidth& width) {
+  const QString& text = texts[index];
+  QStringList lines = WrapLines(text, kTextWidth, width);
+  if (index > 0 || texts.size() < 3 || lines.size() < 2)
+    return {ElideText(text, kTextWidth, width)};
+  const QString rest = text.sliced(lines[0].size()).trimmed();
+  return {lines[0], ElideText(rest, kTextWidth, width)};
+}
+
+PaintedRow LayOutText(int top, int distance, const QString& text, const QStringList& lines) {
+  PaintedRow row = TextRow(top, text);
+  row.Rectangle.setHeight(distance * static_cast<int>(lines.size()) - 1);
+  for (const QString& line : lines) {
+    row.Items.push_back({.Rectangle = {kTextLeft, top, kTextWidth, distance - 1}, .Text = line});
+    top += distance;
+  }
   return row;
+}
+
+// Below each other, as far apart as their number lets them be.
+std::vector<PaintedRow> LayOutTexts(const QStringList& texts, const TextWidth& width) {
+  std::vector<PaintedRow> rows;
+  int top = kFirstLineTop;
+  int distance = kLineDistance;
+  for (int i = 0; i < texts.size(); ++i) {
+    const QStringList lines = PaintedLines(texts, i, width);
+    if (lines.size() > 1) distance = kCloseDistance;
+    rows.push_back(LayOutText(top, distance, texts[i], lines));
+    top += distance * static_cast<int>(lines.size());
+  }
+  return rows;
 }
 
 PaintedRow LayOutButton(PreviewButton button, const PreviewLook& look) {
@@ -67,8 +98,7 @@ std::vector<PaintedRow> LayOutAppointmentPreview(const AppointmentPreview& previ
                                                  const PreviewLook& look,
                                                  const PreviewFonts& fonts) {
   std::vector<PaintedRow> rows{LayOutSubject(preview.Subject, fonts.Heading)};
-  for (int i = 0; i < preview.Lines.size(); ++i)
-    rows.push_back(LayOutLine(i, preview.Lines[i], fonts.Body));
+  for (PaintedRow& text : LayOutTexts(preview.Lines, fonts.Body)) rows.push_back(std::move(text));
   for (const PreviewButton button : kPreviewButtons) rows.push_back(LayOutButton(button, look));
   return rows;
 }

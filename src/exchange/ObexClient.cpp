@@ -103,7 +103,7 @@ void ObexClient::PutMore() {
 
 std::vector<ObexHeader> ObexClient::PutHeaders() const {
   if (m_sent > 0) return {};
-  return {ObexText(ObexHeaderId::Name, CutText(Object().Name)),
+  return {ObexText(ObexHeaderId::Name, CutText(Object().Name, kLongestName)),
           ObexBytes(ObexHeaderId::Type, kCardType.toByteArray()),
           ObexNumber(ObexHeaderId::Length, static_cast<quint32>(Object().Card.size()))};
 }

@@ -72,6 +72,22 @@ TEST(AppointmentPreviewLayout, ASubjectOfSeveralLinesIsPaintedOnOne) {
   EXPECT_EQ(TextsOf(rows[0])[0].Text, QStringLiteral("a  b"));
 }
 
+TEST(AppointmentPreviewLayout, ALongRecurrenceTakesTwoLinesAndAllStillStandsAboveTheNote) {
+  const QString days = QStringLiteral("onSun.,Mon.,Tue.,Wed.,Thu.,Fri.,Sat.");
+  AppointmentPreview preview = kThreeLines;
+  preview.Lines[0] = QStringLiteral("Every 12 week(s) ") + days;
+  const auto rows = LayOut(preview);
+  const auto texts = TextsOf(rows[1]);
+  ASSERT_EQ(texts.size(), 2U);
+  EXPECT_EQ(texts[0].Text, QStringLiteral("Every 12 week(s)"));
+  EXPECT_EQ(texts[1].Text, days);
+  EXPECT_EQ(rows[1].SpokenName, preview.Lines[0]);
+  EXPECT_TRUE(rows[1].Rectangle.contains(texts[1].Rectangle));
+  EXPECT_GT(rows[2].Rectangle.top(), rows[1].Rectangle.bottom());
+  EXPECT_GT(rows[3].Rectangle.top(), rows[2].Rectangle.bottom());
+  EXPECT_LT(rows[3].Rectangle.bottom(), kPreviewNoteTop);
+}
+
 TEST(AppointmentPreviewLayout, ALongLineEndsWithDotsBeforeTheButtons) {
   const QString fits = QString(41, u'a');  // 205 of 209 pixels
   EXPECT_EQ(TextsOf(LayOut({{}, {fits}})[1])[0].Text, fits);

@@ -352,6 +352,16 @@ TEST_F(AppointmentDlgTest, ATapBelowTheRowsHidesTheControls) {
        Cancel()});
 }
 
+TEST_F(AppointmentDlgTest, EscapeHidesTheControlsFirstAndThenCloses) {
+  EXPECT_EQ(Add({[&] { Rows().ActivateRow(static_cast<int>(AppointmentRow::AllDay)); },
+                 [&] {
+                   m_input.Key(Qt::Key_Escape);
+                   EXPECT_FALSE(Dialog().Control(AppointmentIds::kAllDay)->isVisible());
+                 },
+                 [&] { m_input.Key(Qt::Key_Escape); }}),
+            kResultCancel);
+}
+
 TEST_F(AppointmentDlgTest, AnotherRowAndAnAlarmThatIsTurnedOffEndTheSound) {
   Add({Chooses(AppointmentIds::kAlarm, 0), Chooses(AppointmentIds::kSound, 1),
        [&] { Rows().ActivateRow(static_cast<int>(AppointmentRow::Alarm)); },

@@ -70,5 +70,18 @@ TEST_F(AppointmentMemo, AboveTheStoresLimitIsToldAndTheAppointmentStaysOpenWitho
   EXPECT_EQ(saved.BodyInk, QByteArray("a note"));
 }
 
+TEST_F(AppointmentMemo, ThatWasRefusedIsThereAgainToBeShortened) {
+  m_prompt.Expect(PromptAnswer::OK);
+  const QByteArray tooMuch(PimStoreOptions().AppointmentInkLimit + 1, 'x');
+  const AppointmentItem saved = Saved(
+      Tea(), {OpenMemo(), [&] { Ink().SetData(tooMuch); }, OK(), OpenMemo(),
+              [&] {
+                EXPECT_EQ(Ink().Data(), tooMuch);
+                Ink().SetData("short");
+              },
+              OK(), OpenMemo(), [&] { EXPECT_EQ(Ink().Data(), QByteArray("short")); }, Cancel()});
+  EXPECT_EQ(saved.BodyInk, QByteArray("short"));
+}
+
 }  // namespace
 }  // namespace quill

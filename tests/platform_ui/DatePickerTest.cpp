@@ -73,6 +73,12 @@ TEST_F(DatePickerTest, ShowsTheDayBetweenItsCheckAndItsButton) {
   EXPECT_TRUE(Part<QCheckBox>(m_picker).isChecked());
 }
 
+TEST_F(DatePickerTest, ATapOnASectionLetsWhatIsTypedTakeItsPlace) {
+  m_input.Tap(Edit().mapTo(m_screen, QPoint(24, 8)));  // the day
+  m_input.Type(QStringLiteral("27"));
+  EXPECT_EQ(m_picker.Date(), QDate(1990, 5, 27));
+}
+
 TEST_F(DatePickerTest, ReturnIsNoChange) {
   m_picker.setFocus();
   m_input.Key(Qt::Key_Return);

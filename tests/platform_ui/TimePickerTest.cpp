@@ -63,6 +63,27 @@ TEST_F(TimePickerTest, IsTypedSectionBySection) {
   EXPECT_EQ(m_picker.text(), QStringLiteral("11:45 PM"));
 }
 
+TEST_F(TimePickerTest, ATapOnASectionLetsWhatIsTypedTakeItsPlace) {
+  m_input.Tap(m_picker.mapTo(m_screen, QPoint(26, 8)));  // the minutes
+  EXPECT_EQ(m_picker.currentSection(), QDateTimeEdit::MinuteSection);
+  m_input.Type(QStringLiteral("45"));
+  EXPECT_EQ(m_picker.time(), QTime(9, 45));
+  m_input.Tap(m_picker.mapTo(m_screen, QPoint(6, 8)));
+  m_input.Type(QStringLiteral("11"));
+  EXPECT_EQ(m_picker.time(), QTime(11, 45));
+}
+
+TEST_F(TimePickerTest, OneLetterChoosesTheHalfOfTheDay) {
+  m_picker.setFocus();
+  m_picker.setSelectedSection(QDateTimeEdit::AmPmSection);
+  m_input.Type(QStringLiteral("p"));
+  EXPECT_EQ(m_picker.text(), QStringLiteral("09:30 PM"));
+  m_input.Type(QStringLiteral("m"));
+  EXPECT_EQ(m_picker.text(), QStringLiteral("09:30 PM"));
+  m_input.Type(QStringLiteral("a"));
+  EXPECT_EQ(m_picker.text(), QStringLiteral("09:30 AM"));
+}
+
 TEST_F(TimePickerTest, ItsButtonOffersEveryHalfHourFromTheOneShown) {
   InList([&] { m_input.Tap(Button().mapTo(m_screen, Button().rect().center())); },
          [&](CMenuPopup& list) {

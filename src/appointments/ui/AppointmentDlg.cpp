@@ -1,5 +1,6 @@
 #include "appointments/ui/AppointmentDlg.h"
 
+#include <QKeyEvent>
 #include <QPushButton>
 
 #include <utility>
@@ -78,13 +79,22 @@ void CAppointmentDlg::TakeAppointment() {
 
 void CAppointmentDlg::FocusFirstControl() { m_rows->setFocus(Qt::ActiveWindowFocusReason); }
 
+void CAppointmentDlg::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Escape || !m_rows->Revealed()) return CDialog::keyPressEvent(event);
+  if (!event->isAutoRepeat()) Choose(std::nullopt);
+}
+
 // The focus goes first: what is hidden would hand it on as the Tab key does.
 void CAppointmentDlg::Choose(std::optional<AppointmentRow> row) {
   CommitInput();
   m_rows->setFocus(Qt::OtherFocusReason);
   m_controls.Reveal(row);
-  m_rows->SetRevealed(row);
-  if (row == AppointmentRow::Memo) EditMemo();
+  if (row == AppointmentRow::Memo) {
+    m_rows->SetRevealed(std::nullopt);
+    EditMemo();
+  } else {
+    m_rows->SetRevealed(row);
+  }
 }
 
 // A start or an end that was changed since becomes the pattern's: the wizard edits neither. Where
@@ -110,11 +120,14 @@ void CAppointmentDlg::EditPattern() {
 
 void CAppointmentDlg::EditMemo() {
   if (!m_item) return;
-  g_memo.Buffer = m_item->BodyInk;
+  g_memo.Buffer = m_refusedInk.value_or(m_item->BodyInk);
   const int result = CInkMemoDialog(Screen(), QString(), InkMemoKind::Existing).DoModal();
   const QByteArray ink = std::exchange(g_memo.Buffer, {});
-  if (result == kResultOK && !PutAppointmentInk(*m_item, ink))
-    Tell(QStringLiteral("Cannot save. Memo exceeded memory limitation."), PromptIcon::Warning);
+  if (result != kResultOK) return;
+  m_refusedInk.reset();
+  if (PutAppointmentInk(*m_item, ink)) return;
+  m_refusedInk = ink;
+  Tell(QStringLiteral("Cannot save. Memo exceeded memory limitation."), PromptIcon::Warning);
 }
 
 void CAppointmentDlg::OnOK() {

@@ -29,6 +29,8 @@ class CAppointmentDlg : public CDialog {
  protected:
   void OnInitDialog() override;
   void FocusFirstControl() override;
+  // Escape hides the controls that are shown first.
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   CAppointmentDlg(CScreen& screen, DialogMode mode);
@@ -44,9 +46,10 @@ class CAppointmentDlg : public CDialog {
   QString m_subject;  // of a new appointment
   Oid m_oid = 0;      // of an existing one
   std::optional<AppointmentItem> m_item;
-  RecurrencePattern m_pattern = {};  // what the wizard edits
-  bool m_isDefaultPattern = false;   // until the wizard edited it
-  AppointmentForm m_seen = {};       // whose start and end the pattern has
+  RecurrencePattern m_pattern = {};             // what the wizard edits
+  bool m_isDefaultPattern = false;              // until the wizard edited it
+  AppointmentForm m_seen = {};                  // whose start and end the pattern has
+  std::optional<QByteArray> m_refusedInk = {};  // the editor begins with it
   RecurrenceChoice m_storedChoice = RecurrenceChoice::Once;
   CAppointmentRowList* m_rows;  // a child
   AppointmentControls m_controls;

@@ -18,6 +18,7 @@ class CAppointmentRowList : public CPaintedWindow {
   void ShowForm(const AppointmentForm& form);
   // The row whose controls are shown over it.
   void SetRevealed(std::optional<AppointmentRow> row);
+  std::optional<AppointmentRow> Revealed() const { return m_revealed; }
   void ActivateRow(int row) override;
 
   std::function<void(std::optional<AppointmentRow> row)> Chosen;

@@ -1,6 +1,5 @@
 #include "platform/ui/TimePicker.h"
 
-#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -9,7 +8,6 @@
 #include <utility>
 
 #include "platform/DatePictures.h"
-#include "platform/ui/EditMenu.h"
 #include "platform/ui/InputCommit.h"
 #include "platform/ui/MenuPopup.h"
 #include "platform/ui/Screen.h"
@@ -37,17 +35,15 @@ std::vector<MenuItem> HalfHours(QTime shown) {
 
 }  // namespace
 
-CTimePicker::CTimePicker(QWidget* parent) : QTimeEdit(parent), m_button(new QToolButton(this)) {
-  setLocale(QLocale::c());
-  setDisplayFormat(QtFormat(kTimePicture));
-  setButtonSymbols(NoButtons);
-  setFrame(false);
+CTimePicker::CTimePicker(QWidget* parent)
+    : CSectionEdit(QtFormat(kTimePicture), parent), m_button(new QToolButton(this)) {
+  setTime({0, 0});
   setWrapping(true);
   m_button->setAccessibleName(QStringLiteral("Times"));
   m_button->setArrowType(Qt::DownArrow);
   m_button->setFocusPolicy(Qt::NoFocus);
   connect(m_button, &QToolButton::clicked, this, [this] { OpenList(); });
-  connect(this, &QTimeEdit::timeChanged, this, &CTimePicker::TellChanged);
+  connect(this, &QDateTimeEdit::timeChanged, this, &CTimePicker::TellChanged);
 }
 
 void CTimePicker::SetTime(QTime time) {
@@ -71,22 +67,23 @@ void CTimePicker::OpenList() {
   if (const int chosen = popup.Track()) setTime(TimeOf(chosen - 1));
 }
 
-// The menu key comes as a key too: it is taken there.
-void CTimePicker::contextMenuEvent(QContextMenuEvent* event) {
-  event->accept();
-  if (event->reason() != QContextMenuEvent::Keyboard)
-    ShowEditMenu(*lineEdit(), lineEdit()->mapFrom(this, event->pos()));
+bool CTimePicker::ChooseHalfOfDay(const QKeyEvent& event) {
+  const bool toPm = event.key() == Qt::Key_P;
+  if (currentSection() != AmPmSection || (!toPm && event.key() != Qt::Key_A)) return false;
+  constexpr int kHalfDay = 12 * 60 * 60;  // seconds
+  if ((time().hour() >= 12) != toPm) setTime(time().addSecs(kHalfDay));
+  setSelectedSection(AmPmSection);
+  return true;
 }
 
 void CTimePicker::keyPressEvent(QKeyEvent* event) {
   const bool alt = event->modifiers().testFlag(Qt::AltModifier);
   if (event->key() == Qt::Key_F4 || (alt && event->key() == Qt::Key_Down)) return OpenList();
-  if (IsMenuKey(*event)) return ShowEditMenu(*lineEdit(), lineEdit()->rect().bottomLeft());
-  QTimeEdit::keyPressEvent(event);
+  if (!ChooseHalfOfDay(*event)) CSectionEdit::keyPressEvent(event);
 }
 
 void CTimePicker::resizeEvent(QResizeEvent* event) {
-  QTimeEdit::resizeEvent(event);
+  CSectionEdit::resizeEvent(event);
   lineEdit()->setTextMargins(0, 0, kButtonWidth, 0);
   m_button->setGeometry(width() - kButtonWidth, 0, kButtonWidth, height());
   m_button->raise();

@@ -1,17 +1,17 @@
-// A time of the day in a cell of 17 pixels: typed as "09:30 AM", section by section, stepped by the
-// arrow keys, or chosen from a list of every half hour inside the frame. Seconds of a time that was
-// set stay until another one is chosen.
+// A time of the day in a cell of 17 pixels: typed as "09:30 AM", section by section, where A and P
+// alone choose the half of the day, or chosen from a list of every half hour inside the frame.
+// Seconds of a time that was set stay until another one is chosen.
 #pragma once
 
-#include <QTimeEdit>
-
 #include <functional>
+
+#include "platform/ui/SectionEdit.h"
 
 class QToolButton;
 
 namespace quill {
 
-class CTimePicker : public QTimeEdit {
+class CTimePicker : public CSectionEdit {
   Q_OBJECT
  public:
   // parent is a window of a screen or stands in one.
@@ -26,11 +26,11 @@ class CTimePicker : public QTimeEdit {
   std::function<void()> Changed;
 
  protected:
-  void contextMenuEvent(QContextMenuEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  bool ChooseHalfOfDay(const QKeyEvent& event);
   void TellChanged();
 
   QToolButton* m_button;
