@@ -164,6 +164,7 @@ std::vector<RecurrencePattern> Days(RecurrenceType type, int month) {
   if (type == Monthly || type == Yearly) return DaysInMonth(month);
   if (type == MonthlyNth || type == YearlyNth) return InstancesInMonth(month);
   std::vector<RecurrencePattern> patterns;
+  patterns.reserve(kMasks.size());
   for (const int mask : kMasks) patterns.push_back({.DayOfWeekMask = mask});
   return patterns;
 }
