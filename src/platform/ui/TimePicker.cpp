@@ -68,8 +68,10 @@ void CTimePicker::OpenList() {
 }
 
 bool CTimePicker::ChooseHalfOfDay(const QKeyEvent& event) {
-  const bool toPm = event.key() == Qt::Key_P;
-  if (currentSection() != AmPmSection || (!toPm && event.key() != Qt::Key_A)) return false;
+  const QString letter = event.text().toUpper();
+  const bool toPm = letter == QStringLiteral("P");
+  const bool isHalf = toPm || letter == QStringLiteral("A");
+  if (currentSection() != AmPmSection || !isHalf) return false;
   constexpr int kHalfDay = 12 * 60 * 60;  // seconds
   if ((time().hour() >= 12) != toPm) setTime(time().addSecs(kHalfDay));
   setSelectedSection(AmPmSection);
