@@ -116,12 +116,6 @@ TEST_F(MainFrameTest, TheApplicationsCommandsAreAskedAfterTheViews) {
   EXPECT_EQ(m_frame->RunCommand(4711), CommandResult::Unknown);
 }
 
-TEST_F(MainFrameTest, ACommandWhoseWindowIsStillToComeIsRefused) {
-  EXPECT_EQ(m_frame->RunCommand(ID_BEAM_CONTACTS), CommandResult::Disabled);
-  EXPECT_EQ(m_frame->RunCommand(ID_RECEIVE_INFRARED, CommandCheck::Anyway),
-            CommandResult::Disabled);
-}
-
 TEST_F(MainFrameTest, ClosingTheFrameClosesTheScreen) {
   int closed = 0;
   m_screen->Closed = [&closed] { ++closed; };

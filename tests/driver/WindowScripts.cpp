@@ -68,8 +68,8 @@ TEST(Commands, DisabledOnesAreRefused) {
   ReadyDriver driver;
   EXPECT_EQ(driver.AskForLine(R"({"op":"command","id":40015})"),
             R"({"ok":false,"error":"disabled"})");
-  EXPECT_EQ(driver.Error(R"({"op":"command","id":40015,"force":true})"),
-            QStringLiteral("disabled"));
+  EXPECT_EQ(driver.Error(R"({"op":"command","id":40017})"), QStringLiteral("disabled"));
+  driver.Do(R"({"op":"command","id":40017,"force":true})");
   EXPECT_EQ(Windows(driver).size(), 1);
 }
 

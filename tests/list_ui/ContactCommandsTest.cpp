@@ -1,10 +1,12 @@
 #include "list/ui/ContactCommands.h"
 
 #include <QLabel>
+#include <QPushButton>
 
 #include "ViewFixture.h"
 #include "list/Selection.h"
 #include "settings/DeleteScope.h"
+#include "support/InfraredLog.h"
 
 namespace quill {
 namespace {
@@ -95,6 +97,61 @@ TEST_F(ContactCommandsTest, AnEmptyListIsNotAskedAbout) {
   m_frame->RunCommand(ID_DELETE_ALL, CommandCheck::Anyway);
   View().ShowMode(ViewMode::ByName);
   EXPECT_EQ(ShownNames().size(), 3);
+}
+
+class InfraredCommands : public ContactCommandsTest {
+ protected:
+  void SetUp() override {
+    ContactCommandsTest::SetUp();
+    g_services.Infrared = &m_infrared;
+    SelectRow(g_list, 2);
+  }
+  void TearDown() override { g_services.Infrared = nullptr; }
+  static QString Adding(int row) { return QStringLiteral("add %1").arg(g_list.Rows[row].Oid); }
+
+  test::InfraredLog m_infrared;
+};
+
+TEST_F(InfraredCommands, BeamTheSelectedContacts) {
+  EXPECT_TRUE(IsEnabled(ID_BEAM_CONTACTS));
+  g_list.SelectedKeys.push_back(g_list.Rows[0].Oid);
+  EXPECT_EQ(m_frame->RunCommand(ID_BEAM_CONTACTS), CommandResult::Done);
+  EXPECT_EQ(m_infrared.Asked,
+            QStringList({QStringLiteral("open"), Adding(2), Adding(0), QStringLiteral("send")}));
+}
+
+TEST_F(InfraredCommands, BeamIsDisabledWithoutASelectionAndSendsNothing) {
+  g_list.SelectedKeys.clear();
+  EXPECT_EQ(m_frame->RunCommand(ID_BEAM_CONTACTS), CommandResult::Disabled);
+  EXPECT_EQ(m_infrared.Asked, QStringList());
+  EXPECT_EQ(m_frame->RunCommand(ID_BEAM_CONTACTS, CommandCheck::Anyway), CommandResult::Done);
+  EXPECT_EQ(m_infrared.Asked, QStringList({QStringLiteral("open"), QStringLiteral("send")}));
+}
+
+TEST_F(InfraredCommands, Receive) {
+  EXPECT_TRUE(IsEnabled(ID_RECEIVE_INFRARED));
+  EXPECT_EQ(m_frame->RunCommand(ID_RECEIVE_INFRARED), CommandResult::Done);
+  EXPECT_EQ(m_infrared.Asked, QStringList{QStringLiteral("receive")});
+}
+
+TEST_F(InfraredCommands, AreDisabledByMemoAndDoNothing) {
+  View().ShowMode(ViewMode::ByMemo);
+  g_list.SelectedKeys = {0};
+  for (const int id : {ID_BEAM_CONTACTS, ID_RECEIVE_INFRARED}) {
+    EXPECT_FALSE(IsEnabled(id)) << id;
+    EXPECT_EQ(m_frame->RunCommand(id, CommandCheck::Anyway), CommandResult::Done);
+  }
+  EXPECT_EQ(m_infrared.Asked, QStringList());
+}
+
+TEST_F(InfraredCommands, TheConfigurationReceivesAtOnce) {
+  const test::Steps steps(*m_screen, {[this] {
+    CWindow& dialog = *m_screen->Topmost();
+    qobject_cast<QPushButton*>(dialog.Control(ConfigIds::kReceive))->click();
+    EXPECT_EQ(m_infrared.Asked, QStringList{QStringLiteral("receive")});
+    dialog.OnCancel();
+  }});
+  m_frame->RunCommand(ID_CONFIGURATION);
 }
 
 }  // namespace

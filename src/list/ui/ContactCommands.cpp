@@ -1,5 +1,6 @@
 #include "list/ui/ContactCommands.h"
 
+#include "list/Beaming.h"
 #include "list/ContactChanges.h"
 #include "list/ui/ContactsView.h"
 #include "list/ui/MemoCommands.h"
@@ -12,9 +13,6 @@
 namespace quill {
 
 namespace {
-
-// Listed in the menus, disabled until its window exists.
-CommandRow Unavailable(int id) { return {id, id, nullptr, nullptr}; }
 
 bool IsByMemo() { return g_list.Mode == ViewMode::ByMemo; }
 
@@ -60,8 +58,10 @@ std::unique_ptr<CommandTarget> MakeContactCommands(CContactsView& view) {
       {ID_DELETE_ITEMS, ID_DELETE_ITEMS, [&view](int) { DeleteSelected(view); }, whenSelected},
       {ID_DELETE_ALL, ID_DELETE_ALL, [&view](int) { DeleteListed(view); }, whenListed},
       {ID_COPY_CONTACT, ID_COPY_CONTACT, [&view](int) { CopySelected(view); }, nullptr},
-      Unavailable(ID_BEAM_CONTACTS),
-      Unavailable(ID_RECEIVE_INFRARED),
+      {ID_BEAM_CONTACTS, ID_BEAM_CONTACTS, [](int) { BeamSelectedContacts(g_list); },
+       [](int, CommandState& state) { state.Enabled = CanBeam(g_list); }},
+      {ID_RECEIVE_INFRARED, ID_RECEIVE_INFRARED, [](int) { ReceiveContacts(g_list); },
+       [](int, CommandState& state) { state.Enabled = !IsByMemo(); }},
   });
 }
 

@@ -1,5 +1,5 @@
-// The commands on the list as a whole and on its selected rows: new, search, copy, delete. By memo
-// the deleting ones act on memo files.
+// The commands on the list as a whole and on its selected rows: new, search, copy, delete, beam and
+// receive. By memo the deleting ones act on memo files.
 #pragma once
 
 #include <memory>

@@ -1,5 +1,6 @@
 #include "list/ui/SettingsCommands.h"
 
+#include "list/Beaming.h"
 #include "list/ContactChanges.h"
 #include "list/ui/ContactsView.h"
 #include "platform/ui/Screen.h"
@@ -24,7 +25,9 @@ void DeleteEveryone(CScreen& screen) {
 void Configure(CContactsView& view) {
   CScreen& screen = *ScreenAround(&view);
   // Saved and laid out also after a Cancel: intended.
-  CConfigDlg(screen, {.DeleteAll = [&screen] { DeleteEveryone(screen); }, .Receive = {}}).DoModal();
+  CConfigDlg(screen, {.DeleteAll = [&screen] { DeleteEveryone(screen); },
+                      .Receive = [] { ReceiveContacts(g_list); }})
+      .DoModal();
   SaveSettings(g_settings);
   view.Relayout();
 }
