@@ -10,12 +10,16 @@ namespace {
 constexpr Rgb kTitleText = 0xFFFFFF;
 constexpr Rgb kTitleButton = 0x5B7F95;
 constexpr Rgb kTitleButtonPressed = 0x8FB0C4;
+constexpr Rgb kNotice = 0xFFC83D;
+constexpr Rgb kNoticePressed = 0xFFE7A8;
+constexpr Rgb kNoticeText = 0x000000;
 constexpr Rgb kBarText = 0x000000;
 constexpr Rgb kBarDisabled = 0x8C8C8C;
 constexpr Rgb kBarPressed = 0xD6EDBA;
 constexpr int kTitleMargin = 5;
 constexpr int kOKWidth = 30;
 constexpr int kCloseWidth = 22;
+constexpr int kNoticeWidth = 76;
 constexpr int kBarPadding = 7;  // left and right of a menu's title
 constexpr int kPictureSize = 14;
 constexpr int kPictureButtonWidth = 26;
@@ -46,6 +50,22 @@ PaintedRow OKButton(QRect area, bool pressed) {
                        .Alignment = TextAlign::Centre,
                        .Weight = TextWeight::Bold,
                        .Color = kTitleText});
+  return row;
+}
+
+PaintedRow Notice(QRect area, const TitleNotice& notice, bool pressed) {
+  PaintedRow row{.Rectangle = area,
+                 .Key = kTitleNoticeKey,
+                 .SpokenName = notice.SpokenName,
+                 .Role = PaintedRole::Button};
+  const QRect picture(area.left() + 3, area.top() + (area.height() - kPictureSize) / 2,
+                      kPictureSize, kPictureSize);
+  row.Items = {
+      {.Rectangle = area.adjusted(1, 4, -1, -4), .Fill = pressed ? kNoticePressed : kNotice},
+      {.Rectangle = picture, .Color = kNoticeText, .Picture = &resources::kIncomingPicture},
+      {.Rectangle = area.adjusted(kPictureSize + 6, 0, -2, 0),
+       .Text = notice.Text,
+       .Color = kNoticeText}};
   return row;
 }
 
@@ -94,6 +114,11 @@ std::vector<PaintedRow> LayOutTitleBar(const TitleBarModel& model, QSize size) {
   if (model.HasOK) {
     right -= kOKWidth;
     buttons.push_back(OKButton({right, 0, kOKWidth, size.height()}, model.Pressed == kTitleOKKey));
+  }
+  if (model.Notice) {
+    right -= kNoticeWidth;
+    buttons.push_back(Notice({right, 0, kNoticeWidth, size.height()}, *model.Notice,
+                             model.Pressed == kTitleNoticeKey));
   }
   const QRect textArea{kTitleMargin, 0, right - 2 * kTitleMargin, size.height()};
   PaintedRow text{.Rectangle = textArea,

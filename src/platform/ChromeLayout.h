@@ -5,6 +5,7 @@
 #include <QSize>
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 #include "platform/MenuModel.h"
@@ -19,12 +20,23 @@ inline constexpr Rgb kTitleBackground = 0x2F5568;
 inline constexpr int kTitleTextKey = 0;
 inline constexpr int kTitleOKKey = 1;
 inline constexpr int kTitleCloseKey = 2;
+inline constexpr int kTitleNoticeKey = 3;
+
+// That something goes on, said beside the caption whatever window is on top.
+struct TitleNotice {
+  QString Text;
+  QString SpokenName;
+  int Command = 0;  // of the shell: what a tap does
+
+  bool operator==(const TitleNotice&) const = default;
+};
 
 struct TitleBarModel {
   QString Caption;
   bool HasOK = false;
   bool HasClose = true;
   int Pressed = -1;  // the key under the pen, -1 none
+  std::optional<TitleNotice> Notice = std::nullopt;
 };
 
 std::vector<PaintedRow> LayOutTitleBar(const TitleBarModel& model, QSize size);

@@ -31,6 +31,17 @@ inline constexpr std::array kClosePaths = {PicturePath{PictureShape::Line, kCros
                                            PicturePath{PictureShape::Line, kCrossUp}};
 inline constexpr Picture kClosePicture = {14, kClosePaths};
 
+// What comes in: an arrow into a tray.
+inline constexpr std::array kIncomingShaft = {PicturePoint{7, 2}, PicturePoint{7, 9}};
+inline constexpr std::array kIncomingHead = {PicturePoint{4, 6}, PicturePoint{7, 9},
+                                             PicturePoint{10, 6}};
+inline constexpr std::array kIncomingTray = {PicturePoint{2, 9}, PicturePoint{2, 12},
+                                             PicturePoint{12, 12}, PicturePoint{12, 9}};
+inline constexpr std::array kIncomingPaths = {PicturePath{PictureShape::Line, kIncomingShaft},
+                                              PicturePath{PictureShape::Line, kIncomingHead},
+                                              PicturePath{PictureShape::Line, kIncomingTray}};
+inline constexpr Picture kIncomingPicture = {14, kIncomingPaths};
+
 // The check mark of a menu item.
 inline constexpr std::array kCheckLine = {PicturePoint{3, 7}, PicturePoint{6, 10},
                                           PicturePoint{11, 4}};

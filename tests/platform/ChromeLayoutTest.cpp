@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "resources/Ids.h"
 
 namespace quill {
@@ -77,6 +79,27 @@ TEST(TitleBarLayout, OnlyTheButtonUnderThePenLooksPressed) {
   const auto after = LayOutTitleBar(pressed, kTitleBar);
   EXPECT_NE(FillOf(*RowOf(before, kTitleOKKey)), FillOf(*RowOf(after, kTitleOKKey)));
   EXPECT_EQ(FillOf(*RowOf(before, kTitleCloseKey)), FillOf(*RowOf(after, kTitleCloseKey)));
+}
+
+TEST(TitleBarLayout, ANoticeStandsBesideTheCaptionAndLeavesTheButtonsWhereTheyAre) {
+  const TitleBarModel plain{.Caption = QStringLiteral("Quill"), .HasOK = true};
+  TitleBarModel noticed = plain;
+  noticed.Notice = TitleNotice{QStringLiteral("Receiving"), QStringLiteral("Stop receiving"), 7};
+  const auto before = LayOutTitleBar(plain, kTitleBar);
+  const auto after = LayOutTitleBar(noticed, kTitleBar);
+  EXPECT_EQ(RowOf(before, kTitleNoticeKey), nullptr);
+  const PaintedRow* const notice = RowOf(after, kTitleNoticeKey);
+  ASSERT_NE(notice, nullptr);
+  EXPECT_EQ(notice->SpokenName, QStringLiteral("Stop receiving"));
+  EXPECT_EQ(notice->Role, PaintedRole::Button);
+  EXPECT_TRUE(std::ranges::any_of(notice->Items, [](const PaintedItem& item) {
+    return item.Text == QStringLiteral("Receiving");
+  }));
+  ExpectRowsStandApart(after, kTitleBar);
+  for (const int key : {kTitleOKKey, kTitleCloseKey})
+    EXPECT_EQ(RowOf(before, key)->Rectangle, RowOf(after, key)->Rectangle) << key;
+  noticed.Pressed = kTitleNoticeKey;
+  EXPECT_NE(FillOf(*notice), FillOf(*RowOf(LayOutTitleBar(noticed, kTitleBar), kTitleNoticeKey)));
 }
 
 class MenuBarLayout : public testing::Test {

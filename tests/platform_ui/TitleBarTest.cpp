@@ -1,6 +1,10 @@
 #include "platform/ui/TitleBar.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
+
 #include "platform/ui/MenuPopup.h"
+#include "platform_ui/AccessibleChild.h"
 #include "platform_ui/SampleWindows.h"
 #include "platform_ui/ScreenFixture.h"
 #include "resources/Ids.h"
@@ -146,6 +150,73 @@ TEST_F(TitleBarTest, ItsButtonsEndAFullScreenDialog) {
     EXPECT_EQ(dialog.DoModal(), result);
   }
   EXPECT_TRUE(m_frame.Happened.isEmpty());
+}
+
+class TitleNoticeTest : public TitleBarTest {
+ protected:
+  TitleNoticeTest() {
+    m_screen->ShowNotice(TitleNotice{QStringLiteral("Receiving"), m_name, ID_SHELL_SMALLER});
+  }
+  QRect Notice() const { return RowNamed(m_bar, m_name); }
+
+  const QString m_name = QStringLiteral("Receiving contacts");
+  const std::vector<int> m_ran{ID_SHELL_SMALLER};
+};
+
+TEST_F(TitleNoticeTest, ATapRunsItsCommand) {
+  m_input.Press(Notice().center());
+  m_timers.Advance(2000);
+  EXPECT_EQ(m_screen->Popup(), nullptr);
+  EXPECT_TRUE(m_shellRan.empty());
+  m_input.Release(Notice().center());
+  EXPECT_EQ(m_shellRan, m_ran);
+  EXPECT_TRUE(m_frame.Happened.isEmpty());
+}
+
+TEST_F(TitleNoticeTest, EscapeRunsItsCommandOnceAPress) {
+  m_frame.setFocus();
+  m_input.Key(Qt::Key_Escape);
+  EXPECT_EQ(m_shellRan, m_ran);
+  QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, {}, true);
+  QCoreApplication::sendEvent(&m_frame, &repeated);
+  EXPECT_EQ(m_shellRan, m_ran);
+}
+
+TEST_F(TitleNoticeTest, IsReadOutAndPressedByAssistiveTechnology) {
+  test::AccessibleChild child(m_bar, u"Receiving contacts");
+  EXPECT_EQ(child.Role(), QAccessible::PushButton);
+  child.Press();
+  EXPECT_EQ(m_shellRan, m_ran);
+}
+
+TEST_F(TitleNoticeTest, StaysBesideTheCaptionOfEveryWindow) {
+  test::SampleDialog dialog(*m_screen, test::FullScreenSample());
+  const Steps steps(*m_screen, {[&] {
+    EXPECT_EQ(ShownCaption(), QStringLiteral("Full sample"));
+    m_input.Tap(Notice().center());
+    EXPECT_EQ(m_shellRan, m_ran);
+    dialog.EndDialog(kResultOK);
+  }});
+  dialog.DoModal();
+  EXPECT_TRUE(Notice().isValid());
+}
+
+TEST_F(TitleNoticeTest, BelowASmallDialogItWaits) {
+  test::SampleDialog dialog(*m_screen);
+  const Steps steps(*m_screen, {[this] { m_input.Tap(Notice().center()); },
+                                [this] { m_input.Key(Qt::Key_Escape); }});
+  EXPECT_EQ(dialog.DoModal(), kResultCancel);
+  EXPECT_TRUE(m_shellRan.empty());
+}
+
+TEST_F(TitleNoticeTest, GoesWhenItIsTakenAway) {
+  const QPoint at = Notice().center();
+  m_screen->ShowNotice(std::nullopt);
+  EXPECT_FALSE(Notice().isValid());
+  m_input.Tap(at);
+  m_frame.setFocus();
+  m_input.Key(Qt::Key_Escape);
+  EXPECT_TRUE(m_shellRan.empty());
 }
 
 TEST_F(TitleBarTest, BelowASmallDialogItKeepsTheFramesCaptionAndTakesNoPen) {

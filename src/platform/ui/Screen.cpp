@@ -185,6 +185,8 @@ bool CScreen::HandleKey(QKeyEvent* event) {
     ShowContextMenu();
   } else if (event->key() == Qt::Key_F10) {
     m_menuBar->OpenFirstMenu();
+  } else if (event->key() == Qt::Key_Escape && !event->isAutoRepeat()) {
+    return IsChromeUsable() && m_titleBar->AnswerNotice();
   } else {
     return false;
   }
@@ -218,6 +220,10 @@ bool CScreen::eventFilter(QObject*, QEvent* event) {
 void CScreen::ShowContextMenu() {
   CWindow* const window = Topmost();
   if (!window || !window->ShowContextMenu()) ShowShellMenu(kTitleBarArea.bottomLeft());
+}
+
+void CScreen::ShowNotice(const std::optional<TitleNotice>& notice) {
+  m_titleBar->SetNotice(notice);
 }
 
 void CScreen::RunShellCommand(int id) {

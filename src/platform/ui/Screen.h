@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "platform/ScreenLayout.h"
@@ -18,6 +19,7 @@ class CMenuBar;
 class CMenuPopup;
 class CTitleBar;
 class PreeditWatch;
+struct TitleNotice;
 
 inline constexpr QRect kTitleBarArea{0, 0, kScreenWidth, kTitleBarHeight};
 inline constexpr QRect kClientArea{0, kTitleBarHeight, kScreenWidth, kClientHeight};
@@ -54,6 +56,11 @@ class CScreen : public QWidget {
   // The application's commands behind a tap-and-hold on the title bar. Not owned; may be null.
   void SetShellCommands(const CommandTarget* commands) { m_shellCommands = commands; }
   void ShowShellMenu(QPoint at);
+  void RunShellCommand(int id);
+
+  // Says something beside every caption; null: no longer. A tap on it, and Escape where no window
+  // has a use for that, runs its command.
+  void ShowNotice(const std::optional<TitleNotice>& notice);
 
   // Title bar and menu bar show the topmost full-screen window and stand above its shade; the keys
   // stand above every shade but a popup's.
@@ -83,7 +90,6 @@ class CScreen : public QWidget {
  private:
   bool HandleKey(QKeyEvent* event);
   void ShowContextMenu();
-  void RunShellCommand(int id);
   CWindow* ChromeOwner() const;
   void TellVisibleArea();
   void ShowKeys();

@@ -1,5 +1,7 @@
 #include "platform/ui/TitleBar.h"
 
+#include <algorithm>
+
 #include "platform/Services.h"
 #include "platform/ui/InputCommit.h"
 #include "platform/ui/Screen.h"
@@ -30,6 +32,27 @@ void CTitleBar::ShowFor(const CWindow* window) {
   m_model.HasOK = window && window->HasOK();
   m_model.HasClose = window != nullptr;
   LayOut();
+}
+
+void CTitleBar::SetNotice(const std::optional<TitleNotice>& notice) {
+  if (m_model.Notice == notice) return;
+  m_model.Notice = notice;
+  LayOut();
+  if (!notice) return;
+  QAccessibleEvent event(this, QAccessible::Alert);
+  event.setChild(RowOf(kTitleNoticeKey));
+  QAccessible::updateAccessibility(&event);
+}
+
+bool CTitleBar::AnswerNotice() {
+  if (!m_model.Notice) return false;
+  m_screen.RunShellCommand(m_model.Notice->Command);
+  return true;
+}
+
+int CTitleBar::RowOf(int key) const {
+  const auto row = std::ranges::find(Rows(), key, &PaintedRow::Key);
+  return row == Rows().end() ? -1 : static_cast<int>(row - Rows().begin());
 }
 
 void CTitleBar::LayOut() { SetRows(LayOutTitleBar(m_model, size())); }
@@ -69,6 +92,7 @@ void CTitleBar::Press(int key) {
   CommitInput();
   if (key == kTitleOKKey) window->OnOK();
   if (key == kTitleCloseKey) window->OnCancel();
+  if (key == kTitleNoticeKey) AnswerNotice();
 }
 
 void CTitleBar::OnTimer(int id) {

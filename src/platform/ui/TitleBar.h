@@ -1,5 +1,5 @@
-// The title bar: the topmost full-screen window's caption, OK and close. A tap-and-hold opens the
-// shell's own menu.
+// The title bar: the topmost full-screen window's caption, OK and close, and what goes on beside
+// them. A tap-and-hold opens the shell's own menu.
 #pragma once
 
 #include "platform/ChromeLayout.h"
@@ -19,6 +19,9 @@ class CTitleBar : public CPaintedWindow, public TimerTarget {
 
   // Null: an empty bar.
   void ShowFor(const CWindow* window);
+  void SetNotice(const std::optional<TitleNotice>& notice);
+  // What a tap on the notice does. False when there is none.
+  bool AnswerNotice();
 
   void ActivateRow(int row) override;
   void ShowRowMenu(int row) override;
@@ -31,6 +34,7 @@ class CTitleBar : public CPaintedWindow, public TimerTarget {
 
  private:
   int KeyAt(QPoint at) const;
+  int RowOf(int key) const;
   void SetPressed(int key);
   void LayOut();
   void Press(int key);
