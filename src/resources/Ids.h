@@ -69,6 +69,7 @@ inline constexpr int ID_SHELL_FULL_SCREEN = 60003;
 inline constexpr int ID_SHELL_IMPORT = 60004;
 inline constexpr int ID_SHELL_EXPORT = 60005;
 inline constexpr int ID_IMPORTED_DETAILS = 60006;
+inline constexpr int ID_SHELL_STOP_RECEIVING = 60007;
 
 // The messages that tell the main frame of changes in the store, and the one it hands to the view.
 inline constexpr int kMessageItemWritten = 1025;

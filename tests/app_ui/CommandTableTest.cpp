@@ -28,6 +28,7 @@ const std::map<int, const char*> kSenders = {
     {ID_FILE_NEW, "the menu bar's button"},
     {ContactsViewIds::kSearchButton, "the search button"},
     {ID_SHELL_INPUT_PANEL, "the menu bar's button"},
+    {ID_SHELL_STOP_RECEIVING, "the marker in the title bar"},
 };
 
 template <class Entries>

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include "app/ui/ShellInfrared.h"
 #include "list/ListState.h"
 #include "memo/MemoState.h"
 #include "platform/Services.h"
@@ -190,6 +191,54 @@ TEST_F(ContactsAppTest, WhenItEndsNoWindowAndNoServiceOfItsIsLeft) {
   EXPECT_EQ(QApplication::allWidgets().size(), before);
   EXPECT_EQ(g_services.Prompt, nullptr);
   EXPECT_EQ(g_services.Timers, nullptr);
+  EXPECT_EQ(g_services.Infrared, nullptr);
+}
+
+TEST_F(ContactsAppTest, ReceivedContactsCountAsAnothersChange) {
+  Run([this] {
+    return std::vector<Step>{[this] { m_app->Infrared().ContactsReceived(); },
+                             [] { EXPECT_TRUE(g_list.RebuildDue); }, Closing()};
+  });
+}
+
+TEST_F(ContactsAppTest, TheScaleStaysWhileAReceiveIsOn) {
+  ASSERT_TRUE(WriteInfraredSettings(*g_services.Registry, {.Port = 0}));
+  const ShellEnd end = Run([this] {
+    return std::vector<Step>{[] { ASSERT_TRUE(g_services.Infrared->Receive()); },
+                             Key(Qt::Key_Plus, Qt::ControlModifier),
+                             [this] { m_app->ToggleFullScreen(); },
+                             [this] { EXPECT_FALSE(m_app->MayChangeScale()); },
+                             Key(Qt::Key_Escape),
+                             [this] {
+                               ASSERT_EQ(m_screen->Topmost()->Kind(), WindowKind::Message);
+                               m_screen->Topmost()->OnOK();
+                             },
+                             [this] { EXPECT_TRUE(m_app->MayChangeScale()); },
+                             Key(Qt::Key_Plus, Qt::ControlModifier)};
+  });
+  ASSERT_TRUE(end.Next.has_value());
+  EXPECT_EQ(end.Next->At, Scale{5}) << "one step: the first was refused";
+}
+
+TEST_F(ContactsAppTest, TheProgramMayCloseWhileAReceiveIsOn) {
+  ASSERT_TRUE(WriteInfraredSettings(*g_services.Registry, {.Port = 0}));
+  const ShellEnd end = Run([this] {
+    return std::vector<Step>{[] { ASSERT_TRUE(g_services.Infrared->Receive()); }, Closing()};
+  });
+  EXPECT_EQ(end.ExitCode, 0);
+}
+
+TEST_F(ContactsAppTest, TheProgramMayCloseWhileAReceiverIsChosen) {
+  Run([this] {
+    return std::vector<Step>{
+        [this] {
+          const Oid oid = g_store.Provider->Contacts()->Save(0, {}, {});
+          InfraredFolder& folder = *g_services.Infrared;
+          EXPECT_TRUE(folder.Open() && folder.AddItem(oid) && folder.Send());
+        },
+        [this] { EXPECT_EQ(m_screen->Topmost()->Caption(), QStringLiteral("Beam to")); },
+        Closing()};
+  });
 }
 
 TEST_F(ContactsAppTest, AStoreThatIsNoStoreIsToldInAWindowThatTheUserSees) {

@@ -13,6 +13,7 @@
 #include "app/ui/FileExchange.h"
 #include "app/ui/MainFrame.h"
 #include "app/ui/ShellCommands.h"
+#include "app/ui/ShellInfrared.h"
 #include "ink/ui/InkAccessibility.h"
 #include "list/ui/ContactsView.h"
 #include "platform/Services.h"
@@ -22,6 +23,7 @@
 #include "platform/ui/OuterWindow.h"
 #include "platform/ui/Screen.h"
 #include "platform/ui/ScreenPrompt.h"
+#include "resources/Ids.h"
 #include "resources/Strings.h"
 #include "store/ContactStore.h"
 
@@ -53,6 +55,7 @@ CContactsApp::CContactsApp(Program& program, const ShellStart& start)
   m_prompt = std::make_unique<ScreenPrompt>(*m_screen);
   g_services.Prompt = m_prompt.get();
   m_files = std::make_unique<FileExchange>(*m_screen, m_program.Where());
+  m_infrared = std::make_unique<ShellInfrared>(*m_screen, m_program, m_timers);
   m_commands = std::make_unique<ShellCommands>(*this);
   m_screen->SetShellCommands(m_commands.get());
   m_screen->Closed = [this] { Leave({}); };
@@ -63,6 +66,7 @@ CContactsApp::CContactsApp(Program& program, const ShellStart& start)
 CContactsApp::~CContactsApp() {
   m_bus.reset();
   m_channel.reset();
+  m_infrared.reset();
   m_frame.reset();
   m_outer.reset();
   g_services.Prompt = nullptr;
@@ -89,6 +93,7 @@ void CContactsApp::InitInstance() {
   m_frame = std::make_unique<CMainFrame>(*m_screen, *m_commands);
   m_frame->show();
   AcceptDrops();
+  FollowInfrared();
   ShowMainWindow();  // before the session: opening it may have to show a message
   Listen();
   m_program.TakeFirstStart() ? SetUp() : m_frame->View().ShowState();
@@ -111,6 +116,11 @@ void CContactsApp::AcceptDrops() {
   m_files->MemoTaken = [this](const QString& path) { m_frame->View().OpenMemoFile(path); };
   m_outer->MayDrop = [this] { return IsIdle(); };
   m_outer->FilesDropped = [this](const QStringList& files) { TakeLater(files); };
+}
+
+// As of a change that others made.
+void CContactsApp::FollowInfrared() {
+  m_infrared->ContactsReceived = [this] { m_frame->PostStoreMessage(kMessageItemWritten, 0, 0); };
 }
 
 void CContactsApp::ShowMainWindow() {
@@ -173,7 +183,10 @@ std::optional<Scale> CContactsApp::SmallerScale() const {
   return IsFullScreen() || smaller == m_start.At ? std::nullopt : std::optional(smaller);
 }
 
-bool CContactsApp::MayLeave() const { return IsIdle() && !m_screen->IsPenDown(); }
+// A receive would end with the shell.
+bool CContactsApp::MayChangeScale() const { return IsIdle() && !m_infrared->IsReceiving(); }
+
+bool CContactsApp::MayLeave() const { return MayChangeScale() && !m_screen->IsPenDown(); }
 
 void CContactsApp::ChangeScale(Scale scale) {
   if (!MayLeave()) return;

@@ -21,6 +21,7 @@ class RequestBus;
 class RequestChannel;
 class ScreenPrompt;
 class ShellCommands;
+class ShellInfrared;
 
 // Asked for on the command line and taken as it is, remembered and to be fitted to the desktop
 // once, or fitted already.
@@ -51,7 +52,8 @@ class CContactsApp {
   bool IsIdle() const;
 
   // What the shell's commands do. There may be no larger or smaller scale. A change ends the shell;
-  // unless all is idle and the pen is up nothing happens.
+  // unless all is idle, the pen is up and no receive is on nothing happens.
+  bool MayChangeScale() const;
   std::optional<Scale> LargerScale() const;
   std::optional<Scale> SmallerScale() const;
   bool IsFullScreen() const;
@@ -60,6 +62,7 @@ class CContactsApp {
   void ShowAbout();
   // Contacts in and out.
   FileExchange& Files() { return *m_files; }
+  ShellInfrared& Infrared() { return *m_infrared; }
 
  private:
   Scale FittedScale() const;
@@ -70,6 +73,7 @@ class CContactsApp {
   void LeaveFor(Scale next);
   void Leave(const ShellEnd& end);
   void AcceptDrops();
+  void FollowInfrared();
   void TakeLater(const QStringList& files);
   void Listen();
   bool HandleRequest(const Request& request);
@@ -84,6 +88,7 @@ class CContactsApp {
   CScreen* m_screen;  // the outer window's child
   std::unique_ptr<ScreenPrompt> m_prompt;
   std::unique_ptr<FileExchange> m_files;
+  std::unique_ptr<ShellInfrared> m_infrared;
   std::unique_ptr<ShellCommands> m_commands;
   std::unique_ptr<CContactsDoc> m_document;
   std::unique_ptr<CMainFrame> m_frame;

@@ -2,6 +2,7 @@
 
 #include "app/ui/ContactsApp.h"
 #include "app/ui/FileExchange.h"
+#include "app/ui/ShellInfrared.h"
 #include "resources/Ids.h"
 
 namespace quill {
@@ -16,7 +17,7 @@ CommandRow ScaleRow(int id, CContactsApp& application, ScaleChoice choose) {
             if (const auto scale = (application.*choose)()) application.ChangeScale(*scale);
           },
           [&application, choose](int, CommandState& state) {
-            state.Enabled = application.IsIdle() && (application.*choose)().has_value();
+            state.Enabled = application.MayChangeScale() && (application.*choose)().has_value();
           }};
 }
 
@@ -39,8 +40,13 @@ ShellCommands::ShellCommands(CContactsApp& application)
           {ID_SHELL_FULL_SCREEN, ID_SHELL_FULL_SCREEN,
            [&application](int) { application.ToggleFullScreen(); },
            [&application](int, CommandState& state) {
-             state.Enabled = application.IsIdle();
+             state.Enabled = application.MayChangeScale();
              state.Checked = application.IsFullScreen();
+           }},
+          {ID_SHELL_STOP_RECEIVING, ID_SHELL_STOP_RECEIVING,
+           [&application](int) { application.Infrared().StopReceiving(); },
+           [&application](int, CommandState& state) {
+             state.Enabled = application.Infrared().IsReceiving();
            }},
       }) {}
 
