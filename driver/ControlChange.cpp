@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 
 #include "driver/Arguments.h"
@@ -36,8 +37,17 @@ Change ChangeText(QWidget& control, const QString& text) {
   };
 }
 
+Change ChangeRow(QListWidget& list, int index) {
+  if (index < 0 || index >= list.count()) return std::nullopt;
+  return [&list, index] {
+    list.setFocus(Qt::MouseFocusReason);
+    list.setCurrentRow(index);
+  };
+}
+
 // An entry that is selected already is activated all the same, as a user may do.
 Change ChangeIndex(QWidget& control, int index) {
+  if (auto* rows = qobject_cast<QListWidget*>(&control)) return ChangeRow(*rows, index);
   auto* list = qobject_cast<QComboBox*>(&control);
   if (list == nullptr || index < 0 || index >= list->count()) return std::nullopt;
   return [list, index] {

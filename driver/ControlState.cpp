@@ -7,6 +7,7 @@
 #include <QJsonArray>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 
 #include <optional>
@@ -35,6 +36,13 @@ void AddDropDown(QJsonObject& object, const QComboBox& list) {
   for (int i = 0; i < list.count(); ++i) items.append(list.itemText(i));
   object.insert(u"items", items);
   object.insert(u"index", list.currentIndex());
+}
+
+void AddList(QJsonObject& object, const QListWidget& list) {
+  QJsonArray items;
+  for (int i = 0; i < list.count(); ++i) items.append(list.item(i)->text());
+  object.insert(u"items", items);
+  object.insert(u"index", list.selectedItems().isEmpty() ? -1 : list.currentRow());
 }
 
 void AddCheckList(QJsonObject& object, const CCheckList& list) {
@@ -79,6 +87,7 @@ QJsonObject ControlJson(int id, const QWidget& control, const QRect& place) {
   if (button && button->isCheckable()) object.insert(u"checked", button->isChecked());
   if (const auto* list = qobject_cast<const QComboBox*>(&control)) AddDropDown(object, *list);
   if (const auto* list = qobject_cast<const CCheckList*>(&control)) AddCheckList(object, *list);
+  if (const auto* list = qobject_cast<const QListWidget*>(&control)) AddList(object, *list);
   if (const auto* edit = qobject_cast<const QDateTimeEdit*>(&control))
     AddDateAndTime(object, *edit);
   if (const auto* picker = qobject_cast<const CDatePicker*>(&control))

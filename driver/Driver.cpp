@@ -34,8 +34,8 @@ Driver::Driver(Parts parts, int input, int output)
     : m_parts(std::move(parts)),
       m_input(input),
       m_output(output),
-      m_context{*this,          m_pen,         m_parts.Clock,    m_parts.Faults,
-                m_parts.Sounds, m_parts.Store, m_parts.StoreFile},
+      m_context{*this,          m_pen,         m_parts.Clock,     m_parts.Faults,
+                m_parts.Sounds, m_parts.Store, m_parts.StoreFile, m_parts.Infrared},
       m_buffer(kLongestLine) {}
 
 Driver::~Driver() {

@@ -26,6 +26,7 @@ class Driver : public Steps {
     const SilentSounds& Sounds;
     StoreProvider& Store;  // below the faults
     QString StoreFile;
+    ScriptedInfrared& Infrared;
   };
   // Files are descriptors, which stay open; the driver does not close them.
   Driver(Parts parts, int input, int output);

@@ -7,10 +7,23 @@ namespace quill::driver {
 
 namespace {
 
-constexpr std::array<QStringView, 12> kNames = {
-    u"store-create", u"store-logon", u"contacts-folder", u"calendar-folder",  u"restrict",
-    u"read",         u"write",       u"delete",          u"save-appointment", u"appointment-ink",
-    u"memo-folder",  u"memo-create",
+constexpr std::array<QStringView, 16> kNames = {
+    u"store-create",
+    u"store-logon",
+    u"contacts-folder",
+    u"calendar-folder",
+    u"restrict",
+    u"read",
+    u"write",
+    u"delete",
+    u"save-appointment",
+    u"appointment-ink",
+    u"memo-folder",
+    u"memo-create",
+    u"infrared-folder",
+    u"infrared-add",
+    u"infrared-send",
+    u"infrared-receive",
 };
 
 }  // namespace

@@ -31,6 +31,7 @@ OperationTable AllOperations() {
   Append(table, SettingsOperations());
   Append(table, RecordOperations());
   Append(table, InkOperations());
+  Append(table, InfraredOperations());
   return table;
 }
 

@@ -16,6 +16,7 @@ namespace quill::driver {
 
 class FaultTable;
 class Pen;
+class ScriptedInfrared;
 class SettableClock;
 class SilentSounds;
 class Steps;
@@ -29,6 +30,7 @@ struct OperationContext {
   const SilentSounds& Sounds;
   StoreProvider& Store;  // below the faults
   QString StoreFile;
+  ScriptedInfrared& Infrared;
 };
 
 using Handler = std::function<Answer(const QJsonObject& arguments, OperationContext& context)>;
@@ -59,6 +61,7 @@ OperationTable FrameOperations();
 OperationTable SettingsOperations();
 OperationTable RecordOperations();
 OperationTable InkOperations();
+OperationTable InfraredOperations();
 
 // The answer of the operation with this name; unknown ones are refused.
 Answer RunOperation(const OperationTable& table, const Request& request, OperationContext& context);

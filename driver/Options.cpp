@@ -30,11 +30,18 @@ bool TakeFault(const QString& value, Options& options) {
   return hasCode && FaultTable::IsKnown(name);
 }
 
+bool TakeInfrared(const QString& value, Options& options) {
+  const bool isReal = value == u"obex";
+  if (isReal) options.Infrared = InfraredChoice::Real;
+  return isReal || value == u"script";
+}
+
 bool TakeOption(const QString& name, const QString& value, Options& options) {
   if (name == u"--home") return TakeHome(value, options);
   if (name == u"--now") return TakeNow(value, options);
   if (name == u"--scale") return TakeScale(value, options);
   if (name == u"--fault") return TakeFault(value, options);
+  if (name == u"--infrared") return TakeInfrared(value, options);
   return false;
 }
 

@@ -18,11 +18,15 @@ struct NamedFault {
   Fault What;
 };
 
+// What carries contacts: nothing but a script, or the program's own way to other devices.
+enum class InfraredChoice { Scripted, Real };
+
 struct Options {
   QString Home;  // empty: a fresh temporary one
   std::optional<QDateTime> Now;
   quill::Scale Scale{4};
   std::vector<NamedFault> Faults;
+  InfraredChoice Infrared = InfraredChoice::Scripted;
 };
 
 struct ParsedOptions {

@@ -13,8 +13,10 @@
 #include "driver/Driver.h"
 #include "driver/FaultyFiles.h"
 #include "driver/FaultyStore.h"
+#include "driver/ScriptedInfrared.h"
 #include "driver/SettableClock.h"
 #include "driver/SilentSounds.h"
+#include "driver/StoreNotice.h"
 #include "platform/JsonRegistry.h"
 #include "platform/Services.h"
 #include "store/pim/PimStore.h"
@@ -59,12 +61,14 @@ int RunSession(const OperationTable& operations, int& argc, char** argv) {
   g_services.Files = &files;
   SilentSounds sounds;
   g_services.Sounds = &sounds;
+  ScriptedInfrared infrared(program.Store(), faults, NotifyOfOthersChange);
+  if (options.Infrared == InfraredChoice::Scripted) g_services.Infrared = &infrared;
 
   // A reader that goes away ends the script, not the process.
   std::signal(SIGPIPE, SIG_IGN);
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  Driver driver({operations, clock, faults, sounds, store, places.StoreFile}, STDIN_FILENO,
-                STDOUT_FILENO);
+  Driver driver({operations, clock, faults, sounds, store, places.StoreFile, infrared},
+                STDIN_FILENO, STDOUT_FILENO);
   driver.FollowApplications();
   const int code = RunShell(program, argc, argv);
   driver.Finish();

@@ -7,7 +7,9 @@ namespace quill::driver {
 
 // Adds a step that posts the message with this first parameter to the main frame.
 void Notify(OperationContext& context, int message, int first);
-// As of another program's change, unless the arguments say "quiet".
+// Posts it at once, as of another program's change.
+void NotifyOfOthersChange();
+// The same as a step, unless the arguments say "quiet".
 void NotifyUnlessQuiet(const QJsonObject& arguments, OperationContext& context);
 
 }  // namespace quill::driver

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QListWidget>
 
 #include "platform/ui/CheckList.h"
 #include "platform/ui/DatePicker.h"
@@ -40,6 +41,18 @@ TEST_F(ControlChangeTest, ARowOfACheckListIsCheckedAndUnchecked) {
   EXPECT_TRUE(m_list.hasFocus());
   EXPECT_TRUE(Set(0, false));
   EXPECT_EQ(Checks(), (std::vector<bool>{false, true}));
+}
+
+TEST_F(ControlChangeTest, ARowOfAListIsSelected) {
+  QListWidget list(&m_frame);
+  list.addItems({QStringLiteral("Phone"), QStringLiteral("Desk")});
+  for (const int row : {-1, 2})
+    EXPECT_FALSE(PrepareChange(list, {{QStringLiteral("index"), row}}).has_value()) << row;
+  const auto change = PrepareChange(list, {{QStringLiteral("index"), 1}});
+  ASSERT_TRUE(change.has_value());
+  (*change)();
+  EXPECT_EQ(list.currentRow(), 1);
+  EXPECT_EQ(list.selectedItems().size(), 1);
 }
 
 TEST_F(ControlChangeTest, ARowThatIsAsItShallBeIsMadeCurrent) {

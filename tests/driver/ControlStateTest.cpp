@@ -3,6 +3,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLineEdit>
+#include <QListWidget>
 
 #include "platform/ui/CheckList.h"
 #include "platform/ui/DatePicker.h"
@@ -33,6 +34,15 @@ TEST_F(ControlStateTest, ACheckListGivesItsItemsAndTheCurrentOne) {
   list.SetCurrent(1);
   EXPECT_EQ(Value(list, u"index").toInt(), 1);
   EXPECT_EQ(Value(list, u"class").toString(), QStringLiteral("CheckList"));
+}
+
+TEST_F(ControlStateTest, AListGivesItsItemsAndTheSelectedOne) {
+  QListWidget list(&m_frame);
+  list.addItems({QStringLiteral("Phone"), QStringLiteral("Desk")});
+  EXPECT_EQ(Text(Value(list, u"items")), R"(["Phone","Desk"])");
+  EXPECT_EQ(Value(list, u"index").toInt(), -1);
+  list.setCurrentRow(1);
+  EXPECT_EQ(Value(list, u"index").toInt(), 1);
 }
 
 TEST_F(ControlStateTest, ADateGivesTheDayItShowsAndWhetherThereIsOne) {
