@@ -15,7 +15,7 @@ class CConsentDlg : public CDialog {
   // Whether the next ones of this device are wanted unasked.
   bool IsAlwaysChecked() const;
 
-  // It comes by itself: a key that was meant for something else answers nothing.
+  // It comes by itself: a key that was meant for something else must not say yes.
   bool HasOK() const override { return false; }
   void OnOK() override {}
 

@@ -137,7 +137,10 @@ void CContactsApp::Listen() {
   m_channel = std::make_unique<RequestChannel>(RequestSocket(m_program.Where()), handler);
   m_channel->Listen();  // a failure is logged: the window works without
   m_bus = std::make_unique<RequestBus>(handler);
-  QTimer::singleShot(0, m_bus.get(), [this] { m_bus->JoinSession(); });
+  QTimer::singleShot(0, m_bus.get(), [this] {
+    m_bus->JoinSession();
+    m_infrared->JoinBluetooth();
+  });
 }
 
 bool CContactsApp::HandleRequest(const Request& request) {

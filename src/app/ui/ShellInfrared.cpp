@@ -1,5 +1,8 @@
 #include "app/ui/ShellInfrared.h"
 
+#include <utility>
+
+#include "app/ObexBluetoothTransport.h"
 #include "app/Program.h"
 #include "platform/ChromeLayout.h"
 #include "platform/Prompt.h"
@@ -10,7 +13,7 @@
 namespace quill {
 
 ShellInfrared::ShellInfrared(CScreen& screen, Program& program, Timers& timers)
-    : m_screen(screen), m_picker(screen, timers), m_consent(screen, timers) {
+    : m_screen(screen), m_timers(timers), m_picker(screen, timers), m_consent(screen, timers) {
   if (g_services.Infrared) return;
   m_folder.emplace(
       InfraredParts{program.Store(), *g_services.Registry, timers, m_picker, m_consent});
@@ -23,6 +26,11 @@ ShellInfrared::ShellInfrared(CScreen& screen, Program& program, Timers& timers)
 
 ShellInfrared::~ShellInfrared() {
   if (m_folder) g_services.Infrared = nullptr;
+}
+
+void ShellInfrared::JoinBluetooth() {
+  if (!m_folder) return;
+  if (auto bluetooth = quill::JoinBluetooth(m_timers)) m_folder->AddTransport(std::move(bluetooth));
 }
 
 void ShellInfrared::StopReceiving() {

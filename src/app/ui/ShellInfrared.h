@@ -22,6 +22,9 @@ class ShellInfrared {
   ShellInfrared(const ShellInfrared&) = delete;
   ShellInfrared& operator=(const ShellInfrared&) = delete;
 
+  // Carries contacts by Bluetooth as well, where the desktop has it. Takes a moment.
+  void JoinBluetooth();
+
   bool IsReceiving() const { return m_folder && m_folder->IsReceiving(); }
   // Asks first.
   void StopReceiving();
@@ -33,6 +36,7 @@ class ShellInfrared {
   void ShowMarker();
 
   CScreen& m_screen;
+  Timers& m_timers;
   ReceiverPicker m_picker;
   ConsentQuestion m_consent;
   std::optional<ObexInfrared> m_folder;  // none where something else carries contacts
