@@ -67,13 +67,14 @@ void CTimePicker::OpenList() {
   if (const int chosen = popup.Track()) setTime(TimeOf(chosen - 1));
 }
 
+// The M of both is taken as well: it says nothing more.
 bool CTimePicker::ChooseHalfOfDay(const QKeyEvent& event) {
   const QString letter = event.text().toUpper();
-  const bool toPm = letter == QStringLiteral("P");
-  const bool isHalf = toPm || letter == QStringLiteral("A");
-  if (currentSection() != AmPmSection || !isHalf) return false;
+  const bool isLetter = letter.size() == 1 && QStringLiteral("APM").contains(letter);
+  if (currentSection() != AmPmSection || !isLetter) return false;
   constexpr int kHalfDay = 12 * 60 * 60;  // seconds
-  if ((time().hour() >= 12) != toPm) setTime(time().addSecs(kHalfDay));
+  const QString other = time().hour() < 12 ? QStringLiteral("P") : QStringLiteral("A");
+  if (letter == other) setTime(time().addSecs(kHalfDay));
   setSelectedSection(AmPmSection);
   return true;
 }
