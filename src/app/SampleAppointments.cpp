@@ -32,7 +32,8 @@ const auto kAppointments = std::to_array<SampleAppointment>({
      90},
     {u"Zander, Milo", u" Tennis", u"Court 3", QDate(2024, 6, 6), QTime(20, 0), 60, Repeats::Weekly,
      u"Own balls"},
-    {u"김서연", u" 저녁 식사", u"박가네식당", QDate(2024, 6, 20), QTime(18, 30), 120},
+    {u"김서연", u" 저녁 식사", u"박가네식당", QDate(2024, 6, 20), QTime(18, 30), 120,
+     Repeats::Never, u"2층 창가 자리,\n생일 케이크"},
     {u"이준호", u" 등산", u"", QDate(2024, 6, 22), QTime(7, 0), 300},
 });
 
