@@ -9,10 +9,10 @@
 #include <span>
 #include <vector>
 
+#include "appointments/SoundNames.h"
+
 namespace quill {
 namespace {
-
-constexpr QStringView kFolder = u"\\Windows";
 
 constexpr quint32 kRate = 22'050;  // samples a second
 constexpr double kPeak = 0.6 * 32'767;
@@ -104,10 +104,9 @@ QByteArray WaveFile(const SampleSound& sound) {
 }  // namespace
 
 void MakeSampleSounds(DeviceFiles& files) {
-  const QString folder = kFolder.toString();
-  if (files.CreateFolder(folder) != 0) return;
+  if (files.CreateFolder(kSoundFolder.toString()) != 0) return;
   for (const SampleSound& sound : kSounds)
-    files.WriteWhole(folder + u'\\' + sound.Name.toString(), WaveFile(sound));
+    files.WriteWhole(SoundPath(sound.Name.toString()), WaveFile(sound));
 }
 
 }  // namespace quill

@@ -1,29 +1,30 @@
 #include "appointments/AppointmentPreviewButtons.h"
 
-#include "resources/AppointmentIds.h"
 #include "resources/AppointmentPictures.h"
+#include "resources/AppointmentPreviewDialog.h"
 
 namespace quill {
 
 namespace {
 
 struct ButtonFacts {
-  int Command;
   QStringView Name;
   const resources::Picture* Picture;
-  QPoint TopLeft;
 };
-
-constexpr int kSize = 20;
 
 // By PreviewButton.
 constexpr std::array kButtons = {
-    ButtonFacts{AppointmentPreviewIds::kModify, u"Modify", &resources::kModifyPicture, {216, 16}},
-    ButtonFacts{AppointmentPreviewIds::kDelete, u"Delete", &resources::kDeletePicture, {216, 39}},
+    ButtonFacts{u"Modify", &resources::kModifyPicture},
+    ButtonFacts{u"Delete", &resources::kDeletePicture},
 };
 
 const ButtonFacts& FactsOf(PreviewButton button) {
   return kButtons[static_cast<std::size_t>(button)];
+}
+
+// The hidden one whose place and command it has.
+const resources::DialogControl& ControlOf(PreviewButton button) {
+  return resources::kAppointmentPreviewControls[static_cast<std::size_t>(button)];
 }
 
 std::optional<PreviewButton> ButtonAt(QPoint at) {
@@ -34,13 +35,16 @@ std::optional<PreviewButton> ButtonAt(QPoint at) {
 
 }  // namespace
 
-int CommandOf(PreviewButton button) { return FactsOf(button).Command; }
+int CommandOf(PreviewButton button) { return ControlOf(button).Id; }
 
 QStringView NameOf(PreviewButton button) { return FactsOf(button).Name; }
 
 const resources::Picture& PictureOf(PreviewButton button) { return *FactsOf(button).Picture; }
 
-QRect PlaceOf(PreviewButton button) { return {FactsOf(button).TopLeft, QSize(kSize, kSize)}; }
+QRect PlaceOf(PreviewButton button) {
+  const resources::Rectangle& place = ControlOf(button).Place;
+  return {place.X, place.Y, place.Width, place.Height};
+}
 
 QRect HotAreaOf(PreviewButton button) { return PlaceOf(button).adjusted(1, 1, 0, 0); }
 

@@ -16,7 +16,6 @@ constexpr int kTabHeight = 14;
 constexpr int kLineTop = kTabTop + kTabHeight;
 
 constexpr Rgb kGround = 0xDDE6EB;
-constexpr Rgb kChosenGround = 0xF0F0F0;  // that of the page
 constexpr Rgb kPressedGround = 0xD6EDBA;
 constexpr Rgb kLine = 0x2F5568;
 
@@ -24,7 +23,7 @@ QRect TabArea(int kind) { return {kind * kTabWidth, kTabTop, kTabWidth, kTabHeig
 
 Rgb GroundOf(const KindStripModel& model, RecurrenceKind kind) {
   if (kind == model.Pressed) return kPressedGround;
-  return kind == model.Kind ? kChosenGround : kGround;
+  return kind == model.Kind ? kKindStripGround : kGround;
 }
 
 void AddBorder(PaintedRow& row) {
@@ -63,7 +62,7 @@ PaintedRow LayOutLine(const KindStripModel& model) {
   const QRect chosen = TabArea(static_cast<int>(model.Kind));
   const QRect open(chosen.left() + 1, kLineTop, kTabWidth - 2, 1);
   row.Items.push_back({.Rectangle = area, .Fill = kLine});
-  row.Items.push_back({.Rectangle = open, .Fill = kChosenGround});
+  row.Items.push_back({.Rectangle = open, .Fill = kKindStripGround});
   if (model.HasFocus)
     row.Items.push_back({.Rectangle = open, .Fill = kLine, .Pattern = FillPattern::Dots});
   return row;

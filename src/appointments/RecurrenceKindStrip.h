@@ -11,6 +11,7 @@
 namespace quill {
 
 inline constexpr QRect kKindStripArea{0, 0, 240, 20};
+inline constexpr Rgb kKindStripGround = 0xF0F0F0;  // that of the page
 
 struct KindStripModel {
   RecurrenceKind Kind = RecurrenceKind::Daily;

@@ -5,7 +5,7 @@
 
 namespace quill {
 
-QString SoundPath(const QString& name) { return QStringLiteral("\\Windows\\") + name; }
+QString SoundPath(const QString& name) { return kSoundFolder.toString() + u'\\' + name; }
 
 QStringList SoundNames(const QStringList& extensions) {
   QStringList names;

@@ -5,6 +5,7 @@
 
 namespace quill {
 
+inline constexpr QStringView kSoundFolder = u"\\Windows";
 inline constexpr QStringView kSoundOff = u"Sound off";  // what stands for no sound
 
 // The names of the files in "\Windows\" with one of these extensions (such as "wav"), sorted

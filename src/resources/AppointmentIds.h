@@ -34,9 +34,6 @@ inline constexpr int kDeleteResult = 11;
 
 // The recurrence wizard.
 namespace RecurrenceSheetIds {
-inline constexpr int kSheet = 267;
-inline constexpr int kPatternPage = 265;
-inline constexpr int kRangePage = 266;
 inline constexpr int kBack = 1001;
 inline constexpr int kNext = 1002;
 }  // namespace RecurrenceSheetIds

@@ -9,6 +9,7 @@
 
 namespace quill::resources {
 
+// Top to bottom.
 inline constexpr std::array kAppointmentPreviewControls = {
     DialogControl{ControlKind::Button,
                   AppointmentPreviewIds::kModify,

@@ -6,18 +6,12 @@
 
 namespace quill {
 
-namespace {
-
-constexpr Rgb kPageGround = 0xF0F0F0;
-
-}  // namespace
-
 CRecurrenceKindTabs::CRecurrenceKindTabs(QWidget* parent)
     : CPaintedWindow(parent, QAccessible::PageTabList) {
   setAccessibleName(QStringLiteral("How often"));
   setFocusPolicy(Qt::StrongFocus);
   setGeometry(kKindStripArea);
-  SetBackground(kPageGround);
+  SetBackground(kKindStripGround);
   LayOut();
 }
 
