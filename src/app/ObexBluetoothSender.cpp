@@ -111,8 +111,10 @@ void ObexBluetoothSender::Finish() {
 
 void ObexBluetoothSender::Drop() {
   Leave();
-  // It may be the context of the call that is going on.
-  if (m_job) m_job.release()->deleteLater();
+  if (!m_job) return;
+  // It may be the context of the call that is going on; at the latest it goes with the sender.
+  m_job->setParent(this);
+  m_job.release()->deleteLater();
 }
 
 void ObexBluetoothSender::Leave() {
