@@ -9,8 +9,8 @@
 
 #include "StoreGenerator.h"
 #include "app/Places.h"
+#include "app/ProgressLine.h"
 #include "app/StoreOpening.h"
-#include "cli/ProgressLine.h"
 #include "store/pim/PimStore.h"
 
 namespace {

@@ -10,8 +10,8 @@
 
 #include "RunApart.h"
 #include "StoreGenerator.h"
+#include "app/ProgressLine.h"
 #include "app/StoreOpening.h"
-#include "cli/ProgressLine.h"
 #include "store/pim/PimStore.h"
 
 namespace quill::bench {

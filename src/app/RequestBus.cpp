@@ -2,10 +2,11 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QFileInfo>
 #include <QLoggingCategory>
 
 #include <utility>
+
+#include "platform/SessionBus.h"
 
 namespace quill {
 namespace {
@@ -28,13 +29,6 @@ QDBusMessage NameRequest() {
 }
 
 }  // namespace
-
-bool SessionBusExists() {
-  if (qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS"))
-    return !qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS");
-  const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
-  return !runtime.isEmpty() && QFileInfo::exists(runtime + QStringLiteral("/bus"));
-}
 
 RequestBus::RequestBus(RequestHandler handler) : m_handler(std::move(handler)) {}
 

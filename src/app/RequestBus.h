@@ -15,9 +15,6 @@ class QDBusConnection;
 
 namespace quill {
 
-// Asked first, because the bus library would start a bus of its own where there is none.
-bool SessionBusExists();
-
 class RequestBus : public QObject {
   Q_OBJECT
   Q_CLASSINFO("D-Bus Interface", "org.fennick.Quill")

@@ -45,10 +45,7 @@ void PrintText(const StoreHealth& health, QTextStream& out) {
 int RunCheck(const VerbCall& call, const Console& console) {
   PimStore store(call.Where.StoreFile);
   // Without the folders: a store whose index is broken does not open them.
-  if (store.Create() != 0 || store.Logon() != 0) {
-    Complain(console, store.LastError());
-    return kExitFailed;
-  }
+  if (store.Create() != 0 || store.Logon() != 0) return Fail(console, store.LastError());
   const StoreHealth health = store.Check();
   (IsGiven(call, kJsonOption) ? PrintJson : PrintText)(health, console.Out);
   const bool isRight =

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "cli/Console.h"
+#include "app/Console.h"
 #include "store/AutomationDate.h"
 #include "store/ContactFields.h"
 

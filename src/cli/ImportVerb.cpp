@@ -1,23 +1,13 @@
 #include "cli/ImportVerb.h"
 
-#include <QFile>
 #include <QLocale>
 
-#include <algorithm>
-#include <cstdio>
-
-#include "app/StoreOpening.h"
-#include "cli/CardFiles.h"
-#include "cli/ImportReport.h"
-#include "cli/ProgressLine.h"
+#include "app/CardFileImport.h"
+#include "app/CardFiles.h"
 #include "cli/RejectsFile.h"
-#include "exchange/CardImport.h"
-#include "store/pim/PimStore.h"
 
 namespace quill {
 namespace {
-
-constexpr QStringView kStandardInput = u"-";
 
 OnDuplicate DuplicatesOf(const VerbCall& call) {
   const QString word = ValueOf(call, kDuplicateOption);
@@ -30,86 +20,6 @@ QByteArray CharsetOf(const VerbCall& call) {
                                        : FallbackCharset(QLocale::system());
 }
 
-QString ProgressText(const QString& name, const ImportProgress& progress, qint64 size) {
-  const QString text = QStringLiteral("%1: %2 cards").arg(name).arg(progress.Cards);
-  if (size <= 0) return text;  // a pipe does not say how much will come
-  return text + QStringLiteral(", %1 %").arg(100 * progress.BytesRead / size);
-}
-
-// The files of one command, one after the other into the same store.
-class FileImport {
- public:
-  FileImport(StoreProvider& store, const ImportTask& task, const Console& console)
-      : m_store(store), m_task(task), m_console(console) {}
-
-  void TakeAll() {
-    for (const QString& argument : m_task.Arguments) {
-      const QStringList names = CardFilesOf(argument);
-      if (names.isEmpty()) Fail(kExitPartly, argument, QStringLiteral("no card files in it"));
-      for (const QString& name : names) {
-        TakeFile(name);
-        if (m_isStopped) return;
-      }
-    }
-  }
-
-  int Finish() {
-    if (m_files > 1)
-      m_console.Out << CountsLine(QStringLiteral("%1 files").arg(m_files), m_sum) << Qt::endl;
-    return m_exitCode;
-  }
-
- private:
-  void TakeFile(const QString& name) {
-    const bool isInput = name == kStandardInput;
-    QFile file(name);
-    if (!(isInput ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly)))
-      return Fail(kExitFailed, name, file.errorString());
-    const QString title = isInput ? QStringLiteral("standard input") : name;
-    ImportSummary summary = Import(title, file);
-    if (summary.End == ImportEnd::DeviceFailed) summary.Reason = file.errorString();
-    m_isStopped = summary.End == ImportEnd::Stopped;
-    m_exitCode = std::max(m_exitCode, ReportImport(title, summary, m_console));
-    Sum(summary);
-  }
-
-  ImportSummary Import(const QString& title, QFile& file) {
-    ProgressLine line(m_console);
-    ImportOptions options = m_task.Options;
-    options.Continue = [&](const ImportProgress& progress) {
-      line.Show(ProgressText(title, progress, file.size()));
-      return !m_task.Continue || m_task.Continue(title, progress);
-    };
-    return ImportCards(file, m_store, options);
-  }
-
-  void Fail(int exitCode, const QString& name, const QString& reason) {
-    Complain(m_console, QStringLiteral("%1: %2").arg(name, reason));
-    m_exitCode = std::max(m_exitCode, exitCode);
-  }
-
-  void Sum(const ImportSummary& summary) {
-    ++m_files;
-    m_sum.New += summary.New;
-    m_sum.Changed += summary.Changed;
-    m_sum.Same += summary.Same;
-    m_sum.Unreadable += summary.Unreadable;
-  }
-
-  StoreProvider& m_store;
-  const ImportTask& m_task;
-  const Console& m_console;
-  ImportSummary m_sum;  // its counts
-  int m_files = 0;      // that could be opened
-  bool m_isStopped = false;
-  int m_exitCode = kExitDone;
-};
-
-int FailWith(const QString& problem, const Console& console) {
-  Complain(console, problem);
-  return kExitFailed;
-}
-
 QString ProblemOfRejects(const QStringList& arguments, RejectsFile& rejects) {
   for (const QString& argument : arguments) {
     if (rejects.IsOneOf(CardFilesOf(argument)))
@@ -120,28 +30,19 @@ QString ProblemOfRejects(const QStringList& arguments, RejectsFile& rejects) {
 
 }  // namespace
 
-int ImportFiles(const ImportTask& task, const Console& console) {
-  PimStore store(task.Where.StoreFile);
-  const StoreOpening opening(store);
-  if (!opening.Succeeded()) return FailWith(opening.Problem(), console);
-  FileImport import(store, task, console);
-  import.TakeAll();
-  return import.Finish();
-}
-
 int RunImport(const VerbCall& call, const Console& console) {
   ImportTask task{.Where = call.Where, .Arguments = call.Arguments, .Options = {}};
   task.Options.Duplicates = DuplicatesOf(call);
   task.Options.FallbackCharset = CharsetOf(call);
   if (!IsKnownCharset(task.Options.FallbackCharset))
-    return FailWith(
-        QStringLiteral("there is no character set %1").arg(ValueOf(call, kCharsetOption)), console);
+    return Fail(console,
+                QStringLiteral("there is no character set %1").arg(ValueOf(call, kCharsetOption)));
   RejectsFile rejects(ValueOf(call, kRejectsOption));
   const QString problem = ProblemOfRejects(call.Arguments, rejects);
-  if (!problem.isEmpty()) return FailWith(problem, console);
+  if (!problem.isEmpty()) return Fail(console, problem);
   task.Options.Rejects = rejects.Device();
   const int exitCode = ImportFiles(task, console);
-  return rejects.Finish() ? exitCode : FailWith(rejects.Problem(), console);
+  return rejects.Finish() ? exitCode : Fail(console, rejects.Problem());
 }
 
 }  // namespace quill

@@ -25,10 +25,7 @@ int PrintRows(ContactsFolder& contacts, ContactPrinter printer) {
 int RunList(const VerbCall& call, const Console& console) {
   PimStore store(call.Where.StoreFile);
   const StoreOpening opening(store);
-  if (!opening.Succeeded()) {
-    Complain(console, opening.Problem());
-    return kExitFailed;
-  }
+  if (!opening.Succeeded()) return Fail(console, opening.Problem());
   const PrintForm form = IsGiven(call, kJsonOption) ? PrintForm::Json : PrintForm::Names;
   return PrintRows(*store.Contacts(), {form, console.Out});
 }

@@ -6,9 +6,9 @@
 
 #include <optional>
 
+#include "app/Console.h"
 #include "app/Places.h"
 #include "cli/CommandLine.h"
-#include "cli/Console.h"
 
 namespace quill {
 

@@ -7,13 +7,13 @@
 #include <optional>
 #include <utility>
 
-#include "app/InfraredSettings.h"
-#include "app/ObexReceiving.h"
-#include "app/ObexReception.h"
-#include "app/ObexTcpTransport.h"
+#include "app/ImportReport.h"
 #include "app/StoreOpening.h"
-#include "cli/ImportReport.h"
 #include "cli/TerminalConsent.h"
+#include "infrared/InfraredSettings.h"
+#include "infrared/ObexReceiving.h"
+#include "infrared/ObexReception.h"
+#include "infrared/ObexTcpTransport.h"
 #include "platform/JsonRegistry.h"
 #include "platform/QtTimers.h"
 #include "store/pim/PimStore.h"
@@ -30,11 +30,6 @@ struct ReceiveTask {
   InfraredSettings Settings;
   int Count = kObexMostCards;
 };
-
-int FailWith(const QString& problem, const Console& console) {
-  Complain(console, problem);
-  return kExitFailed;
-}
 
 // The number behind the option; nothing when it is none of these.
 template <typename Number>
@@ -88,8 +83,7 @@ class Receipt {
       Tell(object, summary);
     };
     if (!m_receiving.Begin())
-      return FailWith(QStringLiteral("cannot listen on port %1").arg(m_task.Settings.Port),
-                      m_console);
+      return Fail(m_console, QStringLiteral("cannot listen on port %1").arg(m_task.Settings.Port));
     TellWhere();
     m_loop.exec();
     return m_cards > 0 ? kExitDone : kExitPartly;
@@ -128,12 +122,12 @@ int RunReceive(const VerbCall& call, const Console& console) {
   JsonRegistry registry(call.Where.SettingsFile);
   ReceiveTask task{ReadInfraredSettings(registry)};
   const QString problem = ReadTask(call, task);
-  if (!problem.isEmpty()) return FailWith(problem, console);
+  if (!problem.isEmpty()) return Fail(console, problem);
   if (IsGiven(call, kSaveOption) && !WriteInfraredSettings(registry, task.Settings))
-    return FailWith(QStringLiteral("cannot keep the settings"), console);
+    return Fail(console, QStringLiteral("cannot keep the settings"));
   PimStore store(call.Where.StoreFile);
   const StoreOpening opening(store);
-  if (!opening.Succeeded()) return FailWith(opening.Problem(), console);
+  if (!opening.Succeeded()) return Fail(console, opening.Problem());
   return Receipt(store, registry, std::move(task), console).Run();
 }
 

@@ -3,8 +3,8 @@
 
 #include <QProcessEnvironment>
 
+#include "app/Console.h"
 #include "cli/CommandLine.h"
-#include "cli/Console.h"
 
 namespace quill {
 

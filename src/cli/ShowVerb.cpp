@@ -23,19 +23,13 @@ int PrintFound(ContactsFolder& contacts, const ContactCollection& found, Contact
 
 int RunShow(const VerbCall& call, const Console& console) {
   const QString& name = call.Arguments.first();
-  if (name.isEmpty()) {
-    Complain(console, QStringLiteral("show needs a name"));
-    return kExitFailed;
-  }
+  if (name.isEmpty()) return Fail(console, QStringLiteral("show needs a name"));
   PimStore store(call.Where.StoreFile);
   const StoreOpening opening(store);
   ContactsFolder* contacts = opening.Succeeded() ? store.Contacts() : nullptr;
   const auto found = contacts ? FindByName(*contacts, contacts->Items(), name)
                               : std::optional<ContactCollection>();
-  if (!found) {
-    Complain(console, contacts ? store.LastError() : opening.Problem());
-    return kExitFailed;
-  }
+  if (!found) return Fail(console, contacts ? store.LastError() : opening.Problem());
   const PrintForm form = IsGiven(call, kJsonOption) ? PrintForm::Json : PrintForm::Records;
   const int exitCode = PrintFound(*contacts, *found, {form, console.Out});
   if (exitCode == kExitPartly)

@@ -6,8 +6,8 @@
 
 #include <functional>
 
-#include "app/ObexReception.h"
-#include "cli/Console.h"
+#include "app/Console.h"
+#include "infrared/ObexReception.h"
 
 namespace quill {
 

@@ -8,8 +8,8 @@
 
 #include <span>
 
+#include "app/Console.h"
 #include "app/Places.h"
-#include "cli/Console.h"
 
 namespace quill {
 

@@ -6,9 +6,9 @@
 
 #include <memory>
 
+#include "app/Console.h"
 #include "app/Program.h"
 #include "cli/CommandLine.h"
-#include "cli/Console.h"
 
 namespace quill {
 

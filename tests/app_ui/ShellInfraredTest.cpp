@@ -3,9 +3,9 @@
 #include <QTcpServer>
 #include <QTemporaryDir>
 
-#include "app/ObexPeers.h"
-#include "app/ObexTcpSender.h"
 #include "app/Program.h"
+#include "infrared/ObexPeers.h"
+#include "infrared/ObexTcpSender.h"
 #include "platform/Services.h"
 #include "platform/ui/TitleBar.h"
 #include "platform_ui/SampleWindows.h"

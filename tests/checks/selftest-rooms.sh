@@ -7,6 +7,8 @@ checker=${1:?path of check-rooms}
 qt=${2:?folder of the Qt modules}
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
+mkdir "$scratch/docs"
+cp "$(dirname "$checker")/../docs/architecture.md" "$scratch/docs"
 cases=0
 failures=0
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "cli/Console.h"
+#include "app/Console.h"
 
 namespace quill::test {
 namespace {

@@ -126,18 +126,6 @@ TEST_F(ExportVerb, LeavesTheOldFileWhenTheStoreFails) {
   EXPECT_EQ(Files(), QStringList{u"out.vcf"_qs});
 }
 
-TEST_F(ExportVerb, LeavesTheOldFileWhenItIsToldToStop) {
-  QByteArray cards;
-  for (int i = 0; i < 50; ++i) cards += "BEGIN:VCARD\nN:" + QByteArray::number(i) + "\nEND:VCARD\n";
-  BringIn(cards);
-  MakeFile(u"out.vcf"_qs, "old");
-  ExportTask task{.Where = HomePlaces(Home(), {}), .File = OutPath(), .Options = {}};
-  task.Options.Continue = [](int done, int count) { return done < count; };
-  EXPECT_EQ(ExportFile(task, m_console), kExitPartly);
-  EXPECT_EQ(TakeErr(), "quill: " + OutPath().toStdString() + ": stopped; nothing was written\n");
-  EXPECT_EQ(Content(OutPath()), "old");
-}
-
 TEST_F(ExportVerb, WritesToAPipe) {
   BringIn(kCards);
   const QString pipe = m_folder.filePath(u"pipe"_qs);

@@ -122,24 +122,6 @@ TEST_F(ImportVerb, ReadsUndeclaredTextInTheCharsetThatItIsTold) {
   EXPECT_EQ(TakeOut(), "Да\n");
 }
 
-TEST_F(ImportVerb, StopsWithAllFilesWhenItIsTold) {
-  QByteArray cards;
-  for (int i = 0; i < 120; ++i)
-    cards += "BEGIN:VCARD\nN:" + QByteArray::number(i) + "\nEND:VCARD\n";
-  const QString many = MakeFile(u"many.vcf"_qs, cards);
-  const QString more = MakeFile(u"more.vcf"_qs, kTwoCards);
-  ASSERT_TRUE(QDir().mkpath(Home()));
-  ImportTask task{.Where = HomePlaces(Home(), {}), .Arguments = {many, more}, .Options = {}};
-  task.Continue = [&](const QString& file, const ImportProgress& progress) {
-    EXPECT_EQ(file, many);
-    return progress.Cards < 100;
-  };
-  EXPECT_EQ(ImportFiles(task, m_console), kExitPartly);
-  EXPECT_EQ(TakeOut(), many.toStdString() + ": 100 new, 0 changed, 0 the same, 0 unreadable\n");
-  EXPECT_EQ(TakeErr(),
-            "quill: " + many.toStdString() + ": stopped; what came in until then stays\n");
-}
-
 TEST_F(ImportVerb, RefusesACharsetThatThereIsNot) {
   const QString file = MakeFile(u"two.vcf"_qs, kTwoCards);
   EXPECT_EQ(Run({u"import"_qs, u"--charset=klingon"_qs, file}), kExitFailed);

@@ -5,11 +5,11 @@
 
 #include <gmock/gmock.h>
 
-#include "app/InfraredSettings.h"
-#include "app/ObexPeers.h"
-#include "app/ObexTcpSender.h"
 #include "cli/ConsoleFixture.h"
 #include "cli/InputFrom.h"
+#include "infrared/InfraredSettings.h"
+#include "infrared/ObexPeers.h"
+#include "infrared/ObexTcpSender.h"
 #include "platform/JsonRegistry.h"
 #include "platform/QtTimers.h"
 

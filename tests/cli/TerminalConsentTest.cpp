@@ -7,7 +7,7 @@
 
 #include <array>
 
-#include "app/ObexPeers.h"
+#include "infrared/ObexPeers.h"
 
 #include <unistd.h>
 

@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "app/OfferText.h"
+#include "infrared/OfferText.h"
 #include "platform/TextFitting.h"
 #include "platform/ui/RowPainter.h"
 #include "resources/InfraredDialogs.h"

@@ -2,7 +2,7 @@
 // anything else for no.
 #pragma once
 
-#include "app/ObexReception.h"
+#include "infrared/ObexReception.h"
 #include "platform/ui/Dialog.h"
 
 namespace quill {

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QTextStream>
 
-#include "cli/Console.h"
+#include "app/Console.h"
 
 namespace quill {
 

@@ -2,10 +2,10 @@
 
 #include <QFileInfo>
 
+#include "app/CardFiles.h"
 #include "app/MemoTaking.h"
 #include "app/ui/FileExport.h"
 #include "app/ui/FileImport.h"
-#include "cli/CardFiles.h"
 #include "list/ListState.h"
 #include "platform/Prompt.h"
 #include "platform/Services.h"

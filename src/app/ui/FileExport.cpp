@@ -2,8 +2,8 @@
 
 #include <QFileInfo>
 
+#include "app/CardFileExport.h"
 #include "app/ui/ExchangeReport.h"
-#include "cli/ExportVerb.h"
 #include "platform/ui/ProgressDlg.h"
 
 namespace quill {

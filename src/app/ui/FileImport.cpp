@@ -6,10 +6,10 @@
 
 #include <optional>
 
+#include "app/CardFileImport.h"
+#include "app/CardFiles.h"
 #include "app/ui/CharsetDlg.h"
 #include "app/ui/ExchangeReport.h"
-#include "cli/CardFiles.h"
-#include "cli/ImportVerb.h"
 #include "exchange/CharsetProbe.h"
 #include "platform/ui/ProgressDlg.h"
 #include "platform/ui/WaitCursor.h"

@@ -2,8 +2,8 @@
 // whom contacts go, and whether pushed cards are wanted.
 #pragma once
 
-#include "app/ObexInfrared.h"
 #include "app/ui/IdleTurn.h"
+#include "infrared/ObexInfrared.h"
 
 namespace quill {
 

@@ -4,8 +4,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 
-#include "app/InfraredSettings.h"
 #include "exchange/ObexObject.h"
+#include "infrared/InfraredSettings.h"
 #include "platform/PaintedRow.h"
 #include "platform/Prompt.h"
 #include "platform/Services.h"

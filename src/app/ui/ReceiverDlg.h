@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "app/ObexReceiver.h"
+#include "infrared/ObexReceiver.h"
 #include "platform/ui/Dialog.h"
 
 class QLineEdit;

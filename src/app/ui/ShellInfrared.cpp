@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "app/ObexBluetoothTransport.h"
 #include "app/Program.h"
+#include "infrared/ObexBluetoothTransport.h"
 #include "platform/ChromeLayout.h"
 #include "platform/Prompt.h"
 #include "platform/Services.h"

@@ -5,8 +5,8 @@
 #include <functional>
 #include <optional>
 
-#include "app/ObexInfrared.h"
 #include "app/ui/InfraredQuestions.h"
+#include "infrared/ObexInfrared.h"
 
 namespace quill {
 

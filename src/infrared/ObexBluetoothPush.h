@@ -1,0 +1,64 @@
+// One push over Bluetooth that the desktop's OBEX service asks about. The user is asked before its
+// bytes come; they come into a file of a name of our own in the service's folder, and are a card or
+// are thrown away.
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QObject>
+
+#include <functional>
+
+#include "infrared/ObexTransferWatch.h"
+#include "infrared/ObexTransport.h"
+
+namespace quill {
+
+class ObexBluetoothPush : public QObject, public ObexPusher {
+ public:
+  static constexpr qint64 kLargest = 8 * qint64(1'048'576);  // bytes
+
+  // The request is answered later, exactly once. Host and watch outlive this.
+  ObexBluetoothPush(const QDBusConnection& bus, ObexHost& host, ObexTransferWatch& watch,
+                    const QDBusMessage& request);
+  ~ObexBluetoothPush() override;
+
+  // Finds out what is pushed by whom, then asks the host. Ended is set before.
+  void Begin(const QString& transfer);
+  // Hangs up: what waits is refused, what has come is thrown away. Nothing is called from then on.
+  void Close();
+  // Whether its bytes are coming.
+  bool IsComing() const { return m_step == Step::Coming; }
+
+  const ObexOffer& Offer() const override { return m_offer; }
+  void Want() override;
+  void Refuse() override;
+
+  // Called once when nothing more will come of it, maybe in the middle of another call: this may be
+  // destroyed only later.
+  std::function<void()> Ended;
+
+ private:
+  enum class Step { Looking, Asking, Coming, Over };
+
+  void TransferKnown(const QDBusMessage& reply);
+  void SessionKnown(const QDBusMessage& reply);
+  void Came(bool isComplete);
+  void Reject();
+  void RejectAndEnd();
+  void LetGo();
+  void End();
+
+  QDBusConnection m_bus;
+  ObexHost& m_host;
+  ObexTransferWatch& m_watch;
+  QDBusMessage m_request;
+  QString m_transfer;
+  QString m_folder;  // the service's, which alone it writes into
+  QString m_file;    // in it, once it was named to the service
+  QString m_name;    // as the peer gave it
+  ObexOffer m_offer;
+  Step m_step = Step::Looking;
+};
+
+}  // namespace quill
