@@ -53,8 +53,11 @@ QStringList PaintedLines(const QStringList& texts, int index, const TextWidth& w
 PaintedRow LayOutText(int top, int distance, const QString& text, const QStringList& lines) {
   PaintedRow row = TextRow(top, text);
   row.Rectangle.setHeight(distance * static_cast<int>(lines.size()) - 1);
+  // Lines that are close keep room for their letters' feet.
+  const int above = (kTextHeight - (distance - 1)) / 2;
   for (const QString& line : lines) {
-    row.Items.push_back({.Rectangle = {kTextLeft, top, kTextWidth, distance - 1}, .Text = line});
+    row.Items.push_back(
+        {.Rectangle = {kTextLeft, top - above, kTextWidth, kTextHeight}, .Text = line});
     top += distance;
   }
   return row;

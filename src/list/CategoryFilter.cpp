@@ -39,11 +39,15 @@ QString CategoryToMatch(const ListState& list) {
   return list.CategoryName == kNoCategories ? QString() : list.CategoryName;
 }
 
+bool NeedsSecondTest(const ListState& list) {
+  return IsCategoryChosen(list) && list.CategoryName.contains(u',');
+}
+
 bool PassesCategoryFilter(const ListState& list, const QString& categories) {
   if (!IsCategoryChosen(list)) return true;
   const QString chosen = CategoryToMatch(list);
-  const bool several = chosen.contains(u',');
-  if (several && std::max(chosen.size(), categories.size()) > kSeveralCategoriesLimit) return false;
+  if (NeedsSecondTest(list) && std::max(chosen.size(), categories.size()) > kSeveralCategoriesLimit)
+    return false;
   return CategoriesMatch(chosen, categories);
 }
 

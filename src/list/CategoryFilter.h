@@ -26,6 +26,9 @@ void FollowCategory(ListState& list, const QString& from, const QString& to);
 // The names asked of the store: empty for kNoCategories.
 QString CategoryToMatch(const ListState& list);
 
+// True when the store may let through contacts that PassesCategoryFilter does not.
+bool NeedsSecondTest(const ListState& list);
+
 // True when no category is chosen or the contact's category text satisfies the choice. Nothing
 // satisfies a choice of several names when either text is longer than kSeveralCategoriesLimit.
 bool PassesCategoryFilter(const ListState& list, const QString& categories);

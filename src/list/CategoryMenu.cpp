@@ -5,6 +5,7 @@
 #include "list/CategoryFilter.h"
 #include "resources/Ids.h"
 #include "store/CategoryChoice.h"
+#include "store/CategoryText.h"
 
 namespace quill {
 
@@ -49,7 +50,7 @@ CategoryMenuChoice ChooseCategory(ListState& list, CategoryMenu& menu, int id) {
   const int position = id - ID_CATEGORY_FIRST;
   if (list.Mode == ViewMode::ByMemo || position < 0 || position >= menu.Texts.size())
     return CategoryMenuChoice::Ignored;
-  const QString text = menu.Texts[position].left(kCategoryTextLimit);
+  const QString text = menu.Texts[position].left(kCategoryNameLimit);
   if (text == kMoreCategories) return CategoryMenuChoice::AskForMore;
   CheckOnly(menu, static_cast<std::size_t>(position));
   FilterByCategory(list, text, 1);

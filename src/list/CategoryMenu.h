@@ -10,9 +10,6 @@
 
 namespace quill {
 
-inline constexpr QStringView kMoreCategories = u"More...";
-inline constexpr int kCategoryTextLimit = 128;  // UTF-16 units of an item's text that are read back
-
 // As it was shown last. The item at a position (0-based) runs ID_CATEGORY_FIRST + position.
 struct CategoryMenu {
   QStringList Texts = {};

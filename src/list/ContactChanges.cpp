@@ -1,5 +1,6 @@
 #include "list/ContactChanges.h"
 
+#include "list/CategoryFilter.h"
 #include "store/ContactStore.h"
 
 namespace quill {
@@ -21,22 +22,42 @@ void CopyContact(Oid oid) {
   if (ReadContact(ContactSelector(oid), record) != 0) WriteContact(0, record);
 }
 
+// One that is gone already is not missed.
+void DeleteEach(const std::vector<int>& oids) {
+  ChangeEach(oids, [](Oid oid) { DeleteContact(oid); });
+}
+
+// Those that the list shows of the contacts that its restriction lets through.
+std::vector<Oid> ShownOf(const ListState& list, const ContactCollection& restricted) {
+  std::vector<Oid> shown;
+  const int count = Count(restricted);
+  for (int position = 1; position <= count; ++position) {
+    ContactRecord record;
+    const Oid oid = ReadListRow({restricted, position}, record);
+    if (oid != 0 && PassesCategoryFilter(list, record[ContactField::Categories]))
+      shown.push_back(oid);
+  }
+  return shown;
+}
+
 }  // namespace
 
 bool IsCurrentRowInList(const ListState& list) {
   return list.CurrentRow >= 0 && list.Top + list.CurrentRow < list.Total;
 }
 
-void DeleteSelectedContacts(const ListState& list) {
-  // One that is gone already is not missed.
-  ChangeEach(list.SelectedKeys, [](Oid oid) { DeleteContact(oid); });
-}
+void DeleteSelectedContacts(const ListState& list) { DeleteEach(list.SelectedKeys); }
 
 void CopySelectedContacts(const ListState& list) { ChangeEach(list.SelectedKeys, CopyContact); }
 
 void DeleteListedContacts(ListState& list) {
   const ContactCollection all = AllContacts();
-  DeleteContacts(list.Restriction.isEmpty() ? all : RestrictContacts(all, list.Restriction));
+  const ContactCollection restricted =
+      list.Restriction.isEmpty() ? all : RestrictContacts(all, list.Restriction);
+  if (NeedsSecondTest(list))
+    DeleteEach(ShownOf(list, restricted));
+  else
+    DeleteContacts(restricted);
   list.Top = 0;
 }
 

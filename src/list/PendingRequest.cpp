@@ -17,6 +17,11 @@ Oid FindByName(const QString& fileAs) {
   return ReadListRow({named, 1}, record);
 }
 
+bool IsThere(Oid contact) {
+  ContactRecord record;
+  return contact != 0 && ReadListRow(ContactSelector(contact), record) != 0;
+}
+
 }  // namespace
 
 RequestAnswer TakeRequest(PendingRequest& request, int kind, const QString& text) {
@@ -42,7 +47,7 @@ void TakeMemo(PendingRequest& request, const QString& path) {
 
 bool NamesNobody(const PendingRequest& request) {
   const bool shows = request.Kind == PendingKind::Show || request.Kind == PendingKind::ShowAgain;
-  return shows && request.Contact == 0;
+  return shows && !IsThere(request.Contact);
 }
 
 }  // namespace quill

@@ -2,10 +2,6 @@
 
 #include <algorithm>
 
-#include "list/CategoryFilter.h"
-#include "store/ContactStore.h"
-#include "store/RestrictionMatch.h"
-
 namespace quill {
 
 namespace {
@@ -18,19 +14,8 @@ int RowOfKey(const ListState& list, int key) {
   return -1;
 }
 
-// The contact is there, and the filter in force lets it through: asked of the contact alone, since
-// looking for it in the list would read all of the list.
-bool IsListed(const ListState& list, Oid oid) {
-  ContactRecord record;
-  if (ReadListRow(ContactSelector(oid), record) == 0) return false;
-  const auto& restriction = list.Collection.Restriction;
-  return (!restriction || SatisfiesRestriction(record, *restriction)) &&
-         PassesCategoryFilter(list, record[ContactField::Categories]);
-}
-
-bool IsItemListed(const ListState& list, int key) {
-  if (list.Mode == ViewMode::ByMemo) return key < list.Total;
-  return RowOfKey(list, key) >= 0 || IsListed(list, key);
+bool IsItemShown(const ListState& list, int key) {
+  return list.Mode == ViewMode::ByMemo ? key < list.Total : RowOfKey(list, key) >= 0;
 }
 
 int WithinPage(const ListState& list, int row) { return std::min(row, SelectableRows(list) - 1); }
@@ -82,7 +67,7 @@ void SelectAfterScroll(ListState& list) {
 }
 
 void KeepSelection(ListState& list) {
-  std::erase_if(list.SelectedKeys, [&list](int key) { return !IsItemListed(list, key); });
+  std::erase_if(list.SelectedKeys, [&list](int key) { return !IsItemShown(list, key); });
   const int followed = list.SelectedKeys.empty() ? -1 : RowOfKey(list, list.SelectedKeys.front());
   list.CurrentRow = followed >= 0 ? followed : WithinPage(list, list.CurrentRow);
 }

@@ -36,9 +36,9 @@ void DropSelection(ListState& list);
 // key the only selected one. Without a current row nothing is selected.
 void SelectAfterScroll(ListState& list);
 
-// After the page was built again: keys whose item is gone, or that the filter lets through no more,
-// are dropped, the others stay in their order. The current row follows the first of them on the
-// page.
+// After the page was built again: keys whose contact is not on it are dropped, since no command may
+// act on what is not seen, as are positions that have no memo any more. The others stay in their
+// order, and the current row follows the first of them.
 void KeepSelection(ListState& list);
 
 }  // namespace quill

@@ -37,6 +37,6 @@ inline constexpr std::array kAppointmentControls = {
     DialogControl{ControlKind::Button, kResultCancel, u"Cancel", {160, 236, 64, 26}},
 };
 inline constexpr DialogResource kAppointmentDialog = {
-    AppointmentIds::kDialog, kApplicationTitle, {}, kAppointmentControls};
+    AppointmentIds::kDialog, u"Hourpetal", {}, kAppointmentControls};
 
 }  // namespace quill::resources

@@ -84,8 +84,8 @@ QString CategoryEditRefusal(CategoryEdit edit, const QString& name) {
       break;
     case CategoryEdit::NotAName:
       return QStringLiteral(
-                 "\"%1\" cannot be a category: a name has no comma and is neither \"Show All\" nor "
-                 "\"No Categories\".")
+                 "\"%1\" cannot be a category: a name has no comma and is none of \"Show All\", "
+                 "\"No Categories\" and \"More...\".")
           .arg(ShortName(name));
     case CategoryEdit::ExistsAlready:
       return QStringLiteral("There is a category \"%1\" already.").arg(ShortName(name));

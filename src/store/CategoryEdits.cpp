@@ -61,7 +61,7 @@ CategoryEdit InTransaction(const std::function<CategoryEdit()>& work) {
 }  // namespace
 
 CategoryEdit AddCategory(const QString& name) {
-  if (!IsCategoryName(name)) return CategoryEdit::NotAName;
+  if (!IsNewCategoryName(name)) return CategoryEdit::NotAName;
   return InTransaction([&name] {
     const QStringList names = UserCategories();
     if (names.contains(name)) return CategoryEdit::ExistsAlready;
@@ -70,7 +70,7 @@ CategoryEdit AddCategory(const QString& name) {
 }
 
 CategoryEdit RenameCategory(const QString& from, const QString& to) {
-  if (!IsCategoryName(from) || !IsCategoryName(to)) return CategoryEdit::NotAName;
+  if (!IsCategoryName(from) || !IsNewCategoryName(to)) return CategoryEdit::NotAName;
   return InTransaction([&from, &to] {
     QStringList names = UserCategories();
     if (names.contains(to)) return CategoryEdit::ExistsAlready;

@@ -8,7 +8,7 @@ namespace quill {
 
 enum class CategoryEdit {
   Done,
-  NotAName,       // empty, with a comma or a leading blank, "No Categories" or "Show All"
+  NotAName,       // IsNewCategoryName says no
   ExistsAlready,  // in the library
   NotWritten,     // the store failed or no session is open
 };

@@ -78,4 +78,8 @@ bool IsCategoryName(const QString& name) {
   return !isReserved && SplitCategories(name) == QStringList(name);
 }
 
+bool IsNewCategoryName(const QString& name) {
+  return IsCategoryName(name) && name != kMoreCategories && name.size() <= kCategoryNameLimit;
+}
+
 }  // namespace quill

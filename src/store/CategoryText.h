@@ -9,6 +9,8 @@ namespace quill {
 
 inline constexpr QStringView kNoCategories = u"No Categories";  // contacts without a category
 inline constexpr QStringView kShowAllCategories = u"Show All";  // no category is chosen
+inline constexpr QStringView kMoreCategories = u"More...";      // several are to be chosen
+inline constexpr int kCategoryNameLimit = 128;  // UTF-16 units; what is longer, no menu holds
 
 // The pieces between the commas, leading blanks skipped, trailing ones kept. Empty pieces name no
 // category and are left out.
@@ -28,5 +30,7 @@ QString RenameInCategories(QStringView categories, QStringView from, QStringView
 // none twice, and neither kNoCategories nor kShowAllCategories.
 QStringList ValidCategories(const QStringList& names);
 bool IsCategoryName(const QString& name);
+// The same of a name that the user gives: it must also be one that the menu can offer.
+bool IsNewCategoryName(const QString& name);
 
 }  // namespace quill

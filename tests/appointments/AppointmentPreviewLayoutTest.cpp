@@ -82,7 +82,8 @@ TEST(AppointmentPreviewLayout, ALongRecurrenceTakesTwoLinesAndAllStillStandsAbov
   EXPECT_EQ(texts[0].Text, QStringLiteral("Every 12 week(s)"));
   EXPECT_EQ(texts[1].Text, days);
   EXPECT_EQ(rows[1].SpokenName, preview.Lines[0]);
-  EXPECT_TRUE(rows[1].Rectangle.contains(texts[1].Rectangle));
+  EXPECT_EQ(texts[0].Rectangle.height(), 16) << "room for the feet of letters";
+  EXPECT_EQ(texts[1].Rectangle.top() - texts[0].Rectangle.top(), 13);
   EXPECT_GT(rows[2].Rectangle.top(), rows[1].Rectangle.bottom());
   EXPECT_GT(rows[3].Rectangle.top(), rows[2].Rectangle.bottom());
   EXPECT_LT(rows[3].Rectangle.bottom(), kPreviewNoteTop);

@@ -19,7 +19,7 @@ class AppointmentDlgTest : public test::AppointmentDlgFixture {};
 TEST_F(AppointmentDlgTest, IsAFullScreenDialogInWhichAllRowsControlsAreHidden) {
   Add({[&] {
          EXPECT_EQ(Dialog().Kind(), WindowKind::Dialog);
-         EXPECT_EQ(Dialog().Caption(), kApplicationTitle.toString());
+         EXPECT_EQ(Dialog().Caption(), QStringLiteral("Hourpetal"));
          for (const auto& [id, control] : Dialog().Controls())
            EXPECT_EQ(control->isVisible(), id == kResultOK || id == kResultCancel) << id;
          EXPECT_EQ(QApplication::focusWidget(), &Rows());

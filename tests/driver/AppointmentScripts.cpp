@@ -90,6 +90,18 @@ TEST_F(AppointmentScript, OneIsAddedFromTheContactsPopupAndListedThere) {
   EXPECT_EQ(linked[u"items"][0][u"text"], QStringLiteral("(Kim) 저녁"));
 }
 
+TEST_F(AppointmentScript, ItIsWithThePopupsContactAlsoWhenTheStoreChangesUnderThePopup) {
+  Popup();
+  m_driver.Do(R"({"op":"put","quiet":true,"fields":{"FileAs":"Adams"}})");
+  m_driver.Do(R"({"op":"notify","param":0})");
+  m_driver.Do(R"({"op":"wait","ms":800})");
+  Run("choose", 32819);
+  EXPECT_EQ(Control(1028)[u"text"], QStringLiteral("(Kim)"));
+  Cancel();
+  m_driver.Do(R"({"op":"wait","ms":600})");
+  EXPECT_EQ(m_driver.Result(R"({"op":"list"})", u"list")[u"total"], 2) << "and then the list follows";
+}
+
 TEST_F(AppointmentScript, ARowsControlsAreHiddenUntilItIsTapped) {
   ChooseFromPopup(32819);
   EXPECT_EQ(Control(1026)[u"visible"], false);

@@ -125,6 +125,18 @@ TEST_F(ContactChanges, DeletingAllUnderACategoryKeepsTheOtherContacts) {
   EXPECT_EQ(AllNames(), NameList({u"Lee"}));
 }
 
+TEST_F(ContactChanges, DeletingAllUnderSeveralCategoriesKeepsWhatTheListDoesNotShow) {
+  const QString many = u"Work, "_qs + QString(kSeveralCategoriesLimit, u'x');
+  Add(u"Kim"_qs, {{ContactField::Categories, many}});
+  Add(u"Lee"_qs, {{ContactField::Categories, u"Golf"_qs}});
+  Add(u"Park"_qs);
+  FilterByCategory(m_list, u"Work,Golf"_qs, 2);
+  Build();
+  ASSERT_EQ(ShownNames(), NameList({u"Lee"}));
+  DeleteListedContacts(m_list);
+  EXPECT_EQ(AllNames(), NameList({u"Kim", u"Park"}));
+}
+
 TEST_F(ContactChanges, DeletingAllUnderShowAllEmptiesTheStore) {
   AddNumbered(20);
   FilterByCategory(m_list, u"Show All"_qs, 1);

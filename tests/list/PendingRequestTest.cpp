@@ -74,11 +74,19 @@ TEST_F(PendingRequestTest, TheLatestTakesTheEarliersPlaceAlsoWhenItNamesNobody) 
 }
 
 TEST_F(PendingRequestTest, OnlyOneToShowWithoutAContactNamesNobody) {
+  const Oid kim = Add(u"Kim"_qs);
   EXPECT_FALSE(NamesNobody({}));
   EXPECT_FALSE(NamesNobody({.Kind = PendingKind::New}));
-  EXPECT_FALSE(NamesNobody({.Kind = PendingKind::Show, .Contact = 1}));
+  EXPECT_FALSE(NamesNobody({.Kind = PendingKind::Show, .Contact = kim}));
   EXPECT_TRUE(NamesNobody({.Kind = PendingKind::Show}));
   EXPECT_TRUE(NamesNobody({.Kind = PendingKind::ShowAgain}));
+}
+
+TEST_F(PendingRequestTest, OneWhoseContactHasGoneWhileItWaitedNamesNobody) {
+  const Oid kim = Add(u"Kim"_qs);
+  ASSERT_EQ(TakeRequest(m_request, 1, u"Kim"_qs), RequestAnswer::Kept);
+  ASSERT_TRUE(m_store.Contacts()->Remove(kim));
+  EXPECT_TRUE(NamesNobody(m_request));
 }
 
 TEST_F(PendingRequestTest, ANewContactKeepsItsTextAndNeedsNobodyOfThatName) {

@@ -165,6 +165,12 @@ TEST_F(LinkedAppointments, NoneIsMadeWithoutARowOrOverMemos) {
   EXPECT_EQ(m_screen->Topmost(), m_frame.get());
 }
 
+TEST_F(LinkedAppointments, NoneIsOpenedOverMemos) {
+  g_list.Mode = ViewMode::ByMemo;
+  m_frame->RunCommand(33001, CommandCheck::Anyway);
+  EXPECT_EQ(m_screen->Topmost(), m_frame.get());
+}
+
 TEST_F(LinkedAppointments, ModifyInThePreviewOpensThatOne) {
   Run(33002,
       {Modify(), [this] { EXPECT_EQ(Subject(), QStringLiteral("(Kim) dinner")); }, Cancel()});

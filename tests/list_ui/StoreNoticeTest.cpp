@@ -67,6 +67,28 @@ TEST_F(StoreNoticeTest, ARebuildKeepsTheFilter) {
   EXPECT_EQ(ShownNames(), (QStringList{QStringLiteral("Brown"), QStringLiteral("Byrd")}));
 }
 
+TEST_F(StoreNoticeTest, TheRowUnderAPenStaysUntilThePenIsUp) {
+  View().OnStoreNotice(0, 0);
+  m_timers.Advance(300);
+  m_input.Press(OnRow(5));
+  m_timers.Advance(200);
+  EXPECT_EQ(Rebuilds(), 0);
+  m_input.Release(OnRow(5));
+  m_timers.Advance(500);
+  EXPECT_EQ(g_list.RowsShown, 2);
+}
+
+TEST_F(StoreNoticeTest, AScrollBeforeTheRebuildShowsNobodyTwice) {
+  AddNumbered(30);
+  View().Rebuild();
+  Add(QStringLiteral("0"));
+  View().OnStoreNotice(0, 0);
+  ScrollBar().triggerAction(QAbstractSlider::SliderSingleStepAdd);
+  QStringList names = ShownNames();
+  EXPECT_EQ(names.removeDuplicates(), 0);
+  EXPECT_EQ(names[0], QStringLiteral("001")) << "0 has scrolled away";
+}
+
 TEST_F(StoreNoticeTest, AListOfMemosIsNotRebuilt) {
   g_list.Mode = ViewMode::ByMemo;
   View().OnStoreNotice(0, 0);

@@ -119,8 +119,8 @@ TEST(CategoryChoice, ALongNameEndsWithDotsInTheTextsThatHoldIt) {
 TEST(CategoryChoice, AnEditThatIsNotDoneIsExplained) {
   EXPECT_EQ(CategoryEditRefusal(CategoryEdit::Done, u"A"_qs), QString());
   EXPECT_EQ(CategoryEditRefusal(CategoryEdit::NotAName, u"A,B"_qs),
-            u"\"A,B\" cannot be a category: a name has no comma and is neither \"Show All\" nor "
-            "\"No Categories\"."_qs);
+            u"\"A,B\" cannot be a category: a name has no comma and is none of \"Show All\", "
+            "\"No Categories\" and \"More...\"."_qs);
   EXPECT_EQ(CategoryEditRefusal(CategoryEdit::ExistsAlready, u"A"_qs),
             u"There is a category \"A\" already."_qs);
   EXPECT_EQ(CategoryEditRefusal(CategoryEdit::NotWritten, u"A"_qs),

@@ -4,6 +4,7 @@
 #include <ostream>
 
 #include "store/Categories.h"
+#include "store/CategoryText.h"
 #include "store/pim/PimStore.h"
 #include "support/FaultyStore.h"
 #include "support/FreshState.h"
@@ -157,6 +158,24 @@ TEST_P(NoCategoryName, IsRefusedWhateverIsToBeDone) {
 
 INSTANTIATE_TEST_SUITE_P(Names, NoCategoryName,
                          testing::Values(u"", u" ", u" Job", u"Job,Club", u",", u"No Categories"));
+
+class NoNewCategoryName : public CategoryEdits, public testing::WithParamInterface<QString> {};
+
+TEST_P(NoNewCategoryName, IsNotGivenButCanBeGotRidOf) {
+  const QString name = GetParam();
+  Add(name);
+  EXPECT_EQ(AddCategory(name), CategoryEdit::NotAName);
+  EXPECT_EQ(RenameCategory(kWork, name), CategoryEdit::NotAName);
+  EXPECT_EQ(RenameCategory(name, kJob), CategoryEdit::Done);
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, NoNewCategoryName,
+                         testing::Values(kMoreCategories.toString(),
+                                         QString(kCategoryNameLimit + 1, u'x')));
+
+TEST_F(CategoryEdits, TheLongestNameThatAMenuHoldsCanBeGiven) {
+  EXPECT_EQ(AddCategory(QString(kCategoryNameLimit, u'x')), CategoryEdit::Done);
+}
 
 using Edit = CategoryEdit (*)();
 struct EditCase {

@@ -145,10 +145,16 @@ void CContactsView::OnStoreNotice(int first, int) {
 
 void CContactsView::OnTimer(int id) {
   if (id == kRequestTimer) return OpenPending();
-  if (id != kNoticeTimer) return;
+  if (id != kNoticeTimer || IsInUse()) return;
   g_services.Timers->Kill(*this, kNoticeTimer);
   ShowWaiting(false);
   if (g_list.Mode != ViewMode::ByMemo) Rebuild();
+}
+
+// What a menu or a pen is about stays where it is until that is over.
+bool CContactsView::IsInUse() {
+  const CScreen* const screen = ScreenAround(this);
+  return screen && (screen->Popup() || screen->IsPenDown());
 }
 
 void CContactsView::ShowWaiting(bool waiting) {
@@ -208,6 +214,11 @@ void CContactsView::Rebuild() {
   ShowPage();
 }
 
+// A page that is filled from two states of the store would show a contact twice.
+void CContactsView::BringUpToDate() {
+  if (g_list.RebuildDue && g_list.Mode != ViewMode::ByMemo) Rebuild();
+}
+
 void CContactsView::ShowFiltered() {
   m_searchEdit->clear();
   Rebuild();
@@ -260,11 +271,13 @@ void CContactsView::RunScrollAction(int action) {
 
 void CContactsView::Scroll(ScrollRequest request, int thumb) {
   DismissCard();
+  BringUpToDate();
   if (ScrollList(g_list, request, thumb)) m_list->ShowPage();
   m_scrollBar->setValue(g_list.Top);
 }
 
 void CContactsView::MoveRow(KeyMove move) {
+  BringUpToDate();
   MoveCurrentRow(g_list, move);
   m_list->ShowPage();
   m_scrollBar->setValue(g_list.Top);

@@ -41,7 +41,7 @@ class CContactsView : public QWidget, public TimerTarget {
   const ControlMap& Controls() const { return m_controls; }
 
   // The store's change notice. first is 1 for a change of this program itself; any other rebuilds
-  // the list half a second after the last notice.
+  // the list half a second after the last notice, and not while a menu is open or the pen is down.
   void OnStoreNotice(int first, int second);
   // A request by another program. True when it will be shown: as soon as no dialog and no menu is
   // open and the pen is up. That nobody has the name asked for is said then, too, unless another
@@ -81,6 +81,8 @@ class CContactsView : public QWidget, public TimerTarget {
   void ShowRowPopup(int row, QPoint at);
   void ShowPage();
   void ShowWaiting(bool waiting);
+  bool IsInUse();
+  void BringUpToDate();
 
   QLineEdit* m_searchEdit;
   CCategoryLabel* m_category;

@@ -19,10 +19,11 @@ namespace quill {
 
 namespace {
 
+bool IsByMemo() { return g_list.Mode == ViewMode::ByMemo; }
+
 // What the current row's contact is filed under.
 std::optional<QString> CurrentContact() {
-  const bool hasRow = g_list.Mode != ViewMode::ByMemo && g_list.CurrentRow >= 0 &&
-                      g_list.CurrentRow < g_list.RowsShown;
+  const bool hasRow = !IsByMemo() && g_list.CurrentRow >= 0 && g_list.CurrentRow < g_list.RowsShown;
   if (!hasRow) return std::nullopt;
   return g_list.Rows[static_cast<std::size_t>(g_list.CurrentRow)].Name;
 }
@@ -40,7 +41,7 @@ void AddMemo(CContactsView& view) {
 // does.
 void OpenLinkedAppointment(CContactsView& view, int id) {
   const auto index = static_cast<std::size_t>(id - ID_OPEN_APPOINTMENT_FIRST);
-  if (index >= g_linkedItems.Appointments.size()) return;
+  if (IsByMemo() || index >= g_linkedItems.Appointments.size()) return;
   const Oid appointment = g_linkedItems.Appointments[index];
   CScreen& screen = *ScreenAround(&view);
   const int result = CAppointmentPreviewDlg(screen, appointment).DoModal();
@@ -50,7 +51,7 @@ void OpenLinkedAppointment(CContactsView& view, int id) {
 
 void OpenLinkedMemo(CContactsView& view, int id) {
   const QString name = g_linkedItems.Memos.value(id - ID_OPEN_MEMO_FIRST);
-  if (!name.isEmpty()) EditMemoFile(*ScreenAround(&view), MemoPath(g_memo, name));
+  if (!IsByMemo() && !name.isEmpty()) EditMemoFile(*ScreenAround(&view), MemoPath(g_memo, name));
 }
 
 }  // namespace

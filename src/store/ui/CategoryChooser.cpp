@@ -26,6 +26,7 @@ CCategoryChooser::CCategoryChooser(CScreen& screen, const QString& names)
   KeepFocusUnderThePen();
   Editor().setPlaceholderText(QStringLiteral("Name of a category"));
   Editor().setAccessibleName(QStringLiteral("Name of a category"));
+  Editor().setMaxLength(kCategoryNameLimit);
   connect(&Editor(), &QLineEdit::textChanged, this, [this] { EnableButtons(); });
   List().CurrentChanged = [this] { ShowCurrent(); };
   List().SetItems(OfferCategories(OfferedCategories(), CheckedCategories(names)));
