@@ -55,7 +55,8 @@ enum class ContactField {
   Spouse,
   Children,
 };
-inline constexpr std::size_t kContactFieldCount = 41;
+inline constexpr std::size_t kContactFieldCount =
+    static_cast<std::size_t>(ContactField::Children) + 1;
 
 // A calendar date-time. Year 0 means that there is no date.
 struct CalendarDate {

@@ -4,7 +4,6 @@
 
 #include <QFile>
 
-#include "store/pim/ContactRows.h"
 #include "store/pim/Database.h"
 #include "store/pim/SqlFunctions.h"
 #include "store_pim/TemporaryStore.h"
@@ -12,10 +11,27 @@
 namespace quill {
 namespace {
 
-// Version 1 as it was.
+// Version 1 as it was, whatever fields a contact has got since.
+constexpr char kTexts1[] =
+    "FileAs Title FirstName MiddleName LastName Suffix JobTitle Department CompanyName "
+    "BusinessTelephoneNumber Business2TelephoneNumber BusinessFaxNumber HomeTelephoneNumber "
+    "Home2TelephoneNumber HomeFaxNumber MobileTelephoneNumber PagerNumber CarTelephoneNumber "
+    "RadioTelephoneNumber Email1Address Email2Address Email3Address WebPage "
+    "BusinessAddressStreet BusinessAddressCity BusinessAddressState BusinessAddressPostalCode "
+    "BusinessAddressCountry HomeAddressStreet HomeAddressCity HomeAddressState "
+    "HomeAddressPostalCode HomeAddressCountry OtherAddressStreet OtherAddressCity "
+    "OtherAddressState OtherAddressPostalCode OtherAddressCountry Categories Spouse Children";
+
 QByteArray Version1() {
-  const QByteArray columns = ContactColumnDeclarations().join(", ");
-  const QByteArray names = ContactColumnNames().join(", ");
+  const QByteArrayList texts = QByteArray(kTexts1).split(' ');
+  const QByteArray columns =
+      texts.join(" TEXT NOT NULL DEFAULT '', ") +
+      " TEXT NOT NULL DEFAULT '', Birthday REAL NOT NULL DEFAULT 949998.0, "
+      "Anniversary REAL NOT NULL DEFAULT 949998.0, BodyInk BLOB NOT NULL DEFAULT x'', "
+      "Uid TEXT NOT NULL DEFAULT '', CarriedLines TEXT NOT NULL DEFAULT ''";
+  const QByteArrayList all =
+      texts + QByteArrayList{"Birthday", "Anniversary", "BodyInk", "Uid", "CarriedLines"};
+  const QByteArray names = all.join(", ");
   return "PRAGMA encoding = 'UTF-16le';"
          "CREATE TABLE contact (Oid INTEGER PRIMARY KEY AUTOINCREMENT "
          "CHECK (Oid BETWEEN 1 AND 2147483647), " +
@@ -31,7 +47,7 @@ QByteArray Version1() {
          "CREATE TRIGGER contact_deleted AFTER DELETE ON contact BEGIN INSERT INTO contact_journal "
          "(DeletedAt, Oid, " +
          names + ") VALUES (CAST(strftime('%s', 'now') AS INTEGER), OLD.Oid, OLD." +
-         ContactColumnNames().join(", OLD.") +
+         all.join(", OLD.") +
          "); END;"
          "PRAGMA application_id = 0x5175696C; PRAGMA user_version = 1; PRAGMA journal_mode = WAL;";
 }

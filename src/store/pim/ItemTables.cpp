@@ -14,12 +14,14 @@ QByteArray ItemTables(const QByteArray& item, const QByteArrayList& names,
                              "_journal (JournalId INTEGER PRIMARY KEY, "
                              "DeletedAt INTEGER NOT NULL, Oid INTEGER NOT NULL, " +
                              columns + ");";
-  const QByteArray trigger = "CREATE TRIGGER " + item + "_deleted AFTER DELETE ON " + item +
-                             " BEGIN INSERT INTO " + item + "_journal (DeletedAt, Oid, " +
-                             names.join(", ") +
-                             ") VALUES (CAST(strftime('%s', 'now') AS INTEGER), OLD.Oid, OLD." +
-                             names.join(", OLD.") + "); END;";
-  return table + journal + trigger;
+  return table + journal + JournalTrigger(item, names);
+}
+
+QByteArray JournalTrigger(const QByteArray& item, const QByteArrayList& names) {
+  return "CREATE TRIGGER " + item + "_deleted AFTER DELETE ON " + item + " BEGIN INSERT INTO " +
+         item + "_journal (DeletedAt, Oid, " + names.join(", ") +
+         ") VALUES (CAST(strftime('%s', 'now') AS INTEGER), OLD.Oid, OLD." + names.join(", OLD.") +
+         "); END;";
 }
 
 }  // namespace quill

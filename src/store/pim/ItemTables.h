@@ -11,5 +11,7 @@ namespace quill {
 // deletion goes round the journal. Names and declarations are of the same columns, in one order.
 QByteArray ItemTables(const QByteArray& item, const QByteArrayList& names,
                       const QByteArrayList& declarations);
+// The trigger alone: a column that a later version adds to both tables needs it anew.
+QByteArray JournalTrigger(const QByteArray& item, const QByteArrayList& names);
 
 }  // namespace quill
