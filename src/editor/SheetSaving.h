@@ -15,7 +15,8 @@ enum class SheetOutcome {
 };
 
 // Writes the sheet's contact with the ink notes in g_contactInk, which are freed, and forgets the
-// draft that it came from. Says nothing to the user: failures go to the log.
+// draft that it came from. Of an existing contact only what was entered takes the place of what the
+// store holds by now. Says nothing to the user: failures go to the log.
 SheetOutcome SaveSheet(const SheetRecord& sheet, const Settings& settings);
 
 // What was entered so far, to be kept against a crash; nothing when it is as it was at opening.

@@ -144,6 +144,21 @@ TEST_F(RecordScript, EveryFieldWithARowIsEditedAndTheOthersStay) {
   EXPECT_EQ(Fields(driver, oid), expected);
 }
 
+TEST_F(RecordScript, WhatAnotherProgramChangedMeanwhileStays) {
+  ReadyDriver driver(Arguments());
+  const int oid = Put(driver, R"({"FileAs":"Kim","BusinessTelephoneNumber":"1"})");
+  OpenFirst(driver);
+  driver.Do(R"({"op":"put","quiet":true,"oid":)" + QByteArray::number(oid) +
+            R"(,"fields":{"BusinessTelephoneNumber":"2","BodyInk":"aW5r"}})");
+  EditRow(driver, 1, "Pilot");
+  OK(driver);
+  const QJsonObject expected{{u"FileAs"_qs, u"Kim"_qs},
+                             {u"JobTitle"_qs, u"Pilot"_qs},
+                             {u"BusinessTelephoneNumber"_qs, u"2"_qs},
+                             {u"BodyInk"_qs, u"aW5r"_qs}};
+  EXPECT_EQ(Fields(driver, oid), expected);
+}
+
 TEST_F(RecordScript, CategoriesAreChosenAndNoCategoriesIsNone) {
   ReadyDriver driver(Arguments());
   const int oid = Put(driver, R"({"FileAs":"Kim","Categories":"Elsewhere"})");
