@@ -51,9 +51,9 @@ SheetOutcome Forget(const Draft& draft, SheetOutcome outcome) {
 SheetOutcome SaveSheet(const SheetRecord& sheet, const Settings& settings) {
   const Draft draft = DraftOf(sheet, settings);
   g_contactInk = {};
-  const bool isWorthSaving = HasAnythingToSave(sheet);
-  if (isWorthSaving && Write(draft, settings)) return Forget(draft, SheetOutcome::Written);
-  if (!isWorthSaving && !IsChanged(sheet, draft)) return Forget(draft, SheetOutcome::NothingToSave);
+  if (HasAnythingToSave(sheet) && Write(draft, settings))
+    return Forget(draft, SheetOutcome::Written);
+  if (!IsChanged(sheet, draft)) return Forget(draft, SheetOutcome::NothingToSave);
   return SaveDraft(draft) != 0 ? SheetOutcome::KeptAsDraft : SheetOutcome::Lost;
 }
 

@@ -9,9 +9,9 @@ namespace quill {
 
 enum class SheetOutcome {
   Written,
-  NothingToSave,
-  KeptAsDraft,  // not worth writing but not empty, or the store could not write it
-  Lost,         // nor could a draft be kept
+  NothingToSave,  // nor anything to keep, also where the store could not write
+  KeptAsDraft,    // entered, but not worth writing, or the store could not write it
+  Lost,           // nor could a draft be kept
 };
 
 // Writes the sheet's contact with the ink notes in g_contactInk, which are freed, and forgets the

@@ -159,6 +159,16 @@ TEST_F(RecordScript, WhatAnotherProgramChangedMeanwhileStays) {
   EXPECT_EQ(Fields(driver, oid), expected);
 }
 
+TEST_F(RecordScript, AContactDeletedMeanwhileInWhichNothingWasEnteredIsNotOffered) {
+  ReadyDriver driver(Arguments());
+  const int oid = Put(driver, R"({"FileAs":"Kim"})");
+  OpenFirst(driver);
+  driver.Do(R"({"op":"drop-contact","quiet":true,"oid":)" + QByteArray::number(oid) + '}');
+  OK(driver);
+  driver.Do(kNew);
+  EXPECT_FALSE(driver.Ask(R"({"op":"get","id":1101})")[u"ok"].toBool());
+}
+
 TEST_F(RecordScript, CategoriesAreChosenAndNoCategoriesIsNone) {
   ReadyDriver driver(Arguments());
   const int oid = Put(driver, R"({"FileAs":"Kim","Categories":"Elsewhere"})");

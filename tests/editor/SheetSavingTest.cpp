@@ -209,8 +209,24 @@ TEST_F(SheetSavingTest, WhatTheStoreCannotWriteBecomesADraftWithItsInk) {
 TEST_F(SheetSavingTest, WhatOneContactDeletedMeanwhileWasToHoldBecomesADraft) {
   const Oid kim = Add(QStringLiteral("Kim"));
   SheetRecord sheet = LoadSheet(kim, m_state);
+  Type(sheet, RowSet::Basic, 1, QStringLiteral("Painter"));
   m_store.Contacts()->Remove(kim);
   EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::KeptAsDraft);
+}
+
+TEST_F(SheetSavingTest, OfAContactDeletedMeanwhileInWhichNothingWasEnteredNothingIsKept) {
+  const Oid kim = Add(QStringLiteral("Kim"), "ink");
+  const SheetRecord sheet = LoadSheet(kim, m_state);
+  m_store.Contacts()->Remove(kim);
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::NothingToSave);
+  EXPECT_EQ(LoadDraft(), std::nullopt);
+}
+
+TEST_F(SheetSavingTest, WhatTheStoreCannotWriteAndNobodyEnteredIsNotKept) {
+  const SheetRecord sheet = LoadSheet(Add(QStringLiteral("Kim")), m_state);
+  m_store.Faults().Save = true;
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::NothingToSave);
+  EXPECT_EQ(LoadDraft(), std::nullopt);
 }
 
 TEST_F(SheetSavingTest, ARestoredDraftThatIsWrittenIsADraftNoLonger) {
