@@ -37,6 +37,12 @@ auto FindDraft(std::vector<Draft>& drafts, int number) {
   return std::ranges::find(drafts, number, &Draft::Number);
 }
 
+bool HasEnteredName(const Draft& draft) {
+  return std::ranges::any_of(RulesOf(RowSet::NameParts), [&](const RowRule& rule) {
+    return draft.Record[*rule.Field] != draft.Opened[*rule.Field];
+  });
+}
+
 SheetRecord NewSheetOf(const Draft& draft) {
   g_contactInk.Bytes = draft.Ink;
   return SheetOf(0, draft.FileAs, draft.Record);
@@ -110,7 +116,8 @@ SheetRecord SheetOfDraft(const Draft& draft, SheetState& state) {
   const SheetRecord now = LoadSheet(draft.Oid, state);
   SheetRecord sheet = now.Oid == 0 ? NewSheetOf(draft) : SheetOver(draft, now);
   sheet.Draft = draft.Number;
-  SumUpParts(sheet, RowSet::Basic);
+  // Else the name row shows the FileAs, as when the contact is opened.
+  if (HasEnteredName(draft)) SumUpParts(sheet, RowSet::Basic);
   state.PhoneFlags = PhoneFlagsOf(RecordOf(sheet, {}));
   return sheet;
 }

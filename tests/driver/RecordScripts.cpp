@@ -209,6 +209,7 @@ TEST_F(RecordScript, WhatTheStoreCouldNotWriteIsOfferedAfterARestart) {
   ReadyDriver driver(Arguments());
   driver.Do(kNew);
   ClickControl(driver, 1101);
+  EXPECT_EQ(RowValue(driver, 0), QStringLiteral("Kim")) << "as when it is opened";
   EXPECT_EQ(RowValue(driver, 3), QStringLiteral("Newer"));
   OK(driver);
   const QJsonArray contacts = driver.Result(R"({"op":"contacts"})", u"contacts").toArray();
