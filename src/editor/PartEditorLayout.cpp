@@ -77,7 +77,8 @@ std::vector<PaintedRow> LayOutParts(std::span<const RecordRow> rows, RowSet part
       AddStreet(painted.back(), row.Value, width);
     else
       painted.back().Items.push_back(
-          ValueLine(RowTop(parts, i), kRecordRowHeight, ShortenText(row.Value, kTextLimit, width)));
+          ValueLine(RowTop(parts, i), kRecordRowHeight,
+                    ShortenText(OnOneLine(row.Value), kTextLimit, width)));
   }
   return painted;
 }

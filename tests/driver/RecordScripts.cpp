@@ -169,6 +169,31 @@ TEST_F(RecordScript, AContactDeletedMeanwhileInWhichNothingWasEnteredIsNotOffere
   EXPECT_FALSE(driver.Ask(R"({"op":"get","id":1101})")[u"ok"].toBool());
 }
 
+TEST_F(RecordScript, LinesPastedIntoARowAreJoinedByBlanks) {
+  ReadyDriver driver(Arguments());
+  const int oid = Put(driver, R"({"FileAs":"Kim","BusinessAddressStreet":"a\nb",)"
+                              R"("Department":"c\r\nd"})");
+  OpenFirst(driver);
+  TapRow(driver, 8);
+  driver.Do(R"({"op":"tap","on":"parts","x":100,"y":25})");
+  driver.Do(R"({"op":"command","id":40020})");
+  driver.Do(R"({"op":"tap","on":"parts","x":100,"y":60})");
+  driver.Do(R"({"op":"key","key":"Ctrl+V"})");
+  CloseParts(driver);
+  TapRow(driver, 1);
+  driver.Do(R"({"op":"command","id":40021})");
+  TapRow(driver, 2);
+  driver.Do(R"({"op":"key","key":"End"})");
+  Type(driver, "e");
+  OK(driver);
+  const QJsonObject expected{{u"FileAs"_qs, u"Kim"_qs},
+                             {u"BusinessAddressStreet"_qs, u"a\nb"_qs},
+                             {u"BusinessAddressCity"_qs, u"a b"_qs},
+                             {u"JobTitle"_qs, u"a b"_qs},
+                             {u"Department"_qs, u"c\r\nde"_qs}};
+  EXPECT_EQ(Fields(driver, oid), expected);
+}
+
 TEST_F(RecordScript, CategoriesAreChosenAndNoCategoriesIsNone) {
   ReadyDriver driver(Arguments());
   const int oid = Put(driver, R"({"FileAs":"Kim","Categories":"Elsewhere"})");

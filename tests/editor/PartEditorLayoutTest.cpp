@@ -73,6 +73,12 @@ TEST(PartEditorLayout, ALongPartIsShortened) {
             QString(13, u'x') + QStringLiteral("..."));
 }
 
+TEST(PartEditorLayout, APartOfSeveralLinesStandsOnOne) {
+  ContactRecord record;
+  record[ContactField::MiddleName] = QStringLiteral("A\r\nB");
+  EXPECT_EQ(TextsOf(LayOut(record, RowSet::NameParts)[2])[1].Text, QStringLiteral("A  B"));
+}
+
 TEST(PartEditorLayout, ADottedLineEndsEveryRow) {
   for (const RowSet parts : {RowSet::NameParts, RowSet::WorkAddress}) {
     for (const PaintedRow& row : LayOut({}, parts)) {

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
+#include "platform/ui/Edit.h"
 #include "platform/ui/InputCommit.h"
 #include "platform/ui/Screen.h"
 #include "resources/Ids.h"
@@ -15,6 +16,8 @@ namespace {
 
 bool HasSelection(const QLineEdit& edit) { return edit.hasSelectedText(); }
 bool HasSelection(const QPlainTextEdit& edit) { return edit.textCursor().hasSelection(); }
+void Paste(QLineEdit& edit) { PasteLine(edit); }
+void Paste(QPlainTextEdit& edit) { edit.paste(); }
 bool IsEmpty(const QLineEdit& edit) { return edit.text().isEmpty(); }
 bool IsEmpty(const QPlainTextEdit& edit) { return edit.document()->isEmpty(); }
 
@@ -37,7 +40,7 @@ template <class Editor>
 void RunEditCommand(Editor& edit, int id) {
   if (id == EditMenuIds::kCut) edit.cut();
   if (id == EditMenuIds::kCopy) edit.copy();
-  if (id == EditMenuIds::kPaste) edit.paste();
+  if (id == EditMenuIds::kPaste) Paste(edit);
   if (id == EditMenuIds::kSelectAll) edit.selectAll();
 }
 
