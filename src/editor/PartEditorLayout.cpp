@@ -40,6 +40,12 @@ void AddStreet(PaintedRow& painted, const QString& street, const TextWidth& widt
         ValueLine(1 + line * kStreetLineHeight, kStreetLineHeight, lines[line]));
 }
 
+void AddValue(PaintedRow& painted, const RecordRow& row, RowSet parts, const TextWidth& width) {
+  if (IsStreet(parts, painted.Key)) return AddStreet(painted, row.Value, width);
+  const QString text = ShortenText(OnOneLine(row.Value), kTextLimit, width);
+  painted.Items.push_back(ValueLine(painted.Rectangle.top(), kRecordRowHeight, text));
+}
+
 PaintedRow LayOutFrame(const RecordRow& row, int index, RowSet parts) {
   const QRect area = RowArea(parts, index);
   PaintedRow painted{.Rectangle = area, .Key = index, .SpokenName = row.Label};
@@ -73,12 +79,7 @@ std::vector<PaintedRow> LayOutParts(std::span<const RecordRow> rows, RowSet part
     painted.push_back(LayOutFrame(row, i, parts));
     painted.back().State = PaintedStateFlag::Selectable;
     painted.back().State.setFlag(PaintedStateFlag::Current, i == current);
-    if (IsStreet(parts, i))
-      AddStreet(painted.back(), row.Value, width);
-    else
-      painted.back().Items.push_back(
-          ValueLine(RowTop(parts, i), kRecordRowHeight,
-                    ShortenText(OnOneLine(row.Value), kTextLimit, width)));
+    if (i != current) AddValue(painted.back(), row, parts, width);
   }
   return painted;
 }

@@ -120,6 +120,23 @@ TEST(PartEditorLayout, TheEditedRowIsTheCurrentOne) {
   EXPECT_EQ(rows[0].SpokenName, QStringLiteral("Title"));
 }
 
+TEST(PartEditorLayout, UnderTheFieldOfTheEditedPartNoValueIsPainted) {
+  ContactRecord record;
+  record[ContactField::HomeAddressStreet] = QStringLiteral("Mill Lane");
+  record[ContactField::HomeAddressCity] = QStringLiteral("Seoul");
+  const auto valuesPainted = [&](int current) {
+    std::vector<std::size_t> counts;
+    for (const PaintedRow& row : LayOut(record, RowSet::HomeAddress, current))
+      counts.push_back(TextsOf(row).size() - 1);
+    return counts;
+  };
+  EXPECT_EQ(valuesPainted(-1), (std::vector<std::size_t>{1, 1, 0, 0, 0}));
+  EXPECT_EQ(valuesPainted(0), (std::vector<std::size_t>{0, 1, 0, 0, 0}));
+  EXPECT_EQ(valuesPainted(1), (std::vector<std::size_t>{1, 0, 0, 0, 0}));
+  EXPECT_EQ(LayOut(record, RowSet::HomeAddress, 0)[0].SpokenName,
+            QStringLiteral("Street, Mill Lane"));
+}
+
 struct TapCase {
   RowSet Parts;
   QPoint Tap;
