@@ -194,6 +194,17 @@ TEST_F(RecordScript, LinesPastedIntoARowAreJoinedByBlanks) {
   EXPECT_EQ(Fields(driver, oid), expected);
 }
 
+TEST_F(RecordScript, UndoIsOverWithTheEdit) {
+  ReadyDriver driver(Arguments());
+  Put(driver, R"({"FileAs":"Kim"})");
+  OpenFirst(driver);
+  EditRow(driver, 1, "Pilot");
+  EXPECT_NE(driver.Ask(R"({"op":"command","id":32773})")[u"error"], QStringLiteral("disabled"));
+  EditRow(driver, 1, "Painter");
+  TapRow(driver, 11, 10);
+  EXPECT_EQ(driver.Error(R"({"op":"command","id":32773})"), QStringLiteral("disabled"));
+}
+
 TEST_F(RecordScript, CategoriesAreChosenAndNoCategoriesIsNone) {
   ReadyDriver driver(Arguments());
   const int oid = Put(driver, R"({"FileAs":"Kim","Categories":"Elsewhere"})");

@@ -82,6 +82,30 @@ TEST_F(RecordPageTest, EditCommandsAreEnabledByTheActiveField) {
   });
 }
 
+TEST_F(RecordPageTest, AFieldWhoseEditHasEndedEnablesNothing) {
+  InSheet(AddKim(), [&] {
+    TapRow(1);
+    m_input.Type(QStringLiteral("xy"));
+    RowEdit().selectAll();
+    m_panel.Lower();
+    TapRow(11, 10);
+    for (const int id : {ID_EDIT_UNDO, ID_EDIT_CUT, ID_EDIT_COPY, ID_EDIT_CLEAR})
+      EXPECT_FALSE(IsEnabled(id)) << id;
+    m_sheet->RunCommand(ID_EDIT_PASTE);
+    EXPECT_EQ(RowEdit().text(), QStringLiteral("xy"));
+  });
+}
+
+TEST_F(RecordPageTest, APartWhoseEditHasEndedEnablesNothing) {
+  InSheet(AddKim(), [&] {
+    TapRow(0);
+    TapPart({100, 25});
+    EXPECT_TRUE(IsEnabled(ID_EDIT_CUT));
+    TapPart({20, 25});
+    EXPECT_FALSE(IsEnabled(ID_EDIT_CUT));
+  });
+}
+
 TEST_F(RecordPageTest, TheDetailPageOffersAllFiveAtAnyTime) {
   InSheet(AddKim(), [&] {
     m_sheet->ShowPage(1);

@@ -141,7 +141,7 @@ void CRecordRowList::EndEdit() {
 
 EditField CRecordRowList::Field() const {
   QLineEdit* const text = m_editors.Text();
-  return text ? FieldOf(*text) : EditField();
+  return text && !text->isHidden() ? FieldOf(*text) : EditField();
 }
 
 void CRecordRowList::ActivateRow(int row) {

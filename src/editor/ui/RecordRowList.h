@@ -31,7 +31,7 @@ class CRecordRowList : public CPaintedWindow, public TimerTarget {
   void EndEdit();
   int EditedRow() const { return m_edited; }
   const RecordRow* EditedRecordRow() const;
-  // The editor of texts; none before one was needed.
+  // The editor of texts; none while none is shown.
   EditField Field() const;
   ControlMap Controls() const { return m_editors.Controls(); }
 
