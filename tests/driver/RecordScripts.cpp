@@ -205,6 +205,21 @@ TEST_F(RecordScript, UndoIsOverWithTheEdit) {
   EXPECT_EQ(driver.Error(R"({"op":"command","id":32773})"), QStringLiteral("disabled"));
 }
 
+TEST_F(RecordScript, TypingBringsARowThatWasScrolledAwayBackIntoSight) {
+  ReadyDriver driver(Arguments());
+  Put(driver, R"({"FileAs":"Kim"})");
+  OpenFirst(driver);
+  TapRow(driver, 1);
+  driver.Ask(R"({"op":"panel","up":true})");
+  driver.Do(R"({"op":"scroll","on":1006,"code":"pagedown"})");
+  const auto top = [&] {
+    return driver.Result(R"({"op":"get","id":713})", u"control")[u"y"].toInt();
+  };
+  EXPECT_LT(top(), 0);
+  Type(driver, "x");
+  EXPECT_EQ(top(), 10);
+}
+
 TEST_F(RecordScript, CategoriesAreChosenAndNoCategoriesIsNone) {
   ReadyDriver driver(Arguments());
   const int oid = Put(driver, R"({"FileAs":"Kim","Categories":"Elsewhere"})");

@@ -1,8 +1,11 @@
 #include "editor/ui/RecordPage.h"
 
+#include <QApplication>
+#include <QInputMethodEvent>
 #include <QScrollBar>
 
 #include "SheetFixture.h"
+#include "platform/ui/DatePicker.h"
 
 namespace quill {
 namespace {
@@ -65,6 +68,44 @@ TEST_F(RecordPageTest, TheEditedRowStaysVisibleAboveThePanel) {
     TapRow(9);
     EXPECT_GE(Rows().Top(), 2);
     EXPECT_LE(Rows().geometry().y() + RowEdit().geometry().bottom(), 168);
+  });
+}
+
+TEST_F(RecordPageTest, WhatIsEnteredBringsItsRowBackIntoSight) {
+  InSheet(AddKim(), [&] {
+    TapRow(1);
+    const auto scrollAway = [&] {
+      Bar().triggerAction(QAbstractSlider::SliderPageStepAdd);
+      ASSERT_EQ(Rows().Top(), 3);
+    };
+    scrollAway();
+    m_input.Key(Qt::Key_Home);
+    EXPECT_EQ(Rows().Top(), 3) << "nothing is entered";
+    m_input.Type(QStringLiteral("x"));
+    EXPECT_EQ(Rows().Top(), 1);
+    EXPECT_EQ(Bar().value(), 1);
+    EXPECT_EQ(RowEdit().y(), 0);
+    EXPECT_EQ(Value(RowSet::Basic, 1), QStringLiteral("xEngineer"));
+    scrollAway();
+    QInputMethodEvent composing(QStringLiteral("\uAE40"), {});
+    QApplication::sendEvent(&RowEdit(), &composing);
+    EXPECT_EQ(Rows().Top(), 1);
+  });
+}
+
+TEST_F(RecordPageTest, ADateThatIsEnteredBringsItsRowBackIntoSight) {
+  InSheet(AddKim(), [&] {
+    m_sheet->ShowPage(1);
+    TapRow(7);
+    m_panel.Raise();
+    auto& picker = *qobject_cast<CDatePicker*>(m_sheet->Control(RecordSheetIds::kRowDate));
+    Rows().SetTop(0);
+    m_input.Key(Qt::Key_Up);
+    EXPECT_EQ(Rows().Top(), 0) << "row 7 is the last one shown";
+    TapRow(8);
+    Rows().SetTop(0);
+    picker.ChooseDate(QDate(2001, 12, 31));
+    EXPECT_EQ(Rows().Top(), 1);
   });
 }
 

@@ -65,6 +65,7 @@ void CRecordPage::ListenToRows() {
     SumUp();
   };
   m_rows->PartsAsked = [this](RowSet parts) { ShowParts(parts); };
+  m_rows->Entering = [this] { ScrollToShow(m_rows->EditedRow()); };
   m_rows->MoveAsked = [this](RowMove move) { MoveEdit(move); };
 }
 
@@ -160,7 +161,7 @@ void CRecordPage::MoveEdit(RowMove move) {
   const int first = move == RowMove::Next ? 0 : kRecordRowCount - 1;
   const int row = from < 0 ? first : RowAfterMove(from, move, kRecordRowCount).value_or(first);
   EndEdits();
-  ScrollTo(SheetTopShowing(row, m_rows->Top(), RowsShown(), Panel()));
+  ScrollToShow(row);
   m_rows->StartEdit(row);
 }
 
@@ -175,6 +176,10 @@ void CRecordPage::Scroll(int action) {
 void CRecordPage::ScrollTo(int top) {
   m_rows->SetTop(top);
   m_scrollBar->setValue(top);
+}
+
+void CRecordPage::ScrollToShow(int row) {
+  ScrollTo(SheetTopShowing(row, m_rows->Top(), RowsShown(), Panel()));
 }
 
 int CRecordPage::RowsShown() const { return RecordRowsShown(height() - kRecordListArea.top()); }

@@ -57,6 +57,7 @@ class CRecordPage : public CSheetPage, public TimerTarget {
   void MoveEdit(RowMove move);
   void Scroll(int action);
   void ScrollTo(int top);
+  void ScrollToShow(int row);
   int RowsShown() const;
 
   SheetRecord& m_record;
