@@ -220,6 +220,18 @@ TEST_F(RecordScript, TypingBringsARowThatWasScrolledAwayBackIntoSight) {
   EXPECT_EQ(top(), 10);
 }
 
+TEST_F(RecordScript, ByKeyAnEditedNumberIsOfferedToBeCalled) {
+  ReadyDriver driver(Arguments());
+  Put(driver, R"({"FileAs":"Kim","MobileTelephoneNumber":"010-1"})");
+  OpenFirst(driver);
+  TapRow(driver, 4);
+  driver.Do(R"({"op":"key","key":"Menu"})");
+  const QJsonArray items = driver.Result(R"({"op":"popup"})", u"popup").toArray();
+  ASSERT_EQ(items.size(), 7);
+  EXPECT_EQ(items[6][u"text"], QStringLiteral("Call"));
+  driver.Do(R"({"op":"dismiss"})");
+}
+
 TEST_F(RecordScript, CategoriesAreChosenAndNoCategoriesIsNone) {
   ReadyDriver driver(Arguments());
   const int oid = Put(driver, R"({"FileAs":"Kim","Categories":"Elsewhere"})");

@@ -102,6 +102,7 @@ TEST_F(RecordPageTest, ADateThatIsEnteredBringsItsRowBackIntoSight) {
     Rows().SetTop(0);
     m_input.Key(Qt::Key_Up);
     EXPECT_EQ(Rows().Top(), 0) << "row 7 is the last one shown";
+    Rows().SetTop(3);
     TapRow(8);
     Rows().SetTop(0);
     picker.ChooseDate(QDate(2001, 12, 31));

@@ -43,6 +43,9 @@ CRecordRowList::CRecordRowList(SheetRecord& record, RowSet page, QWidget* parent
               date ? MakeCalendarDate(*date, QTime(0, 0)) : CalendarDate());
     ShowRows();
   };
+  m_editors.ItemToAdd = [this] {
+    return RowLinkItem(FindRule(m_page, m_edited)->Entry, RowAt(m_edited).Value);
+  };
   m_editors.Left = [this] { EndEdit(); };
 }
 

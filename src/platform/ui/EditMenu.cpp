@@ -45,18 +45,28 @@ void RunEditCommand(Editor& edit, int id) {
 }
 
 template <class Editor>
-void ShowMenu(Editor& edit, QPoint at) {
+void ShowMenu(Editor& edit, QPoint at, const std::optional<AddedMenuItem>& added) {
   CScreen* const screen = ScreenAround(&edit);
   if (!screen) return;
   CommitInput();
-  RunEditCommand(edit, screen->TrackMenu(edit.mapTo(screen, at), EditMenu(edit)));
+  std::vector<MenuItem> items = EditMenu(edit);
+  if (added) {
+    items.push_back({.Separator = true});
+    items.push_back({.Text = added->Text, .Id = EditMenuIds::kAdded});
+  }
+  const int chosen = screen->TrackMenu(edit.mapTo(screen, at), items);
+  chosen == EditMenuIds::kAdded ? added->Run() : RunEditCommand(edit, chosen);
 }
 
 }  // namespace
 
-void ShowEditMenu(QLineEdit& edit, QPoint at) { ShowMenu(edit, at); }
+void ShowEditMenu(QLineEdit& edit, QPoint at, const std::optional<AddedMenuItem>& added) {
+  ShowMenu(edit, at, added);
+}
 
-void ShowEditMenu(QPlainTextEdit& edit, QPoint at) { ShowMenu(edit, at); }
+void ShowEditMenu(QPlainTextEdit& edit, QPoint at, const std::optional<AddedMenuItem>& added) {
+  ShowMenu(edit, at, added);
+}
 
 bool IsMenuKey(const QKeyEvent& event) {
   const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
