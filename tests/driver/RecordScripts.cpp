@@ -260,6 +260,20 @@ TEST_F(RecordScript, ANewContactWithoutAnyNameIsNotWrittenButOfferedToTheNext) {
   EXPECT_EQ(contacts[0][u"fields"][u"JobTitle"].toString(), QStringLiteral("Pilot"));
 }
 
+TEST_F(RecordScript, ADraftIsTakenBackByKeys) {
+  ReadyDriver driver(Arguments());
+  driver.Do(kNew);
+  EditRow(driver, 1, "Pilot");
+  OK(driver);
+  driver.Do(kNew);
+  for (const int id : {1102, 1101}) {
+    driver.Do(R"({"op":"key","key":"Shift+Tab"})");
+    EXPECT_EQ(driver.Result(R"({"op":"focus"})", u"focus")[u"id"], id);
+  }
+  driver.Do(R"({"op":"key","key":"Space"})");
+  EXPECT_EQ(RowValue(driver, 1), QStringLiteral("Pilot"));
+}
+
 TEST_F(RecordScript, WhatTheStoreCouldNotWriteIsOfferedAfterARestart) {
   {
     ReadyDriver driver(Arguments());
