@@ -111,6 +111,19 @@ TEST(PartEditorLayout, ALongStreetIsWrapped) {
   EXPECT_EQ(texts[2].Text, QStringLiteral("Hill Road"));
 }
 
+TEST(PartEditorLayout, OfALongStreetOnlyTheBeginningIsMeasured) {
+  ContactRecord record;
+  record[ContactField::HomeAddressStreet] = QString(100'000, u'a');
+  qsizetype measured = 0;
+  const auto rows = LayOutParts(RowsFrom(record, RowSet::HomeAddress), RowSet::HomeAddress, -1,
+                                [&](QStringView text) {
+                                  measured += text.size();
+                                  return TenEach(text);
+                                });
+  EXPECT_EQ(TextsOf(rows[0]).size(), 4U);
+  EXPECT_LE(measured, 20'000);
+}
+
 TEST(PartEditorLayout, TheEditedRowIsTheCurrentOne) {
   const std::vector<PaintedRow> rows = LayOut({}, RowSet::NameParts, 3);
   for (int row = 0; row < 5; ++row) {
