@@ -37,15 +37,10 @@ auto FindDraft(std::vector<Draft>& drafts, int number) {
   return std::ranges::find(drafts, number, &Draft::Number);
 }
 
-// What was entered, over what the contact is now.
-ContactRecord Merged(const Draft& draft, const ContactRecord& now) {
-  ContactRecord merged = now;
-  for (const ContactFieldRow& row : kContactFields)
-    if (draft.Record[row.Field] != draft.Opened[row.Field])
-      merged[row.Field] = draft.Record[row.Field];
-  for (const ContactDateRow& row : kContactDates)
-    if (draft.Record.*row.Date != draft.Opened.*row.Date) merged.*row.Date = draft.Record.*row.Date;
-  return merged;
+bool HasEnteredName(const Draft& draft) {
+  return std::ranges::any_of(RulesOf(RowSet::NameParts), [&](const RowRule& rule) {
+    return draft.Record[*rule.Field] != draft.Opened[*rule.Field];
+  });
 }
 
 SheetRecord NewSheetOf(const Draft& draft) {
@@ -55,8 +50,8 @@ SheetRecord NewSheetOf(const Draft& draft) {
 
 // LoadSheet has read the contact, its ink included.
 SheetRecord SheetOver(const Draft& draft, const SheetRecord& now) {
-  if (draft.Ink != draft.OpenedInk) g_contactInk.Bytes = draft.Ink;
-  SheetRecord sheet = SheetOf(now.Oid, now.FileAs, Merged(draft, now.Opened));
+  g_contactInk.Bytes = EnteredInkOver(draft, now.OpenedInk);
+  SheetRecord sheet = SheetOf(now.Oid, now.FileAs, EnteredOver(draft, now.Opened));
   sheet.Opened = now.Opened;
   sheet.OpenedInk = now.OpenedInk;
   return sheet;
@@ -103,11 +98,26 @@ bool DiscardDraft(int number) {
   return WriteDrafts(*files, drafts);
 }
 
+ContactRecord EnteredOver(const Draft& draft, const ContactRecord& now) {
+  ContactRecord merged = now;
+  for (const ContactFieldRow& row : kContactFields)
+    if (draft.Record[row.Field] != draft.Opened[row.Field])
+      merged[row.Field] = draft.Record[row.Field];
+  for (const ContactDateRow& row : kContactDates)
+    if (draft.Record.*row.Date != draft.Opened.*row.Date) merged.*row.Date = draft.Record.*row.Date;
+  return merged;
+}
+
+QByteArray EnteredInkOver(const Draft& draft, const QByteArray& now) {
+  return draft.Ink == draft.OpenedInk ? now : draft.Ink;
+}
+
 SheetRecord SheetOfDraft(const Draft& draft, SheetState& state) {
   const SheetRecord now = LoadSheet(draft.Oid, state);
   SheetRecord sheet = now.Oid == 0 ? NewSheetOf(draft) : SheetOver(draft, now);
   sheet.Draft = draft.Number;
-  SumUpParts(sheet, RowSet::Basic);
+  // Else the name row shows the FileAs, as when the contact is opened.
+  if (HasEnteredName(draft)) SumUpParts(sheet, RowSet::Basic);
   state.PhoneFlags = PhoneFlagsOf(RecordOf(sheet, {}));
   return sheet;
 }

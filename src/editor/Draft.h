@@ -40,6 +40,11 @@ QString TitleOf(const Draft& draft);
 // True when there is none of this number afterwards.
 bool DiscardDraft(int number);
 
+// What was entered, over what the contact and its ink are now: someone else may have changed them
+// since the sheet was opened.
+ContactRecord EnteredOver(const Draft& draft, const ContactRecord& now);
+QByteArray EnteredInkOver(const Draft& draft, const QByteArray& now);
+
 // The sheet that goes on with the draft, its ink in g_contactInk. Of a contact that was changed
 // meanwhile only that is replaced which was entered then. When the contact is no longer there the
 // sheet makes a new one, under the old FileAs. The draft stays until the sheet is saved.

@@ -16,6 +16,7 @@ constexpr int kTextLimit = kValueWidth - 19;
 constexpr QRect kStreetEditArea(kPartValueLeft, 1, kValueWidth, 46);
 constexpr int kStreetLineHeight = 16;
 constexpr int kStreetLines = kStreetHeight / kStreetLineHeight;
+constexpr int kStreetUnits = 1000;  // more than its lines can show
 constexpr int kPartEditHeight = 17;
 
 int RowTop(RowSet parts, int row) {
@@ -32,12 +33,19 @@ PaintedItem ValueLine(int top, int height, const QString& text) {
   return {.Rectangle = {kPartValueLeft, top, kValueWidth, height}, .Text = text};
 }
 
-// As many lines as the row has room for.
+// As many lines as the row has room for. A long street is not wrapped to its end for them.
 void AddStreet(PaintedRow& painted, const QString& street, const TextWidth& width) {
-  const QStringList lines = WrapLines(street, kValueWidth, width).mid(0, kStreetLines);
+  const QString beginning = CutText(street, kStreetUnits);
+  const QStringList lines = WrapLines(beginning, kValueWidth, width).mid(0, kStreetLines);
   for (int line = 0; line < lines.size(); ++line)
     painted.Items.push_back(
         ValueLine(1 + line * kStreetLineHeight, kStreetLineHeight, lines[line]));
+}
+
+void AddValue(PaintedRow& painted, const RecordRow& row, RowSet parts, const TextWidth& width) {
+  if (IsStreet(parts, painted.Key)) return AddStreet(painted, row.Value, width);
+  const QString text = ShortenText(OnOneLine(row.Value), kTextLimit, width);
+  painted.Items.push_back(ValueLine(painted.Rectangle.top(), kRecordRowHeight, text));
 }
 
 PaintedRow LayOutFrame(const RecordRow& row, int index, RowSet parts) {
@@ -73,11 +81,7 @@ std::vector<PaintedRow> LayOutParts(std::span<const RecordRow> rows, RowSet part
     painted.push_back(LayOutFrame(row, i, parts));
     painted.back().State = PaintedStateFlag::Selectable;
     painted.back().State.setFlag(PaintedStateFlag::Current, i == current);
-    if (IsStreet(parts, i))
-      AddStreet(painted.back(), row.Value, width);
-    else
-      painted.back().Items.push_back(
-          ValueLine(RowTop(parts, i), kRecordRowHeight, ShortenText(row.Value, kTextLimit, width)));
+    if (i != current) AddValue(painted.back(), row, parts, width);
   }
   return painted;
 }

@@ -29,7 +29,8 @@ QRect PartEditorArea(RowSet parts);
 // Whether the row is edited in several lines.
 bool IsStreet(RowSet parts, int row);
 
-// One painted row for each part, with its index as key. Current is the row that is edited, -1 none.
+// One painted row for each part, with its index as key. Current is the row that is edited, -1 none:
+// its value is not painted, since the field over it covers less than the row.
 std::vector<PaintedRow> LayOutParts(std::span<const RecordRow> rows, RowSet parts, int current,
                                     const TextWidth& width);
 

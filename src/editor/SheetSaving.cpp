@@ -20,9 +20,24 @@ bool IsChanged(const SheetRecord& sheet, const Draft& now) {
   return now.Record != sheet.Opened || now.Ink != sheet.OpenedInk;
 }
 
-bool Write(const Draft& draft) {
+bool WriteNew(const Draft& draft) {
   g_contactInk.Bytes = draft.Ink;
-  return WriteContact(draft.Oid, draft.Record) != 0;
+  return WriteContact(0, draft.Record) != 0;
+}
+
+// What cannot be read must not be written over. Nobody else writes between the two.
+bool WriteOver(const Draft& draft, const Settings& settings) {
+  const auto unit = g_store.Provider ? g_store.Provider->Begin() : nullptr;
+  ContactRecord stored;
+  if (!unit || ReadContact(ContactSelector(draft.Oid), stored) == 0) return false;
+  g_contactInk.Bytes = EnteredInkOver(draft, g_contactInk.Bytes);
+  const SheetRecord now = SheetOf(draft.Oid, stored[ContactField::FileAs], stored);
+  const ContactRecord record = EnteredOver(draft, RecordOf(now, settings.AreaCodePrefix));
+  return WriteContact(draft.Oid, record) != 0 && unit->Commit();
+}
+
+bool Write(const Draft& draft, const Settings& settings) {
+  return draft.Oid == 0 ? WriteNew(draft) : WriteOver(draft, settings);
 }
 
 SheetOutcome Forget(const Draft& draft, SheetOutcome outcome) {
@@ -36,9 +51,9 @@ SheetOutcome Forget(const Draft& draft, SheetOutcome outcome) {
 SheetOutcome SaveSheet(const SheetRecord& sheet, const Settings& settings) {
   const Draft draft = DraftOf(sheet, settings);
   g_contactInk = {};
-  const bool isWorthSaving = HasAnythingToSave(sheet);
-  if (isWorthSaving && Write(draft)) return Forget(draft, SheetOutcome::Written);
-  if (!isWorthSaving && !IsChanged(sheet, draft)) return Forget(draft, SheetOutcome::NothingToSave);
+  if (HasAnythingToSave(sheet) && Write(draft, settings))
+    return Forget(draft, SheetOutcome::Written);
+  if (!IsChanged(sheet, draft)) return Forget(draft, SheetOutcome::NothingToSave);
   return SaveDraft(draft) != 0 ? SheetOutcome::KeptAsDraft : SheetOutcome::Lost;
 }
 

@@ -9,13 +9,14 @@ namespace quill {
 
 enum class SheetOutcome {
   Written,
-  NothingToSave,
-  KeptAsDraft,  // not worth writing but not empty, or the store could not write it
-  Lost,         // nor could a draft be kept
+  NothingToSave,  // nor anything to keep, also where the store could not write
+  KeptAsDraft,    // entered, but not worth writing, or the store could not write it
+  Lost,           // nor could a draft be kept
 };
 
 // Writes the sheet's contact with the ink notes in g_contactInk, which are freed, and forgets the
-// draft that it came from. Says nothing to the user: failures go to the log.
+// draft that it came from. Of an existing contact only what was entered takes the place of what the
+// store holds by now. Says nothing to the user: failures go to the log.
 SheetOutcome SaveSheet(const SheetRecord& sheet, const Settings& settings);
 
 // What was entered so far, to be kept against a crash; nothing when it is as it was at opening.

@@ -1,5 +1,7 @@
 #include "platform/TextFitting.h"
 
+#include <optional>
+
 namespace quill {
 
 namespace {
@@ -8,6 +10,16 @@ bool IsLineBreak(QChar unit) { return unit == u'\r' || unit == u'\n'; }
 
 bool SplitsSurrogatePair(QStringView text, qsizetype at) {
   return at > 0 && text[at].isLowSurrogate() && text[at - 1].isHighSurrogate();
+}
+
+constexpr qsizetype kMeasuredFirst = 64;
+
+// The length of a beginning that is wider than the limit; nothing where the whole text is not. Only
+// as much of a long text is measured as it takes.
+std::optional<qsizetype> WiderBeginning(QStringView text, double limit, const TextWidth& width) {
+  for (qsizetype length = kMeasuredFirst; length < text.size(); length *= 2)
+    if (width(text.first(length)) > limit) return length;
+  return width(text) > limit ? std::optional(text.size()) : std::nullopt;
 }
 
 // How many units of the text fit, at least one character.
@@ -51,7 +63,7 @@ QString CutText(const QString& text, qsizetype units) {
 }
 
 QString ShortenText(const QString& text, double limit, const TextWidth& width) {
-  if (width(text) <= limit) return text;
+  if (!WiderBeginning(text, limit, width)) return text;
   for (qsizetype length = 0; length < text.size(); ++length) {
     const QStringView prefix = QStringView(text).first(length);
     if (IsLineBreak(text[length])) return prefix.toString();
@@ -74,13 +86,14 @@ QStringList WrapLines(const QString& text, double limit, const TextWidth& width)
 }
 
 QString ElideText(const QString& text, double limit, const TextWidth& width) {
-  if (width(text) <= limit) return text;
+  const auto wider = WiderBeginning(text, limit, width);
+  if (!wider) return text;
   const auto elided = [&text](qsizetype length) {
     return text.first(SplitsSurrogatePair(text, length) ? length - 1 : length) +
            QStringLiteral("...");
   };
   qsizetype fitting = 0;
-  qsizetype tooLong = text.size();
+  qsizetype tooLong = *wider;
   while (tooLong - fitting > 1) {
     const qsizetype middle = fitting + (tooLong - fitting) / 2;
     (width(elided(middle)) <= limit ? fitting : tooLong) = middle;

@@ -31,6 +31,7 @@ inline constexpr int kCut = 1;
 inline constexpr int kCopy = 2;
 inline constexpr int kPaste = 3;
 inline constexpr int kSelectAll = 4;
+inline constexpr int kAdded = 5;
 }  // namespace EditMenuIds
 
 namespace AboutDialogIds {

@@ -83,3 +83,47 @@ TEST(Picture, ThatCannotBeWrittenIsRefused) {
             QStringLiteral("not written"));
   EXPECT_EQ(driver.Error(R"({"op":"screenshot"})"), QStringLiteral("malformed"));
 }
+
+// The field of a street is small and stands where no whole pixel of the screen begins.
+class FrameOfAField : public testing::TestWithParam<const char*> {
+ protected:
+  // Opens the field and takes its picture.
+  void Open(ReadyDriver& driver) {
+    driver.Result(R"({"op":"put","quiet":true,"fields":{"FileAs":"K"}})", u"oid");
+    driver.Do(R"({"op":"command","id":59413})");
+    driver.Do(R"({"op":"tap","on":"list","x":50,"y":8})");
+    driver.Do(R"({"op":"tap","on":"rows","x":120,"y":161})");
+    driver.Do(R"({"op":"tap","on":"parts","x":100,"y":25})");
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("field.png"));
+    driver.Do(PictureLine(file));
+    m_picture = QImage(file);
+    const QJsonObject at = driver.Result(R"({"op":"where","on":802})", u"where").toObject();
+    const double scale = QByteArray(GetParam()).toDouble();
+    const auto pixel = [&](double logical) { return qRound(logical * scale); };
+    const double left = at[u"x"].toDouble(), top = at[u"y"].toDouble();
+    m_area = QRect(QPoint(pixel(left), pixel(top)), QPoint(pixel(left + at[u"w"].toDouble()) - 1,
+                                                           pixel(top + at[u"h"].toDouble()) - 1));
+  }
+
+  QImage m_picture;
+  QRect m_area;  // of the field in the picture
+};
+
+TEST_P(FrameOfAField, IsWhole) {
+  ReadyDriver driver({QStringLiteral("--scale"), QString::fromLatin1(GetParam())});
+  Open(driver);
+  const QRgb frame = m_picture.pixel(m_area.topLeft());
+  EXPECT_NE(frame, qRgb(255, 255, 255));
+  for (int x = m_area.left(); x <= m_area.right(); ++x) {
+    EXPECT_EQ(m_picture.pixel(x, m_area.top()), frame) << "x " << x;
+    EXPECT_EQ(m_picture.pixel(x, m_area.bottom()), frame) << "x " << x;
+  }
+  for (int y = m_area.top(); y <= m_area.bottom(); ++y) {
+    EXPECT_EQ(m_picture.pixel(m_area.left(), y), frame) << "y " << y;
+    EXPECT_EQ(m_picture.pixel(m_area.right(), y), frame) << "y " << y;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Scales, FrameOfAField,
+                         testing::Values("1", "1.25", "1.5", "1.75", "2", "3"));

@@ -144,6 +144,94 @@ TEST_F(RecordScript, EveryFieldWithARowIsEditedAndTheOthersStay) {
   EXPECT_EQ(Fields(driver, oid), expected);
 }
 
+TEST_F(RecordScript, WhatAnotherProgramChangedMeanwhileStays) {
+  ReadyDriver driver(Arguments());
+  const int oid = Put(driver, R"({"FileAs":"Kim","BusinessTelephoneNumber":"1"})");
+  OpenFirst(driver);
+  driver.Do(R"({"op":"put","quiet":true,"oid":)" + QByteArray::number(oid) +
+            R"(,"fields":{"BusinessTelephoneNumber":"2","BodyInk":"aW5r"}})");
+  EditRow(driver, 1, "Pilot");
+  OK(driver);
+  const QJsonObject expected{{u"FileAs"_qs, u"Kim"_qs},
+                             {u"JobTitle"_qs, u"Pilot"_qs},
+                             {u"BusinessTelephoneNumber"_qs, u"2"_qs},
+                             {u"BodyInk"_qs, u"aW5r"_qs}};
+  EXPECT_EQ(Fields(driver, oid), expected);
+}
+
+TEST_F(RecordScript, AContactDeletedMeanwhileInWhichNothingWasEnteredIsNotOffered) {
+  ReadyDriver driver(Arguments());
+  const int oid = Put(driver, R"({"FileAs":"Kim"})");
+  OpenFirst(driver);
+  driver.Do(R"({"op":"drop-contact","quiet":true,"oid":)" + QByteArray::number(oid) + '}');
+  OK(driver);
+  driver.Do(kNew);
+  EXPECT_FALSE(driver.Ask(R"({"op":"get","id":1101})")[u"ok"].toBool());
+}
+
+TEST_F(RecordScript, LinesPastedIntoARowAreJoinedByBlanks) {
+  ReadyDriver driver(Arguments());
+  const int oid = Put(driver, R"({"FileAs":"Kim","BusinessAddressStreet":"a\nb",)"
+                              R"("Department":"c\r\nd"})");
+  OpenFirst(driver);
+  TapRow(driver, 8);
+  driver.Do(R"({"op":"tap","on":"parts","x":100,"y":25})");
+  driver.Do(R"({"op":"command","id":40020})");
+  driver.Do(R"({"op":"tap","on":"parts","x":100,"y":60})");
+  driver.Do(R"({"op":"key","key":"Ctrl+V"})");
+  CloseParts(driver);
+  TapRow(driver, 1);
+  driver.Do(R"({"op":"command","id":40021})");
+  TapRow(driver, 2);
+  driver.Do(R"({"op":"key","key":"End"})");
+  Type(driver, "e");
+  OK(driver);
+  const QJsonObject expected{{u"FileAs"_qs, u"Kim"_qs},
+                             {u"BusinessAddressStreet"_qs, u"a\nb"_qs},
+                             {u"BusinessAddressCity"_qs, u"a b"_qs},
+                             {u"JobTitle"_qs, u"a b"_qs},
+                             {u"Department"_qs, u"c\r\nde"_qs}};
+  EXPECT_EQ(Fields(driver, oid), expected);
+}
+
+TEST_F(RecordScript, UndoIsOverWithTheEdit) {
+  ReadyDriver driver(Arguments());
+  Put(driver, R"({"FileAs":"Kim"})");
+  OpenFirst(driver);
+  EditRow(driver, 1, "Pilot");
+  EXPECT_NE(driver.Ask(R"({"op":"command","id":32773})")[u"error"], QStringLiteral("disabled"));
+  EditRow(driver, 1, "Painter");
+  TapRow(driver, 11, 10);
+  EXPECT_EQ(driver.Error(R"({"op":"command","id":32773})"), QStringLiteral("disabled"));
+}
+
+TEST_F(RecordScript, TypingBringsARowThatWasScrolledAwayBackIntoSight) {
+  ReadyDriver driver(Arguments());
+  Put(driver, R"({"FileAs":"Kim"})");
+  OpenFirst(driver);
+  TapRow(driver, 1);
+  driver.Ask(R"({"op":"panel","up":true})");
+  driver.Do(R"({"op":"scroll","on":1006,"code":"pagedown"})");
+  const auto top = [&] {
+    return driver.Result(R"({"op":"get","id":713})", u"control")[u"y"].toInt();
+  };
+  EXPECT_LT(top(), 0);
+  Type(driver, "x");
+  EXPECT_EQ(top(), 10);
+}
+
+TEST_F(RecordScript, ByKeyAnEditedNumberIsOfferedToBeCalled) {
+  ReadyDriver driver(Arguments());
+  Put(driver, R"({"FileAs":"Kim","MobileTelephoneNumber":"010-1"})");
+  OpenFirst(driver);
+  TapRow(driver, 4);
+  driver.Do(R"({"op":"key","key":"Menu"})");
+  const QJsonArray items = driver.Result(R"({"op":"popup"})", u"popup").toArray();
+  ASSERT_EQ(items.size(), 7);
+  EXPECT_EQ(items[6][u"text"], QStringLiteral("Call"));
+  driver.Do(R"({"op":"dismiss"})");
+}
+
 TEST_F(RecordScript, CategoriesAreChosenAndNoCategoriesIsNone) {
   ReadyDriver driver(Arguments());
   const int oid = Put(driver, R"({"FileAs":"Kim","Categories":"Elsewhere"})");
@@ -172,6 +260,20 @@ TEST_F(RecordScript, ANewContactWithoutAnyNameIsNotWrittenButOfferedToTheNext) {
   EXPECT_EQ(contacts[0][u"fields"][u"JobTitle"].toString(), QStringLiteral("Pilot"));
 }
 
+TEST_F(RecordScript, ADraftIsTakenBackByKeys) {
+  ReadyDriver driver(Arguments());
+  driver.Do(kNew);
+  EditRow(driver, 1, "Pilot");
+  OK(driver);
+  driver.Do(kNew);
+  for (const int id : {1102, 1101}) {
+    driver.Do(R"({"op":"key","key":"Shift+Tab"})");
+    EXPECT_EQ(driver.Result(R"({"op":"focus"})", u"focus")[u"id"], id);
+  }
+  driver.Do(R"({"op":"key","key":"Space"})");
+  EXPECT_EQ(RowValue(driver, 1), QStringLiteral("Pilot"));
+}
+
 TEST_F(RecordScript, WhatTheStoreCouldNotWriteIsOfferedAfterARestart) {
   {
     ReadyDriver driver(Arguments());
@@ -184,6 +286,7 @@ TEST_F(RecordScript, WhatTheStoreCouldNotWriteIsOfferedAfterARestart) {
   ReadyDriver driver(Arguments());
   driver.Do(kNew);
   ClickControl(driver, 1101);
+  EXPECT_EQ(RowValue(driver, 0), QStringLiteral("Kim")) << "as when it is opened";
   EXPECT_EQ(RowValue(driver, 3), QStringLiteral("Newer"));
   OK(driver);
   const QJsonArray contacts = driver.Result(R"({"op":"contacts"})", u"contacts").toArray();

@@ -158,6 +158,12 @@ TEST_F(DraftOfAContactTest, ReplacesOnlyWhatWasEntered) {
   EXPECT_EQ(g_contactInk.Bytes, "new ink");
 }
 
+TEST_F(DraftOfAContactTest, ShowsTheNameThatItIsFiledUnderWhereNoPartOfItWasEntered) {
+  EXPECT_EQ(RowsOf(SheetOfDraft(m_draft, m_state), RowSet::Basic)[0].Value, QStringLiteral("Kim"));
+  m_draft.Record[ContactField::Suffix] = QStringLiteral("Jr.");
+  EXPECT_EQ(RowsOf(SheetOfDraft(m_draft, m_state), RowSet::Basic)[0].Value, QStringLiteral("Jr. "));
+}
+
 TEST_F(DraftOfAContactTest, BringsItsInkWhereThatWasChanged) {
   m_draft.Ink = "entered";
   const SheetRecord sheet = SheetOfDraft(m_draft, m_state);

@@ -73,6 +73,12 @@ TEST(PartEditorLayout, ALongPartIsShortened) {
             QString(13, u'x') + QStringLiteral("..."));
 }
 
+TEST(PartEditorLayout, APartOfSeveralLinesStandsOnOne) {
+  ContactRecord record;
+  record[ContactField::MiddleName] = QStringLiteral("A\r\nB");
+  EXPECT_EQ(TextsOf(LayOut(record, RowSet::NameParts)[2])[1].Text, QStringLiteral("A  B"));
+}
+
 TEST(PartEditorLayout, ADottedLineEndsEveryRow) {
   for (const RowSet parts : {RowSet::NameParts, RowSet::WorkAddress}) {
     for (const PaintedRow& row : LayOut({}, parts)) {
@@ -105,6 +111,19 @@ TEST(PartEditorLayout, ALongStreetIsWrapped) {
   EXPECT_EQ(texts[2].Text, QStringLiteral("Hill Road"));
 }
 
+TEST(PartEditorLayout, OfALongStreetOnlyTheBeginningIsMeasured) {
+  ContactRecord record;
+  record[ContactField::HomeAddressStreet] = QString(100'000, u'a');
+  qsizetype measured = 0;
+  const auto rows = LayOutParts(RowsFrom(record, RowSet::HomeAddress), RowSet::HomeAddress, -1,
+                                [&](QStringView text) {
+                                  measured += text.size();
+                                  return TenEach(text);
+                                });
+  EXPECT_EQ(TextsOf(rows[0]).size(), 4U);
+  EXPECT_LE(measured, 20'000);
+}
+
 TEST(PartEditorLayout, TheEditedRowIsTheCurrentOne) {
   const std::vector<PaintedRow> rows = LayOut({}, RowSet::NameParts, 3);
   for (int row = 0; row < 5; ++row) {
@@ -112,6 +131,23 @@ TEST(PartEditorLayout, TheEditedRowIsTheCurrentOne) {
     EXPECT_EQ(rows[row].State.testFlag(PaintedStateFlag::Current), row == 3);
   }
   EXPECT_EQ(rows[0].SpokenName, QStringLiteral("Title"));
+}
+
+TEST(PartEditorLayout, UnderTheFieldOfTheEditedPartNoValueIsPainted) {
+  ContactRecord record;
+  record[ContactField::HomeAddressStreet] = QStringLiteral("Mill Lane");
+  record[ContactField::HomeAddressCity] = QStringLiteral("Seoul");
+  const auto valuesPainted = [&](int current) {
+    std::vector<std::size_t> counts;
+    for (const PaintedRow& row : LayOut(record, RowSet::HomeAddress, current))
+      counts.push_back(TextsOf(row).size() - 1);
+    return counts;
+  };
+  EXPECT_EQ(valuesPainted(-1), (std::vector<std::size_t>{1, 1, 0, 0, 0}));
+  EXPECT_EQ(valuesPainted(0), (std::vector<std::size_t>{0, 1, 0, 0, 0}));
+  EXPECT_EQ(valuesPainted(1), (std::vector<std::size_t>{1, 0, 0, 0, 0}));
+  EXPECT_EQ(LayOut(record, RowSet::HomeAddress, 0)[0].SpokenName,
+            QStringLiteral("Street, Mill Lane"));
 }
 
 struct TapCase {

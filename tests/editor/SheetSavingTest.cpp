@@ -64,6 +64,79 @@ TEST_F(SheetSavingTest, AnExistingContactIsWrittenUnderItsOldName) {
   EXPECT_EQ(Stored(kim).BodyInk, "ink");
 }
 
+// What someone else changed while its sheet was open.
+class ChangedElsewhereTest : public SheetSavingTest {
+ protected:
+  void SetUp() override {
+    SheetSavingTest::SetUp();
+    ContactRecord record;
+    record[FileAs] = record[LastName] = QStringLiteral("Kim");
+    record[BusinessTelephoneNumber] = QStringLiteral("1");
+    record.Birthday = {.Year = 1970, .Month = 2, .DayOfWeek = 6, .Day = 28};
+    m_kim = m_store.Contacts()->Save(0, record, "ink");
+    m_sheet = LoadSheet(m_kim, m_state);
+    record[FileAs] = QStringLiteral("Kim, elsewhere");
+    record[BusinessTelephoneNumber] = QStringLiteral("2");
+    record.Birthday = {.Year = 1971, .Month = 3, .DayOfWeek = 1, .Day = 1};
+    m_elsewhere = record;
+    ASSERT_NE(m_store.Contacts()->Save(m_kim, record, "ink elsewhere"), 0);
+  }
+
+  Oid m_kim = 0;
+  SheetRecord m_sheet;
+  ContactRecord m_elsewhere;
+};
+
+TEST_F(ChangedElsewhereTest, OnlyWhatWasEnteredIsWrittenOverIt) {
+  Type(m_sheet, RowSet::Basic, 1, QStringLiteral("Painter"));
+  EXPECT_EQ(SaveSheet(m_sheet, m_settings), SheetOutcome::Written);
+  m_elsewhere[JobTitle] = QStringLiteral("Painter");
+  EXPECT_EQ(Stored(m_kim).Record, m_elsewhere);
+  EXPECT_EQ(Stored(m_kim).BodyInk, "ink elsewhere");
+}
+
+TEST_F(ChangedElsewhereTest, WhatWasEnteredWins) {
+  Type(m_sheet, RowSet::Basic, 5, QStringLiteral("3"));
+  SetDateAt(m_sheet, RowSet::Detail, 7, {});
+  g_contactInk.Bytes = "ink entered";
+  EXPECT_EQ(SaveSheet(m_sheet, m_settings), SheetOutcome::Written);
+  EXPECT_EQ(Stored(m_kim).Record[BusinessTelephoneNumber], QStringLiteral("3"));
+  EXPECT_EQ(Stored(m_kim).Record.Birthday.Year, 0);
+  EXPECT_EQ(Stored(m_kim).BodyInk, "ink entered");
+}
+
+TEST_F(ChangedElsewhereTest, ASheetWithNothingEnteredWritesWhatTheStoreHasNow) {
+  EXPECT_EQ(SaveSheet(m_sheet, m_settings), SheetOutcome::Written);
+  EXPECT_EQ(Stored(m_kim).Record, m_elsewhere);
+  EXPECT_EQ(Stored(m_kim).BodyInk, "ink elsewhere");
+}
+
+TEST_F(ChangedElsewhereTest, WhatCannotBeReadIsNotWrittenOver) {
+  Type(m_sheet, RowSet::Basic, 1, QStringLiteral("Painter"));
+  m_store.Faults().Read = m_kim;
+  EXPECT_EQ(SaveSheet(m_sheet, m_settings), SheetOutcome::KeptAsDraft);
+  m_store.Faults().Read = 0;
+  EXPECT_EQ(Stored(m_kim).Record, m_elsewhere);
+  EXPECT_EQ(LoadDraft()->Record[JobTitle], QStringLiteral("Painter"));
+}
+
+TEST_F(ChangedElsewhereTest, WithoutASessionWhatWasEnteredBecomesADraft) {
+  Type(m_sheet, RowSet::Basic, 1, QStringLiteral("Painter"));
+  CloseSession();
+  EXPECT_EQ(SaveSheet(m_sheet, m_settings), SheetOutcome::KeptAsDraft);
+}
+
+TEST_F(SheetSavingTest, AStoredNumberThatIsTheAreaCodeIsWrittenEmpty) {
+  ContactRecord record;
+  record[FileAs] = QStringLiteral("Kim");
+  record[MobileTelephoneNumber] = QStringLiteral("02-");
+  const Oid kim = m_store.Contacts()->Save(0, record, {});
+  const SheetRecord sheet = LoadSheet(kim, m_state);
+  m_settings.AreaCodePrefix = QStringLiteral("02-");
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::Written);
+  EXPECT_EQ(Stored(kim).Record[MobileTelephoneNumber], QString());
+}
+
 TEST_F(SheetSavingTest, AnAreaCodeAloneIsNoNumber) {
   m_settings.AreaCodePrefix = QStringLiteral("02-");
   SheetRecord sheet = LoadSheet(0, m_state);
@@ -136,8 +209,24 @@ TEST_F(SheetSavingTest, WhatTheStoreCannotWriteBecomesADraftWithItsInk) {
 TEST_F(SheetSavingTest, WhatOneContactDeletedMeanwhileWasToHoldBecomesADraft) {
   const Oid kim = Add(QStringLiteral("Kim"));
   SheetRecord sheet = LoadSheet(kim, m_state);
+  Type(sheet, RowSet::Basic, 1, QStringLiteral("Painter"));
   m_store.Contacts()->Remove(kim);
   EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::KeptAsDraft);
+}
+
+TEST_F(SheetSavingTest, OfAContactDeletedMeanwhileInWhichNothingWasEnteredNothingIsKept) {
+  const Oid kim = Add(QStringLiteral("Kim"), "ink");
+  const SheetRecord sheet = LoadSheet(kim, m_state);
+  m_store.Contacts()->Remove(kim);
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::NothingToSave);
+  EXPECT_EQ(LoadDraft(), std::nullopt);
+}
+
+TEST_F(SheetSavingTest, WhatTheStoreCannotWriteAndNobodyEnteredIsNotKept) {
+  const SheetRecord sheet = LoadSheet(Add(QStringLiteral("Kim")), m_state);
+  m_store.Faults().Save = true;
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::NothingToSave);
+  EXPECT_EQ(LoadDraft(), std::nullopt);
 }
 
 TEST_F(SheetSavingTest, ARestoredDraftThatIsWrittenIsADraftNoLonger) {

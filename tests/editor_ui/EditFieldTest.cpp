@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
@@ -36,6 +38,13 @@ TEST(EditField, OfALineCutsAndPastes) {
   edit.end(false);
   FieldOf(edit).Paste();
   EXPECT_EQ(edit.text(), QStringLiteral("twoone "));
+}
+
+TEST(EditField, OfALinePastesSeveralLinesAsOne) {
+  QGuiApplication::clipboard()->setText(QStringLiteral("one\ntwo"));
+  QLineEdit edit;
+  FieldOf(edit).Paste();
+  EXPECT_EQ(edit.text(), QStringLiteral("one two"));
 }
 
 TEST(EditField, OfALineCopiesAndLeavesIt) {

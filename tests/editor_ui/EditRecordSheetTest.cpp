@@ -138,6 +138,70 @@ TEST_F(DraftBarTest, GivesWayToThePanel) {
   });
 }
 
+TEST_F(DraftBarTest, IsReachedByTabFromBothEndsOfTheRows) {
+  InSheet(0, [&] {
+    m_input.Key(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(Button(RecordSheetIds::kDiscardDraft)->hasFocus());
+    m_input.Key(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(Button(RecordSheetIds::kRestoreDraft)->hasFocus());
+    m_input.Key(Qt::Key_Tab);
+    EXPECT_TRUE(Button(RecordSheetIds::kDiscardDraft)->hasFocus());
+    m_input.Key(Qt::Key_Tab);
+    EXPECT_EQ(Rows().EditedRow(), 0);
+    m_sheet->ShowPage(1);
+    Rows().StartEdit(kRecordRowCount - 1);
+    m_panel.Lower();
+    m_input.Key(Qt::Key_Tab);
+    EXPECT_TRUE(Button(RecordSheetIds::kRestoreDraft)->hasFocus());
+    EXPECT_EQ(Rows().EditedRow(), -1);
+  });
+}
+
+TEST_F(DraftBarTest, BackwardsTabLeadsFromItToTheLastRow) {
+  InSheet(0, [&] {
+    m_sheet->ShowPage(1);
+    m_input.Key(Qt::Key_Backtab, Qt::ShiftModifier);
+    m_input.Key(Qt::Key_Backtab, Qt::ShiftModifier);
+    m_input.Key(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(Rows().EditedRow(), kRecordRowCount - 1);
+    EXPECT_TRUE(RowEdit().hasFocus());
+  });
+}
+
+TEST_F(DraftBarTest, AKeyRestoresAndTheFocusGoesToTheRowsUnedited) {
+  InSheet(0, [&] {
+    m_input.Key(Qt::Key_Backtab, Qt::ShiftModifier);
+    m_input.Key(Qt::Key_Backtab, Qt::ShiftModifier);
+    m_input.Key(Qt::Key_Return);
+    EXPECT_EQ(Value(RowSet::Basic, 1), QStringLiteral("Pilot"));
+    EXPECT_EQ(Button(RecordSheetIds::kRestoreDraft), nullptr);
+    EXPECT_TRUE(Rows().hasFocus());
+    EXPECT_EQ(Rows().EditedRow(), -1);
+  });
+}
+
+TEST_F(DraftBarTest, WithoutItTabGoesRoundTheRows) {
+  InSheet(0, [&] {
+    Button(RecordSheetIds::kDiscardDraft)->click();
+    m_sheet->ShowPage(1);
+    m_input.Key(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(Rows().EditedRow(), kRecordRowCount - 1);
+    m_input.Key(Qt::Key_Tab);
+    EXPECT_EQ(Rows().EditedRow(), 0);
+  });
+}
+
+TEST_F(DraftBarTest, StaysWhileItHasTheFocus) {
+  InSheet(0, [&] {
+    m_input.Key(Qt::Key_Backtab, Qt::ShiftModifier);
+    m_panel.Raise();
+    ASSERT_NE(Button(RecordSheetIds::kDiscardDraft), nullptr);
+    EXPECT_TRUE(Button(RecordSheetIds::kDiscardDraft)->hasFocus());
+    m_input.Key(Qt::Key_Tab);
+    EXPECT_EQ(Button(RecordSheetIds::kDiscardDraft), nullptr);
+  });
+}
+
 TEST_F(DraftBarTest, RestoringKeepsWhatWasBeingTypedAsADraftOfItsOwn) {
   InSheet(0, [&] {
     TypeInRow(2, QStringLiteral("typed"));

@@ -1,8 +1,11 @@
 #include "editor/ui/RecordPage.h"
 
+#include <QApplication>
+#include <QInputMethodEvent>
 #include <QScrollBar>
 
 #include "SheetFixture.h"
+#include "platform/ui/DatePicker.h"
 
 namespace quill {
 namespace {
@@ -68,6 +71,45 @@ TEST_F(RecordPageTest, TheEditedRowStaysVisibleAboveThePanel) {
   });
 }
 
+TEST_F(RecordPageTest, WhatIsEnteredBringsItsRowBackIntoSight) {
+  InSheet(AddKim(), [&] {
+    TapRow(1);
+    const auto scrollAway = [&] {
+      Bar().triggerAction(QAbstractSlider::SliderPageStepAdd);
+      ASSERT_EQ(Rows().Top(), 3);
+    };
+    scrollAway();
+    m_input.Key(Qt::Key_Home);
+    EXPECT_EQ(Rows().Top(), 3) << "nothing is entered";
+    m_input.Type(QStringLiteral("x"));
+    EXPECT_EQ(Rows().Top(), 1);
+    EXPECT_EQ(Bar().value(), 1);
+    EXPECT_EQ(RowEdit().y(), 0);
+    EXPECT_EQ(Value(RowSet::Basic, 1), QStringLiteral("xEngineer"));
+    scrollAway();
+    QInputMethodEvent composing(QStringLiteral("\uAE40"), {});
+    QApplication::sendEvent(&RowEdit(), &composing);
+    EXPECT_EQ(Rows().Top(), 1);
+  });
+}
+
+TEST_F(RecordPageTest, ADateThatIsEnteredBringsItsRowBackIntoSight) {
+  InSheet(AddKim(), [&] {
+    m_sheet->ShowPage(1);
+    TapRow(7);
+    m_panel.Raise();
+    auto& picker = *qobject_cast<CDatePicker*>(m_sheet->Control(RecordSheetIds::kRowDate));
+    Rows().SetTop(0);
+    m_input.Key(Qt::Key_Up);
+    EXPECT_EQ(Rows().Top(), 0) << "row 7 is the last one shown";
+    Rows().SetTop(3);
+    TapRow(8);
+    Rows().SetTop(0);
+    picker.ChooseDate(QDate(2001, 12, 31));
+    EXPECT_EQ(Rows().Top(), 1);
+  });
+}
+
 TEST_F(RecordPageTest, EditCommandsAreEnabledByTheActiveField) {
   InSheet(AddKim(), [&] {
     for (const int id : {ID_EDIT_UNDO, ID_EDIT_CUT, ID_EDIT_COPY, ID_EDIT_CLEAR})
@@ -79,6 +121,30 @@ TEST_F(RecordPageTest, EditCommandsAreEnabledByTheActiveField) {
     EXPECT_FALSE(IsEnabled(ID_EDIT_CUT));
     m_input.Type(QStringLiteral("x"));
     EXPECT_TRUE(IsEnabled(ID_EDIT_UNDO));
+  });
+}
+
+TEST_F(RecordPageTest, AFieldWhoseEditHasEndedEnablesNothing) {
+  InSheet(AddKim(), [&] {
+    TapRow(1);
+    m_input.Type(QStringLiteral("xy"));
+    RowEdit().selectAll();
+    m_panel.Lower();
+    TapRow(11, 10);
+    for (const int id : {ID_EDIT_UNDO, ID_EDIT_CUT, ID_EDIT_COPY, ID_EDIT_CLEAR})
+      EXPECT_FALSE(IsEnabled(id)) << id;
+    m_sheet->RunCommand(ID_EDIT_PASTE);
+    EXPECT_EQ(RowEdit().text(), QStringLiteral("xy"));
+  });
+}
+
+TEST_F(RecordPageTest, APartWhoseEditHasEndedEnablesNothing) {
+  InSheet(AddKim(), [&] {
+    TapRow(0);
+    TapPart({100, 25});
+    EXPECT_TRUE(IsEnabled(ID_EDIT_CUT));
+    TapPart({20, 25});
+    EXPECT_FALSE(IsEnabled(ID_EDIT_CUT));
   });
 }
 

@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QInputMethodEvent>
+#include <QTextBrowser>
 #include <QUrl>
 
 #include "SheetFixture.h"
@@ -176,6 +177,37 @@ TEST_F(RecordRowListTest, AHoldOnTheFieldOfANumberOffersTheSame) {
     m_input.Release(onField);
     EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("010-1"));
     EXPECT_EQ(Rows().EditedRow(), 4);
+  });
+}
+
+TEST_F(RecordRowListTest, TheMenuOfTheFieldOfANumberOffersToCallIt) {
+  QTextBrowser opener;  // has a slot that takes what is opened
+  QDesktopServices::setUrlHandler(QStringLiteral("tel"), &opener, "setSource");
+  InSheet(AddKim(), [&] {
+    TapRow(4);
+    QTimer::singleShot(0, [&] {
+      ASSERT_NE(m_screen->Popup(), nullptr);
+      ASSERT_EQ(m_screen->Popup()->Items().size(), 7U);
+      EXPECT_TRUE(m_screen->Popup()->Items()[5].Separator);
+      EXPECT_EQ(m_screen->Popup()->Items().back().Text, QStringLiteral("Call"));
+      m_screen->Popup()->Choose(EditMenuIds::kAdded);
+    });
+    m_input.Key(Qt::Key_Menu);
+    EXPECT_EQ(RowEdit().text(), QStringLiteral("010-1"));
+  });
+  QDesktopServices::unsetUrlHandler(QStringLiteral("tel"));
+  EXPECT_EQ(opener.source(), QUrl(QStringLiteral("tel:0101")));
+}
+
+TEST_F(RecordRowListTest, TheMenuOfAFieldWithoutALinkOffersNothingMore) {
+  InSheet(AddKim(), [&] {
+    TapRow(3);
+    QTimer::singleShot(0, [&] {
+      ASSERT_NE(m_screen->Popup(), nullptr);
+      EXPECT_EQ(m_screen->Popup()->Items().size(), 5U);
+      m_screen->Popup()->Dismiss();
+    });
+    m_input.Key(Qt::Key_Menu);
   });
 }
 

@@ -63,6 +63,19 @@ TEST(OnOneLine, EachLineBreakIsABlank) {
   EXPECT_EQ(OnOneLine(QStringLiteral("a\r\nb\nc\rd")), QStringLiteral("a  b c d"));
 }
 
+TEST(TextFitting, OfALongTextOnlyTheBeginningIsMeasured) {
+  qsizetype longest = 0;
+  const TextWidth measured = [&](QStringView text) {
+    longest = std::max(longest, text.size());
+    return TenEach(text);
+  };
+  const QString text(100'000, u'a');
+  EXPECT_EQ(ShortenText(text, 25, measured), QStringLiteral("aaa..."));
+  EXPECT_EQ(ElideText(text, 1'050, measured), QString(102, u'a') + QStringLiteral("..."));
+  EXPECT_LE(longest, 1'000);
+  EXPECT_EQ(ShortenText(text, 1'000'000, measured), text);
+}
+
 struct WrappingCase {
   const char16_t* Text;
   double Limit;

@@ -4,8 +4,11 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDragEnterEvent>
+#include <QInputMethodEvent>
 #include <QMimeData>
 #include <QUrl>
+
+#include <functional>
 
 #include "platform/ui/MenuPopup.h"
 #include "platform_ui/SampleWindows.h"
@@ -82,6 +85,80 @@ TEST_F(EditTest, PasteReplacesTheSelection) {
   m_edit.selectAll();
   Choose(EditMenuIds::kPaste);
   EXPECT_EQ(m_edit.text(), QStringLiteral("Lee"));
+}
+
+struct WayIn {
+  const char* Name;
+  std::function<void(test::ScreenInput& input, CEdit& edit, const QString& text)> Bring;
+};
+
+void DropOn(CEdit& edit, const QString& text) {
+  QMimeData data;
+  data.setText(text);
+  QDropEvent event({1000, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&edit, &event);
+  EXPECT_TRUE(event.isAccepted());
+}
+
+void CommitTo(CEdit& edit, const QString& text) {
+  QInputMethodEvent event;
+  event.setCommitString(text);
+  QCoreApplication::sendEvent(&edit, &event);
+}
+
+void PasteByKey(test::ScreenInput& input, const QString& text) {
+  QGuiApplication::clipboard()->setText(text);
+  input.Key(Qt::Key_V, Qt::ControlModifier);
+}
+
+class LinesIntoAnEdit : public EditTest, public testing::WithParamInterface<WayIn> {};
+
+TEST_P(LinesIntoAnEdit, AreJoinedByBlanksAndWhatWasThereStays) {
+  m_edit.setText(QStringLiteral("Kim\r\nMin"));
+  m_edit.end(false);
+  GetParam().Bring(m_input, m_edit, QStringLiteral(" a\r\nb\nc\rd\u2028e\u2029f"));
+  EXPECT_EQ(m_edit.text(), QStringLiteral("Kim\r\nMin a b c d e f"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Ways, LinesIntoAnEdit,
+    testing::Values(
+        WayIn{"PasteKey",
+              [](auto& input, CEdit&, const QString& text) { PasteByKey(input, text); }},
+        WayIn{"Menu",
+              [](auto&, CEdit& edit, const QString& text) {
+                QGuiApplication::clipboard()->setText(text);
+                PasteLine(edit);
+              }},
+        WayIn{"Drop", [](auto&, CEdit& edit, const QString& text) { DropOn(edit, text); }},
+        WayIn{"InputMethod", [](auto&, CEdit& edit, const QString& text) { CommitTo(edit, text); }},
+        WayIn{"Keys",
+              [](auto&, CEdit& edit, const QString& text) {
+                QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, text);
+                QCoreApplication::sendEvent(&edit, &event);
+                EXPECT_TRUE(event.isAccepted());
+              }}),
+    [](const auto& way) { return std::string(way.param.Name); });
+
+TEST_F(EditTest, PastedLinesReplaceTheSelectionAndAreOneStep) {
+  m_edit.end(false);
+  m_input.Type(QStringLiteral("x"));
+  PasteByKey(m_input, QStringLiteral("a\nb"));
+  EXPECT_EQ(m_edit.text(), QStringLiteral("Kimxa b"));
+  m_input.Type(QStringLiteral("y"));
+  m_edit.undo();
+  EXPECT_EQ(m_edit.text(), QStringLiteral("Kimxa b"));
+  m_edit.undo();
+  EXPECT_EQ(m_edit.text(), QStringLiteral("Kimx"));
+  m_edit.selectAll();
+  PasteByKey(m_input, QStringLiteral("c\nd"));
+  EXPECT_EQ(m_edit.text(), QStringLiteral("c d"));
+}
+
+TEST_F(EditTest, ReadOnlyTakesNoLines) {
+  m_edit.setReadOnly(true);
+  PasteByKey(m_input, QStringLiteral("a\nb"));
+  EXPECT_EQ(m_edit.text(), QStringLiteral("Kim"));
 }
 
 TEST_F(EditTest, SelectAllSelectsTheWholeText) {

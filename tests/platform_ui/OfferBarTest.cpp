@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QLabel>
 
+#include "platform/ui/Edit.h"
 #include "platform_ui/SampleWindows.h"
 #include "platform_ui/ScreenFixture.h"
 
@@ -58,6 +59,53 @@ TEST_F(OfferBarTest, HidesWhileTheInputPanelIsUp) {
   m_panel.Lower();
   Offer(QStringLiteral("this"));
   EXPECT_FALSE(m_bar.isHidden());
+}
+
+TEST_F(OfferBarTest, TakesTheFocusAtEitherEndUnlessItIsHidden) {
+  EXPECT_FALSE(m_bar.TakeFocus(COfferBar::End::First));
+  Offer(QStringLiteral("this"));
+  EXPECT_FALSE(m_bar.HasFocus());
+  EXPECT_TRUE(m_bar.TakeFocus(COfferBar::End::First));
+  EXPECT_TRUE(m_bar.Controls().at(kRestore)->hasFocus());
+  EXPECT_TRUE(m_bar.TakeFocus(COfferBar::End::Last));
+  EXPECT_TRUE(m_bar.Controls().at(kDiscard)->hasFocus());
+  EXPECT_TRUE(m_bar.HasFocus());
+}
+
+TEST_F(OfferBarTest, TabLeadsThroughItAndAsksToLeaveIt) {
+  m_bar.LeaveAsked = [this](COfferBar::End end) {
+    m_asked.append(end == COfferBar::End::First ? QStringLiteral("back") : QStringLiteral("on"));
+    return true;
+  };
+  Offer(QStringLiteral("this"));
+  m_bar.TakeFocus(COfferBar::End::First);
+  m_input.Key(Qt::Key_Tab);
+  EXPECT_TRUE(m_bar.Controls().at(kDiscard)->hasFocus());
+  m_input.Key(Qt::Key_Tab);
+  m_input.Key(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_TRUE(m_bar.Controls().at(kRestore)->hasFocus());
+  m_input.Key(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(m_asked, QStringList({QStringLiteral("on"), QStringLiteral("back")}));
+}
+
+TEST_F(OfferBarTest, WhereNobodyIsAskedTabLeadsToTheNextControl) {
+  CEdit other({}, &m_frame);
+  other.show();
+  Offer(QStringLiteral("this"));
+  m_bar.TakeFocus(COfferBar::End::Last);
+  m_input.Key(Qt::Key_Tab);
+  EXPECT_TRUE(other.hasFocus());
+}
+
+TEST_F(OfferBarTest, WithTheFocusItStaysUntilItLosesIt) {
+  Offer(QStringLiteral("this"));
+  m_bar.TakeFocus(COfferBar::End::First);
+  m_panel.Raise();
+  Offer(QStringLiteral("this"));
+  m_input.Key(Qt::Key_Tab);
+  EXPECT_FALSE(m_bar.isHidden());
+  m_frame.setFocus();
+  EXPECT_TRUE(m_bar.isHidden());
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
+#include "platform/ui/Edit.h"
+
 namespace quill {
 
 EditField FieldOf(QLineEdit& edit) {
@@ -11,7 +13,7 @@ EditField FieldOf(QLineEdit& edit) {
           .Undo = [&edit] { edit.undo(); },
           .Cut = [&edit] { edit.cut(); },
           .Copy = [&edit] { edit.copy(); },
-          .Paste = [&edit] { edit.paste(); },
+          .Paste = [&edit] { PasteLine(edit); },
           .Clear =
               [&edit] {
                 if (edit.hasSelectedText()) edit.del();

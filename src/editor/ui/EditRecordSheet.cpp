@@ -7,7 +7,6 @@
 #include "exchange/CarriedDetails.h"
 #include "platform/InputPanel.h"
 #include "platform/Services.h"
-#include "platform/ui/OfferBar.h"
 #include "platform/ui/Screen.h"
 #include "resources/Ids.h"
 #include "resources/Menus.h"
@@ -31,11 +30,28 @@ CEditRecordSheet::CEditRecordSheet(CScreen& screen, const QString& caption)
       m_commands({{ID_IMPORTED_DETAILS, ID_IMPORTED_DETAILS, [this](int) { ShowImportedDetails(); },
                    [this](int, CommandState& state) { state.Enabled = m_record.Oid != 0; }}}),
       m_panelWasUp(g_services.InputPanel && g_services.InputPanel->IsUp()) {
-  AddPage(*new CBasicPage(*this, m_record));
-  AddPage(*new CDetailPage(*this, m_record));
+  AddRecordPage(*new CBasicPage(*this, m_record));
+  AddRecordPage(*new CDetailPage(*this, m_record));
   AddPage(*m_memoPage);
+  m_draftBar->LeaveAsked = [this](COfferBar::End end) { return EnterRows(end); };
   m_draftBar->RestoreAsked = [this] { RestoreDraft(); };
   m_draftBar->DiscardAsked = [this] { DiscardOffered(); };
+}
+
+// Tab leads through the rows and the bar in turn.
+void CEditRecordSheet::AddRecordPage(CRecordPage& page) {
+  AddPage(page);
+  page.LeaveAsked = [this](RowMove move) {
+    return m_draftBar->TakeFocus(move == RowMove::Next ? COfferBar::End::First
+                                                       : COfferBar::End::Last);
+  };
+}
+
+// False on a page without rows.
+bool CEditRecordSheet::EnterRows(COfferBar::End from) {
+  auto* const page = qobject_cast<CRecordPage*>(ActivePage());
+  if (page) page->EnterRows(from == COfferBar::End::Last ? RowMove::Next : RowMove::Previous);
+  return page != nullptr;
 }
 
 // The panel came up for the fields of the sheet. What is closed with the program was not cancelled.
@@ -110,8 +126,17 @@ void CEditRecordSheet::resizeEvent(QResizeEvent* event) {
 }
 
 void CEditRecordSheet::OfferDraft() {
-  if (!m_offered) return m_draftBar->hide();
+  if (!m_offered) return HideDraftBar();
   m_draftBar->Offer(QStringLiteral("Not saved: ") + TitleOf(*m_offered), PageArea());
+}
+
+// The focus goes first: what is hidden would hand it on as the Tab key does.
+void CEditRecordSheet::HideDraftBar() {
+  if (m_draftBar->HasFocus()) {
+    ActivePage()->setFocus(Qt::ActiveWindowFocusReason);
+    focusNextPrevChild(true);
+  }
+  m_draftBar->hide();
 }
 
 // What was entered until now becomes a draft of its own.

@@ -5,12 +5,13 @@
 
 #include "editor/Draft.h"
 #include "editor/SheetRecord.h"
+#include "platform/ui/OfferBar.h"
 #include "platform/ui/Sheet.h"
 
 namespace quill {
 
 class CMemoPage;
-class COfferBar;
+class CRecordPage;
 
 class CEditRecordSheet : public CSheet {
   Q_OBJECT
@@ -38,7 +39,10 @@ class CEditRecordSheet : public CSheet {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void AddRecordPage(CRecordPage& page);
+  bool EnterRows(COfferBar::End from);
   void OfferDraft();
+  void HideDraftBar();
   void RestoreDraft();
   void DiscardOffered();
   void KeepEntered();

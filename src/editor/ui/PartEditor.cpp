@@ -75,7 +75,7 @@ void CPartEditor::SetValue(const QString& value) {
   ShowParts();
 }
 
-EditField CPartEditor::Field() const { return FieldOf(*m_edit); }
+EditField CPartEditor::Field() const { return m_edited < 0 ? EditField() : FieldOf(*m_edit); }
 
 void CPartEditor::ShowField(int, const QRect& area, const QString& value) {
   const QSignalBlocker untouched(m_edit);

@@ -29,7 +29,7 @@ class CPartEditor : public CPaintedWindow {
   void EditPart(int part);
   void ActivateRow(int row) override { EditPart(row); }
 
-  // The field that is active while this editor is shown.
+  // The field that is active while this editor is shown; none before a part is edited.
   virtual EditField Field() const;
   virtual ControlMap Controls() const = 0;
 

@@ -65,6 +65,7 @@ void CRecordPage::ListenToRows() {
     SumUp();
   };
   m_rows->PartsAsked = [this](RowSet parts) { ShowParts(parts); };
+  m_rows->Entering = [this] { ScrollToShow(m_rows->EditedRow()); };
   m_rows->MoveAsked = [this](RowMove move) { MoveEdit(move); };
 }
 
@@ -154,13 +155,23 @@ void CRecordPage::SumUp() {
   m_rows->ShowRows();
 }
 
-// From the last row Tab leads to the first; arrow keys go the same way.
+// Where nothing is edited, Tab leads to the first row and back from there it leads out.
 void CRecordPage::MoveEdit(RowMove move) {
   const int from = m_rows->EditedRow();
-  const int first = move == RowMove::Next ? 0 : kRecordRowCount - 1;
-  const int row = from < 0 ? first : RowAfterMove(from, move, kRecordRowCount).value_or(first);
+  const bool isBefore = from < 0 && move == RowMove::Previous;
+  const auto row = isBefore ? std::nullopt : RowAfterMove(from, move, kRecordRowCount);
+  if (row) return EditRow(*row);
   EndEdits();
-  ScrollTo(SheetTopShowing(row, m_rows->Top(), RowsShown(), Panel()));
+  if (!LeaveAsked(move)) EnterRows(move);
+}
+
+void CRecordPage::EnterRows(RowMove move) {
+  EditRow(move == RowMove::Next ? 0 : kRecordRowCount - 1);
+}
+
+void CRecordPage::EditRow(int row) {
+  EndEdits();
+  ScrollToShow(row);
   m_rows->StartEdit(row);
 }
 
@@ -175,6 +186,10 @@ void CRecordPage::Scroll(int action) {
 void CRecordPage::ScrollTo(int top) {
   m_rows->SetTop(top);
   m_scrollBar->setValue(top);
+}
+
+void CRecordPage::ScrollToShow(int row) {
+  ScrollTo(SheetTopShowing(row, m_rows->Top(), RowsShown(), Panel()));
 }
 
 int CRecordPage::RowsShown() const { return RecordRowsShown(height() - kRecordListArea.top()); }

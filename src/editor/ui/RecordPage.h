@@ -2,6 +2,7 @@
 // the parts behind some rows.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -34,6 +35,11 @@ class CRecordPage : public CSheetPage, public TimerTarget {
 
   // Ends every edit, of a row and of parts.
   void EndEdits();
+  // Edits the first row, or the last one going backwards.
+  void EnterRows(RowMove move);
+
+  // Tab and arrow keys lead out of the rows. False: round to the other end.
+  std::function<bool(RowMove move)> LeaveAsked = [](RowMove) { return false; };
 
  protected:
   // The record outlives the page, which shows and changes these rows of it.
@@ -55,8 +61,10 @@ class CRecordPage : public CSheetPage, public TimerTarget {
   void SumUp();
   void ShowParts(RowSet parts);
   void MoveEdit(RowMove move);
+  void EditRow(int row);
   void Scroll(int action);
   void ScrollTo(int top);
+  void ScrollToShow(int row);
   int RowsShown() const;
 
   SheetRecord& m_record;

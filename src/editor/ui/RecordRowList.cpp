@@ -32,12 +32,19 @@ constexpr int kHoldMilliseconds = 500;
 CRecordRowList::CRecordRowList(SheetRecord& record, RowSet page, QWidget* parent)
     : CPaintedWindow(parent, QAccessible::List), m_record(record), m_page(page), m_editors(*this) {
   setFocusPolicy(Qt::StrongFocus);
-  m_editors.TextChanged = [this](const QString& text) { SetValue(text); };
+  m_editors.TextChanged = [this](const QString& text) {
+    Entering();
+    SetValue(text);
+  };
   m_editors.Chosen = [this](const QString& text) { SetValue(text); };
   m_editors.DateChanged = [this](std::optional<QDate> date) {
+    Entering();
     SetDateAt(m_record, m_page, m_edited,
               date ? MakeCalendarDate(*date, QTime(0, 0)) : CalendarDate());
     ShowRows();
+  };
+  m_editors.ItemToAdd = [this] {
+    return RowLinkItem(FindRule(m_page, m_edited)->Entry, RowAt(m_edited).Value);
   };
   m_editors.Left = [this] { EndEdit(); };
 }
@@ -141,7 +148,7 @@ void CRecordRowList::EndEdit() {
 
 EditField CRecordRowList::Field() const {
   QLineEdit* const text = m_editors.Text();
-  return text ? FieldOf(*text) : EditField();
+  return text && !text->isHidden() ? FieldOf(*text) : EditField();
 }
 
 void CRecordRowList::ActivateRow(int row) {
@@ -207,6 +214,9 @@ bool CRecordRowList::eventFilter(QObject*, QEvent* event) {
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease:
       StopHold();
+      break;
+    case QEvent::InputMethod:  // what is composed is no change yet
+      Entering();
       break;
     default:
       break;

@@ -31,7 +31,7 @@ class CRecordRowList : public CPaintedWindow, public TimerTarget {
   void EndEdit();
   int EditedRow() const { return m_edited; }
   const RecordRow* EditedRecordRow() const;
-  // The editor of texts; none before one was needed.
+  // The editor of texts; none while none is shown.
   EditField Field() const;
   ControlMap Controls() const { return m_editors.Controls(); }
 
@@ -44,6 +44,8 @@ class CRecordRowList : public CPaintedWindow, public TimerTarget {
   std::function<void()> Tapped;
   // An edit that an editor of parts carries out.
   std::function<void(RowSet parts)> PartsAsked;
+  // Something is entered into the edited row, which may be scrolled out of sight.
+  std::function<void()> Entering;
   // Tab and arrow keys: another row is to be edited.
   std::function<void(RowMove move)> MoveAsked;
 
@@ -54,7 +56,7 @@ class CRecordRowList : public CPaintedWindow, public TimerTarget {
   void PenCancel() override;
   void keyPressEvent(QKeyEvent* event) override;
   bool focusNextPrevChild(bool next) override;
-  // A hold on the field over a value is a hold on its row.
+  // A hold on the field over a value is a hold on its row; what is composed there is entered.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

@@ -55,7 +55,9 @@ class Leaving : public Editor {
 }  // namespace
 
 void RowEditors::MakeText() {
-  m_text = new Leaving<CEdit>(Left, QString(), &m_list);
+  auto* const edit = new Leaving<CEdit>(Left, QString(), &m_list);
+  edit->ItemToAdd = [this] { return ItemToAdd(); };
+  m_text = edit;
   m_text->setMaxLength(kLongestText);
   QObject::connect(m_text, &QLineEdit::textChanged, m_text,
                    [this](const QString& text) { TextChanged(text); });

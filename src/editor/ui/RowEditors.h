@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "editor/RowRules.h"
+#include "platform/ui/EditMenu.h"
 #include "platform/ui/Window.h"
 
 class QComboBox;
@@ -39,6 +40,8 @@ class RowEditors {
   std::function<void(const QString& text)> TextChanged;
   std::function<void(const QString& text)> Chosen;
   std::function<void(std::optional<QDate> date)> DateChanged;
+  // What the menu of the text's editor offers besides.
+  std::function<std::optional<AddedMenuItem>()> ItemToAdd;
   // Another control of the window got the focus.
   std::function<void()> Left;
 

@@ -22,6 +22,12 @@ void Open(const QUrl& target) {
 
 }  // namespace
 
+std::optional<AddedMenuItem> RowLinkItem(RowEntry entry, const QString& value) {
+  const auto link = LinkOf(entry, value);
+  if (!link) return std::nullopt;
+  return AddedMenuItem{.Text = link->Text, .Run = [target = link->Target] { Open(target); }};
+}
+
 void ShowRowMenu(QWidget& widget, QPoint at, RowEntry entry, const QString& value) {
   CScreen* const screen = ScreenAround(&widget);
   if (!screen || value.isEmpty() || entry == RowEntry::Any) return;

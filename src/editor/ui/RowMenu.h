@@ -3,7 +3,10 @@
 
 #include <QPoint>
 
+#include <optional>
+
 #include "editor/RowRules.h"
+#include "platform/ui/EditMenu.h"
 
 class QWidget;
 
@@ -12,5 +15,8 @@ namespace quill {
 // At a point of the widget. Waits for the choice and carries it out. Nothing opens where there is
 // nothing to choose.
 void ShowRowMenu(QWidget& widget, QPoint at, RowEntry entry, const QString& value);
+
+// What opens the row's value, for the menu of the field over it; nothing where nothing opens it.
+std::optional<AddedMenuItem> RowLinkItem(RowEntry entry, const QString& value);
 
 }  // namespace quill

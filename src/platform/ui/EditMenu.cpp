@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
+#include "platform/ui/Edit.h"
 #include "platform/ui/InputCommit.h"
 #include "platform/ui/Screen.h"
 #include "resources/Ids.h"
@@ -15,6 +16,8 @@ namespace {
 
 bool HasSelection(const QLineEdit& edit) { return edit.hasSelectedText(); }
 bool HasSelection(const QPlainTextEdit& edit) { return edit.textCursor().hasSelection(); }
+void Paste(QLineEdit& edit) { PasteLine(edit); }
+void Paste(QPlainTextEdit& edit) { edit.paste(); }
 bool IsEmpty(const QLineEdit& edit) { return edit.text().isEmpty(); }
 bool IsEmpty(const QPlainTextEdit& edit) { return edit.document()->isEmpty(); }
 
@@ -37,23 +40,33 @@ template <class Editor>
 void RunEditCommand(Editor& edit, int id) {
   if (id == EditMenuIds::kCut) edit.cut();
   if (id == EditMenuIds::kCopy) edit.copy();
-  if (id == EditMenuIds::kPaste) edit.paste();
+  if (id == EditMenuIds::kPaste) Paste(edit);
   if (id == EditMenuIds::kSelectAll) edit.selectAll();
 }
 
 template <class Editor>
-void ShowMenu(Editor& edit, QPoint at) {
+void ShowMenu(Editor& edit, QPoint at, const std::optional<AddedMenuItem>& added) {
   CScreen* const screen = ScreenAround(&edit);
   if (!screen) return;
   CommitInput();
-  RunEditCommand(edit, screen->TrackMenu(edit.mapTo(screen, at), EditMenu(edit)));
+  std::vector<MenuItem> items = EditMenu(edit);
+  if (added) {
+    items.push_back({.Separator = true});
+    items.push_back({.Text = added->Text, .Id = EditMenuIds::kAdded});
+  }
+  const int chosen = screen->TrackMenu(edit.mapTo(screen, at), items);
+  chosen == EditMenuIds::kAdded ? added->Run() : RunEditCommand(edit, chosen);
 }
 
 }  // namespace
 
-void ShowEditMenu(QLineEdit& edit, QPoint at) { ShowMenu(edit, at); }
+void ShowEditMenu(QLineEdit& edit, QPoint at, const std::optional<AddedMenuItem>& added) {
+  ShowMenu(edit, at, added);
+}
 
-void ShowEditMenu(QPlainTextEdit& edit, QPoint at) { ShowMenu(edit, at); }
+void ShowEditMenu(QPlainTextEdit& edit, QPoint at, const std::optional<AddedMenuItem>& added) {
+  ShowMenu(edit, at, added);
+}
 
 bool IsMenuKey(const QKeyEvent& event) {
   const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);

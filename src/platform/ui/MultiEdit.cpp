@@ -1,12 +1,20 @@
 #include "platform/ui/MultiEdit.h"
 
+#include <QPainter>
 #include <QTextDocumentFragment>
+
+#include "platform/ui/RowPainter.h"
 
 namespace quill {
 
 namespace {
 
-constexpr int kMargin = 2;  // as a line editor's
+// The text has the margin of a line editor's. Where pixels of the screen are no whole pixels, what
+// is inside a frame may paint over its edge: a blank edge stands between them.
+constexpr int kFrame = 2;
+constexpr int kMargin = 1;
+constexpr int kFrameDarkness =
+    130;  // percent of the window's colour, as the style's frames have it
 
 // What was copied elsewhere may have no plain form of its own.
 bool IsRichOnly(const QMimeData& source) { return source.hasHtml() && !source.hasText(); }
@@ -15,8 +23,19 @@ bool IsRichOnly(const QMimeData& source) { return source.hasHtml() && !source.ha
 
 CMultiEdit::CMultiEdit(const QString& text, QWidget* parent) : WithEditMenu(text, parent) {
   setTabChangesFocus(true);
+  setFrameStyle(QFrame::Box | QFrame::Plain);
+  setLineWidth(kFrame);
   document()->setDocumentMargin(kMargin);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+// A line that the style draws is not where its pixels are at every scale.
+bool CMultiEdit::event(QEvent* event) {
+  if (event->type() != QEvent::Paint) return WithEditMenu::event(event);
+  QPainter painter(this);
+  painter.fillRect(rect(), palette().color(QPalette::Base));
+  DrawFrame(painter, rect(), palette().color(QPalette::Window).darker(kFrameDarkness).rgb());
+  return true;
 }
 
 bool CMultiEdit::canInsertFromMimeData(const QMimeData* source) const {

@@ -15,6 +15,7 @@ class CMultiEdit : public WithEditMenu<QPlainTextEdit> {
   CMultiEdit(const QString& text, QWidget* parent);
 
  protected:
+  bool event(QEvent* event) override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
   void insertFromMimeData(const QMimeData* source) override;
 };

@@ -1,5 +1,6 @@
 #include "platform/ui/OfferBar.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QPaintEvent>
 #include <QPainter>
@@ -27,6 +28,8 @@ QPushButton* MakeButton(const QString& text, const QRect& area, QWidget* bar) {
   return button;
 }
 
+bool IsPanelUp() { return g_services.InputPanel && g_services.InputPanel->IsUp(); }
+
 }  // namespace
 
 COfferBar::COfferBar(QWidget* window, OfferIds ids)
@@ -38,6 +41,8 @@ COfferBar::COfferBar(QWidget* window, OfferIds ids)
   setVisible(false);
   m_text->setGeometry(kTextArea);
   m_text->setTextFormat(Qt::PlainText);
+  m_restore->installEventFilter(this);
+  m_discard->installEventFilter(this);
   connect(m_restore, &QPushButton::clicked, this, [this] { RestoreAsked(); });
   connect(m_discard, &QPushButton::clicked, this, [this] { DiscardAsked(); });
 }
@@ -46,8 +51,30 @@ void COfferBar::Offer(const QString& text, const QRect& area) {
   m_text->setText(ElideText(OnOneLine(text), kTextArea.width(), NormalTextWidth()));
   m_text->setAccessibleName(text);
   setGeometry(area.left(), area.bottom() + 1 - kHeight, area.width(), kHeight);
-  setVisible(!g_services.InputPanel || !g_services.InputPanel->IsUp());
+  setVisible(!IsPanelUp() || HasFocus());
   raise();
+}
+
+bool COfferBar::HasFocus() const { return isAncestorOf(QApplication::focusWidget()); }
+
+bool COfferBar::TakeFocus(End end) {
+  if (isHidden()) return false;
+  end == End::First ? m_restore->setFocus(Qt::TabFocusReason)
+                    : m_discard->setFocus(Qt::BacktabFocusReason);
+  return true;
+}
+
+// Asked by its buttons.
+bool COfferBar::focusNextPrevChild(bool next) {
+  const End end = next ? End::Last : End::First;
+  const bool isAtEnd = (end == End::Last ? m_discard : m_restore)->hasFocus();
+  if (!isAtEnd) return TakeFocus(end);
+  return LeaveAsked(end) || QWidget::focusNextPrevChild(next);
+}
+
+bool COfferBar::eventFilter(QObject*, QEvent* event) {
+  if (event->type() == QEvent::FocusOut && IsPanelUp() && !HasFocus()) hide();
+  return false;
 }
 
 ControlMap COfferBar::Controls() const {

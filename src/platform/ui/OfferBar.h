@@ -24,16 +24,26 @@ class COfferBar : public QWidget {
   COfferBar(QWidget* window, OfferIds ids);
 
   // Shows what is offered, in the lower end of this area of the window. While the input panel is up
-  // the bar hides instead: there is no room to spare then.
+  // and the bar has not the focus it hides instead: there is no room to spare then.
   void Offer(const QString& text, const QRect& area);
   // None while it is hidden.
   ControlMap Controls() const;
 
+  bool HasFocus() const;
+  // Gives its first button the focus, or the last one. False while the bar is hidden.
+  enum class End { First, Last };
+  bool TakeFocus(End end);
+
+  // Tab, or Shift+Tab, leads out of it. False: to the next control of the window.
+  std::function<bool(End end)> LeaveAsked = [](End) { return false; };
   std::function<void()> RestoreAsked;
   std::function<void()> DiscardAsked;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+  // When its buttons lose the focus it may have to hide.
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   const OfferIds m_ids;
