@@ -75,7 +75,9 @@ InkRecovery::InkRecovery(InkDocument& document, const QString& name)
   connect(&document, &InkDocument::Edited, this, &InkRecovery::FollowEdit);
 }
 
-InkRecovery::~InkRecovery() { StopTimer(); }
+InkRecovery::~InkRecovery() {
+  if (m_isTimed) WriteDue();
+}
 
 void InkRecovery::Discard() {
   StopTimer();
@@ -118,8 +120,10 @@ void InkRecovery::WriteSoon() {
   m_isTimed = true;
 }
 
+void InkRecovery::OnTimer(int /*id*/) { WriteDue(); }
+
 // All steps may have been undone.
-void InkRecovery::OnTimer(int /*id*/) {
+void InkRecovery::WriteDue() {
   if (m_document.Steps().isClean()) return Discard();
   WriteWhole();
 }

@@ -34,7 +34,7 @@ std::optional<UnsavedInk> FindUnsavedInk(const QString& name);
 class InkRecovery : public QObject, public TimerTarget {
   Q_OBJECT
  public:
-  // The document outlives this.
+  // The document outlives this. What waits for its two seconds is written at the end.
   InkRecovery(InkDocument& document, const QString& name);
   ~InkRecovery() override;
 
@@ -56,6 +56,7 @@ class InkRecovery : public QObject, public TimerTarget {
   bool AddToFile(const InkStrokePtr& stroke);
   void WriteWhole();
   void WriteSoon();
+  void WriteDue();
   void StopTimer();
 
   InkDocument& m_document;

@@ -167,10 +167,23 @@ TEST_F(InkRecoveryTest, DiscardedInkIsNotFoundAndNotWrittenAgain) {
 
 TEST_F(InkRecoveryTest, TheFileOutlivesTheNoteThatWasNotSaved) {
   Draw(100);
+  m_recovery.reset();
+  EXPECT_EQ(FoundStrokes(), 1U);
+}
+
+TEST_F(InkRecoveryTest, WhatWaitsIsWrittenWhenTheNoteIsClosed) {
   m_document.Type(0, 0, u"x"_qs);
   m_recovery.reset();
+  EXPECT_EQ(Found().Text.Text, u"x"_qs);
   Pass(2000);
-  EXPECT_EQ(FoundStrokes(), 1U);
+  EXPECT_EQ(m_files.Writes, 1);
+}
+
+TEST_F(InkRecoveryTest, ANoteThatIsClosedWithAllUndoneLeavesNoFile) {
+  Draw(100);
+  m_document.Steps().undo();
+  m_recovery.reset();
+  EXPECT_FALSE(HasFile());
 }
 
 TEST_F(InkRecoveryTest, TheTimeIsThatOfTheLastChange) {

@@ -236,6 +236,12 @@ class InkMemoRecovery : public InkMemoDialogTest {
       EXPECT_TRUE(IsKept());
     };
   }
+  test::Step Type() {
+    return [this] { Ink().Document().Type(0, 0, QStringLiteral("tea")); };
+  }
+  test::Step End() {
+    return [this] { m_screen->CloseAll(); };
+  }
   bool IsKept() const {
     return FindUnsavedInk(InkRecoveryName(Path(u"a.pwi"))).has_value() ||
            FindUnsavedInk(kNewInkRecoveryName.toString()).has_value();
@@ -261,9 +267,29 @@ TEST_F(InkMemoRecovery, NothingIsKeptOfADeletedMemo) {
   EXPECT_FALSE(IsKept());
 }
 
-TEST_F(InkMemoRecovery, TheProgramsEndIsACancelToo) {
-  EXPECT_EQ(EditEmpty({Draw(), [&] { m_screen->CloseAll(); }}), kResultCancel);
+TEST_F(InkMemoRecovery, NothingIsKeptOfANewMemoWhoseInkWasErased) {
+  EXPECT_EQ(WriteNew({Draw(), [&] { Ink().Document().ClearAll(); }, OK()}), kResultCancel);
   EXPECT_FALSE(IsKept());
+}
+
+TEST_F(InkMemoRecovery, WhatTheProgramsEndClosesIsKept) {
+  EXPECT_EQ(EditEmpty({Draw(), Type(), End()}), kResultCancel);
+  const auto kept = FindUnsavedInk(InkRecoveryName(Path(u"a.pwi")));
+  ASSERT_TRUE(kept);
+  EXPECT_EQ(kept->Note.Strokes.size(), 1U);
+  EXPECT_EQ(kept->Note.Text.Text, QStringLiteral("tea"));
+}
+
+TEST_F(InkMemoRecovery, ANewMemoWhoseNameTheProgramsEndClosesIsKept) {
+  EXPECT_EQ(WriteNew({Draw(), OK(), End()}), kResultCancel);
+  EXPECT_TRUE(IsKept());
+}
+
+TEST_F(InkMemoRecovery, WhatWasTypedLastIsKeptOfANewMemoThatIsGivenNoName) {
+  EXPECT_EQ(WriteNew({Type(), OK(), Cancel()}), kResultCancel);
+  const auto kept = FindUnsavedInk(kNewInkRecoveryName.toString());
+  ASSERT_TRUE(kept);
+  EXPECT_EQ(kept->Note.Text.Text, QStringLiteral("tea"));
 }
 
 TEST_F(InkMemoRecovery, ANewMemoThatIsGivenNoNameIsOfferedToTheNext) {

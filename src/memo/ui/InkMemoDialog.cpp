@@ -27,9 +27,9 @@ CInkMemoDialog::CInkMemoDialog(CScreen& screen, const QString& path, InkMemoKind
   SetCaption(QStringLiteral("Memo"));
 }
 
-// However it ended, the note is saved or given up; also with the program.
+// What is closed with the program was not given up.
 CInkMemoDialog::~CInkMemoDialog() {
-  if (m_keeping) m_keeping->Discard();
+  if (m_keeping && m_isDecided) m_keeping->Discard();
 }
 
 void CInkMemoDialog::OnInitDialog() {
@@ -69,17 +69,23 @@ void CInkMemoDialog::OnOK() {
   m_kind == InkMemoKind::New ? SaveNew() : Save(m_path);
 }
 
+void CInkMemoDialog::OnCancel() { Decide(kResultCancel); }
+
+void CInkMemoDialog::Decide(int result) {
+  m_isDecided = true;
+  EndDialog(result);
+}
+
+// Ink that is given no name is not given up either.
 void CInkMemoDialog::SaveNew() {
-  if (g_memo.Buffer.isEmpty()) return EndDialog(kResultCancel);
+  if (g_memo.Buffer.isEmpty()) return Decide(kResultCancel);
   CNameEntryDlg dialog(Screen(), NameEntryMode::Save, m_path);
-  if (dialog.DoModal() == kResultOK) return Save(dialog.Text());
-  m_keeping.reset();  // its file stays
-  EndDialog(kResultCancel);
+  dialog.DoModal() == kResultOK ? Save(dialog.Text()) : EndDialog(kResultCancel);
 }
 
 void CInkMemoDialog::Save(const QString& path) {
   const bool isFile = m_kind == InkMemoKind::New || !path.isEmpty();
-  if (!isFile || g_services.Files->WriteWhole(path, g_memo.Buffer)) return EndDialog(kResultOK);
+  if (!isFile || g_services.Files->WriteWhole(path, g_memo.Buffer)) return Decide(kResultOK);
   g_services.Prompt->Show({.Text = QStringLiteral("Please check the file name is valid.")});
 }
 
@@ -90,7 +96,7 @@ void CInkMemoDialog::DeleteNote() {
   const bool isFile = m_kind == InkMemoKind::Existing && !m_path.isEmpty();
   // What cannot be removed stays, and is listed again.
   if (isFile) g_services.Files->Remove(m_path);
-  EndDialog(isFile ? kResultCancel : kResultOK);
+  Decide(isFile ? kResultCancel : kResultOK);
 }
 
 // The event of the first showing tells of no change: the control has its place already.

@@ -28,9 +28,11 @@ class CInkMemoDialog : public CModalWindow {
   CommandRoute Route() const override;
   // Writes the file and ends with OK; of a new memo the user names the file first. A new memo with
   // nothing on its page, and one that is given no name, end with Cancel and make no file; what was
-  // given no name is offered to the next new memo. Where the file cannot be written the user is
+  // given no name is offered to the next new memo, and what was open when the program ended is
+  // offered again too. Where the file cannot be written the user is
   // told, and the editor stays open.
   void OnOK() override;
+  void OnCancel() override;
   void OnVisibleAreaChanged(QRect area) override { setGeometry(area); }
 
  protected:
@@ -42,6 +44,7 @@ class CInkMemoDialog : public CModalWindow {
   void SaveNew();
   void Save(const QString& path);
   void DeleteNote();
+  void Decide(int result);
   QString RecoveryName() const;
 
   const QString m_path;
@@ -49,6 +52,7 @@ class CInkMemoDialog : public CModalWindow {
   InkX* m_ink = nullptr;                  // a child, made by OnInitDialog
   std::unique_ptr<InkEditing> m_editing;  // of m_ink
   std::unique_ptr<InkKeeping> m_keeping;  // of m_ink; null when it is not a file's
+  bool m_isDecided = false;               // by the user: saved, cancelled or deleted
 };
 
 }  // namespace quill
