@@ -153,5 +153,16 @@ TEST_F(MemoScript, TextOfAMemoThatIsGivenNoNameIsOfferedToTheNext) {
   EXPECT_EQ(Ink(driver)[u"text"], QStringLiteral("tea"));
 }
 
+TEST_F(MemoScript, AMemoFolderThatIsRemovedMeanwhileIsMadeAgain) {
+  ReadyDriver driver(Arguments());
+  RunCommand(driver, 32825);
+  ASSERT_TRUE(QDir(m_home.filePath(QStringLiteral("My Documents"))).removeRecursively());
+  RunCommand(driver, 57600);
+  Write(driver);
+  OK(driver);
+  OK(driver);
+  EXPECT_EQ(Memos(driver), QStringList{QStringLiteral("Memo_20040915_093005.pwi")});
+}
+
 }  // namespace
 }  // namespace quill::test

@@ -6,7 +6,7 @@
 #include "ink/ui/InkKeeping.h"
 #include "ink/ui/InkX.h"
 #include "memo/MemoDeletion.h"
-#include "memo/MemoState.h"
+#include "memo/MemoFiles.h"
 #include "platform/DeviceFiles.h"
 #include "platform/Prompt.h"
 #include "platform/Services.h"
@@ -85,7 +85,7 @@ void CInkMemoDialog::SaveNew() {
 
 void CInkMemoDialog::Save(const QString& path) {
   const bool isFile = m_kind == InkMemoKind::New || !path.isEmpty();
-  if (!isFile || g_services.Files->WriteWhole(path, g_memo.Buffer)) return Decide(kResultOK);
+  if (!isFile || WriteMemo(g_memo, path, g_memo.Buffer)) return Decide(kResultOK);
   g_services.Prompt->Show({.Text = QStringLiteral("Please check the file name is valid.")});
 }
 
