@@ -147,10 +147,23 @@ TEST_F(MemoScript, TextOfAMemoThatIsGivenNoNameIsOfferedToTheNext) {
   Type(driver);
   OK(driver);
   Cancel(driver);
-  driver.Ask(R"({"op":"panel","up":false})");
+  EXPECT_EQ(driver.Result(R"({"op":"panel"})", u"panel"), false);
   RunCommand(driver, 57600);
   Restore(driver);
   EXPECT_EQ(Ink(driver)[u"text"], QStringLiteral("tea"));
+}
+
+TEST_F(MemoScript, ThePanelGoesDownWithANameEntryThatIsCancelled) {
+  PutMemo(QStringLiteral("a.pwi"), {});
+  ReadyDriver driver(Arguments());
+  RunCommand(driver, 32825);
+  for (const char* copyOrRename : {"32828", "32829"}) {
+    driver.Do(R"({"op":"hold","on":"list","x":50,"y":8})");
+    driver.Do(QByteArray(R"({"op":"choose","id":)") + copyOrRename + '}');
+    EXPECT_EQ(driver.Result(R"({"op":"panel"})", u"panel"), true);
+    Cancel(driver);
+    EXPECT_EQ(driver.Result(R"({"op":"panel"})", u"panel"), false);
+  }
 }
 
 TEST_F(MemoScript, AMemoFolderThatIsRemovedMeanwhileIsMadeAgain) {

@@ -295,7 +295,6 @@ TEST_F(InkMemoRecovery, WhatWasTypedLastIsKeptOfANewMemoThatIsGivenNoName) {
 TEST_F(InkMemoRecovery, ANewMemoThatIsGivenNoNameIsOfferedToTheNext) {
   EXPECT_EQ(WriteNew({Draw(), OK(), Cancel()}), kResultCancel);
   EXPECT_TRUE(IsKept());
-  m_panel.Lower();
   g_memo.Buffer.clear();
   EXPECT_EQ(WriteNew({[&] {
                         ASSERT_NE(Editor().Control(InkIds::kRestore), nullptr);
@@ -310,7 +309,6 @@ TEST_F(InkMemoRecovery, ANewMemoThatIsGivenNoNameIsOfferedToTheNext) {
 
 TEST_F(InkMemoRecovery, TheOfferGivesWayToThePanel) {
   EXPECT_EQ(WriteNew({Draw(), OK(), Cancel()}), kResultCancel);
-  m_panel.Lower();
   g_memo.Buffer.clear();
   WriteNew({[&] {
               EXPECT_NE(Editor().Control(InkIds::kRestore), nullptr);

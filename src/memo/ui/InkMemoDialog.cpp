@@ -79,8 +79,8 @@ void CInkMemoDialog::Decide(int result) {
 // Ink that is given no name is not given up either.
 void CInkMemoDialog::SaveNew() {
   if (g_memo.Buffer.isEmpty()) return Decide(kResultCancel);
-  CNameEntryDlg dialog(Screen(), NameEntryMode::Save, m_path);
-  dialog.DoModal() == kResultOK ? Save(dialog.Text()) : EndDialog(kResultCancel);
+  const auto path = AskForName(Screen(), NameEntryMode::Save, m_path);
+  path ? Save(*path) : EndDialog(kResultCancel);
 }
 
 void CInkMemoDialog::Save(const QString& path) {
