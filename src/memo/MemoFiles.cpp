@@ -21,6 +21,11 @@ bool WriteMemo(const MemoState& memo, const QString& path, const QByteArray& con
   return files.WriteWhole(path, content);
 }
 
+bool IsMemoChanged(const QString& path, const QByteArray& read) {
+  const DeviceFiles& files = *g_services.Files;
+  return !files.Exists(path) || files.ReadWhole(path) != read;
+}
+
 // The device files' answers are ignored: they have said on the log what they could not do.
 
 void DeleteMemo(const MemoState& memo, const QString& name) {

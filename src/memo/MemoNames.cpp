@@ -2,6 +2,7 @@
 
 #include "memo/MemoFolder.h"
 #include "platform/Clock.h"
+#include "platform/DeviceFiles.h"
 #include "platform/Services.h"
 
 namespace quill {
@@ -33,6 +34,12 @@ QString NewUnnamedMemoPath(const MemoState& memo) {
 
 QString MemoCopyPath(const QString& path) {
   return path.chopped(qMin<qsizetype>(kExtensionLength, path.size())) + QStringLiteral("_Copy.pwi");
+}
+
+QString FreeMemoCopyPath(const QString& path) {
+  QString copy = MemoCopyPath(path);
+  while (g_services.Files->Exists(copy)) copy = MemoCopyPath(copy);
+  return copy;
 }
 
 }  // namespace quill

@@ -15,5 +15,7 @@ QString NewUnnamedMemoPath(const MemoState& memo);
 
 // The path that a copy is offered: "_Copy.pwi" in place of the last four characters.
 QString MemoCopyPath(const QString& path);
+// The same of a copy that takes no other memo's place: a copy of a copy where there is one already.
+QString FreeMemoCopyPath(const QString& path);
 
 }  // namespace quill

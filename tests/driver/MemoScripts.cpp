@@ -153,6 +153,23 @@ TEST_F(MemoScript, TextOfAMemoThatIsGivenNoNameIsOfferedToTheNext) {
   EXPECT_EQ(Ink(driver)[u"text"], QStringLiteral("tea"));
 }
 
+TEST_F(MemoScript, AMemoThatAnotherProgramChangesWhileItIsOpenIsSavedBesideTheOther) {
+  PutMemo(QStringLiteral("a.pwi"), {});
+  ReadyDriver driver(Arguments());
+  OpenFirstMemo(driver);
+  Write(driver);
+  PutMemo(QStringLiteral("a.pwi"), "theirs");
+  OK(driver);
+  EXPECT_EQ(Message(driver),
+            QStringLiteral("The memo was changed meanwhile. Please give this one a new name."));
+  Answer(driver, "OK");
+  EXPECT_EQ(TopTitle(driver), QStringLiteral("Save As"));
+  OK(driver);
+  EXPECT_EQ(Content(QStringLiteral("a.pwi")), "theirs");
+  EXPECT_EQ(Memos(driver), QStringList({QStringLiteral("a.pwi"), QStringLiteral("a_Copy.pwi")}));
+  EXPECT_TRUE(RecoveryFiles().isEmpty());
+}
+
 TEST_F(MemoScript, ThePanelGoesDownWithANameEntryThatIsCancelled) {
   PutMemo(QStringLiteral("a.pwi"), {});
   ReadyDriver driver(Arguments());

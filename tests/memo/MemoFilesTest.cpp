@@ -46,6 +46,17 @@ TEST_F(MemoFiles, WhereTheFolderCannotBeMadeNothingIsWritten) {
   EXPECT_FALSE(WriteMemo(m_memo, Path(u"E.pwi"_qs), "ink"));
 }
 
+TEST_F(MemoFiles, AMemoIsChangedOnceItHoldsOtherBytesOrIsGone) {
+  const QString path = Path(u"A.pwi"_qs);
+  EXPECT_FALSE(IsMemoChanged(path, "ink"));
+  EXPECT_TRUE(IsMemoChanged(path, "other"));
+  ASSERT_TRUE(m_files.WriteWhole(path, {}));
+  EXPECT_TRUE(IsMemoChanged(path, "ink"));
+  EXPECT_FALSE(IsMemoChanged(path, {}));
+  ASSERT_TRUE(m_files.Remove(path));
+  EXPECT_TRUE(IsMemoChanged(path, {}));
+}
+
 TEST_F(MemoFiles, ADeletedMemoIsGone) {
   DeleteMemo(m_memo, u"B.pwi"_qs);
   EXPECT_EQ(AllMemos(m_memo), QStringList({u"A.pwi"_qs, u"C.pwi"_qs, u"D.pwi"_qs}));

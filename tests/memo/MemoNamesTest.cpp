@@ -53,6 +53,15 @@ TEST_F(MemoNames, PathsInTheFallBackFolderHoldADoubledSeparator) {
   EXPECT_EQ(NewMemoPath(m_memo, u"Kim"_qs), u"\\My Documents\\\\Kim_20040915_093005.pwi"_qs);
 }
 
+TEST_F(MemoNames, AFreeCopyIsOfferedThePathOfTheFirstCopyThatIsNotThere) {
+  FixMemoFolder(m_memo);
+  const QString path = MemoPath(m_memo, u"A.pwi"_qs);
+  EXPECT_EQ(FreeMemoCopyPath(path), MemoPath(m_memo, u"A_Copy.pwi"_qs));
+  Put(u"A_Copy.pwi"_qs);
+  Put(u"A_Copy_Copy.pwi"_qs);
+  EXPECT_EQ(FreeMemoCopyPath(path), MemoPath(m_memo, u"A_Copy_Copy_Copy.pwi"_qs));
+}
+
 struct CopyCase {
   QString Path;
   QString Copy;

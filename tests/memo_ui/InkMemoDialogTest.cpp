@@ -46,6 +46,8 @@ class InkMemoDialogTest : public test::MemoFixture {
 };
 
 const QString kQuestion = QStringLiteral("This memo will be deleted. Continue?");
+const QString kMeanwhile =
+    QStringLiteral("The memo was changed meanwhile. Please give this one a new name.");
 const QString kBadName = QStringLiteral("Please check the file name is valid.");
 
 TEST_F(InkMemoDialogTest, IsAFullScreenDialogWithTheMenusAndButtonsOfInk) {
@@ -124,13 +126,18 @@ TEST_F(InkMemoDialogTest, AnExistingMemoWithoutAPathIsLeftInTheBuffer) {
   EXPECT_EQ(g_memo.Buffer, kOther);
 }
 
+// Files that can be read only.
+class FullFiles : public DesktopDeviceFiles {
+ public:
+  using DesktopDeviceFiles::DesktopDeviceFiles;
+  bool WriteWhole(const QString&, const QByteArray&) override { return false; }
+};
+
 TEST_F(InkMemoDialogTest, AnExistingMemoThatCannotBeWrittenStaysOpenWithItsInk) {
   m_prompt.Expect(PromptAnswer::OK);
-  EXPECT_EQ(Edit({[&] {
-                    ASSERT_TRUE(m_home.Files.Remove(Path(u"a.pwi")));
-                    ASSERT_EQ(m_home.Files.CreateFolder(Path(u"a.pwi")), 0);
-                  },
-                  Write(kOther), OK(),
+  FullFiles full({.Device = m_home.Folder.path(),
+                  .MyDocuments = m_home.Folder.filePath(QStringLiteral("My Documents"))});
+  EXPECT_EQ(Edit({Write(kOther), [&] { g_services.Files = &full; }, OK(),
                   [&] {
                     ASSERT_EQ(m_prompt.Shown().size(), 1U);
                     EXPECT_EQ(m_prompt.Shown()[0].Text, kBadName);
@@ -138,6 +145,36 @@ TEST_F(InkMemoDialogTest, AnExistingMemoThatCannotBeWrittenStaysOpenWithItsInk) 
                   },
                   Cancel()}),
             kResultCancel);
+}
+
+TEST_F(InkMemoDialogTest, AMemoThatOthersChangedMeanwhileIsSavedBesideTheirs) {
+  m_prompt.Expect(PromptAnswer::OK);
+  EXPECT_EQ(Edit({Write(kOther), [&] { Put(Path(u"a.pwi"), "theirs"); }, OK(),
+                  [&] {
+                    EXPECT_EQ(m_prompt.Shown()[0].Text, kMeanwhile);
+                    EXPECT_EQ(m_screen->Topmost()->Caption(), QStringLiteral("Save As"));
+                    EnterName(Path(u"b.pwi"));
+                  }}),
+            kResultOK);
+  EXPECT_EQ(m_proposed, Path(u"a_Copy.pwi"));
+  EXPECT_EQ(Content(Path(u"a.pwi")), "theirs");
+  EXPECT_EQ(Content(Path(u"b.pwi")), kOther);
+}
+
+TEST_F(InkMemoDialogTest, AMemoThatOthersRemovedMeanwhileIsGivenANameAnew) {
+  m_prompt.Expect(PromptAnswer::OK);
+  EXPECT_EQ(Edit({Write(kOther), [&] { ASSERT_TRUE(m_home.Files.Remove(Path(u"a.pwi"))); }, OK(),
+                  Name(Path(u"a.pwi"))}),
+            kResultOK);
+  EXPECT_EQ(Content(Path(u"a.pwi")), kOther);
+}
+
+TEST_F(InkMemoDialogTest, AMemoThatWasChangedMeanwhileAndIsGivenNoNameStaysOpen) {
+  m_prompt.Expect(PromptAnswer::OK);
+  EXPECT_EQ(Edit({Write(kOther), [&] { Put(Path(u"a.pwi"), "theirs"); }, OK(), Cancel(),
+                  [&] { EXPECT_EQ(Ink().Data(), kOther); }, Cancel()}),
+            kResultCancel);
+  EXPECT_EQ(Content(Path(u"a.pwi")), "theirs");
 }
 
 TEST_F(InkMemoDialogTest, ANewMemoIsWrittenUnderTheNameThatIsEntered) {
@@ -247,6 +284,7 @@ class InkMemoRecovery : public InkMemoDialogTest {
            FindUnsavedInk(kNewInkRecoveryName.toString()).has_value();
   }
   int EditEmpty(std::vector<test::Step> steps) {
+    Put(Path(u"a.pwi"), {});
     return Run(InkMemoKind::Existing, Path(u"a.pwi"), std::move(steps));
   }
 };

@@ -7,6 +7,7 @@
 #include "ink/ui/InkX.h"
 #include "memo/MemoDeletion.h"
 #include "memo/MemoFiles.h"
+#include "memo/MemoNames.h"
 #include "platform/DeviceFiles.h"
 #include "platform/Prompt.h"
 #include "platform/Services.h"
@@ -37,7 +38,8 @@ void CInkMemoDialog::OnInitDialog() {
   m_ink->setGeometry(rect().adjusted(0, 0, 0, -kRoomBelow));
   m_editing = std::make_unique<InkEditing>(*m_ink, [this] { DeleteNote(); });
   ShowInkAsPage(*m_ink);
-  PutInkIn(*m_ink, g_memo.Buffer);
+  m_opened = g_memo.Buffer;
+  PutInkIn(*m_ink, m_opened);
   const QString name = RecoveryName();
   if (!name.isEmpty()) m_keeping = std::make_unique<InkKeeping>(*m_ink, name, *this);
 }
@@ -66,7 +68,7 @@ CommandRoute CInkMemoDialog::Route() const {
 
 void CInkMemoDialog::OnOK() {
   g_memo.Buffer = TakeInkOut(*m_ink);
-  m_kind == InkMemoKind::New ? SaveNew() : Save(m_path);
+  m_kind == InkMemoKind::New ? SaveNew() : SaveExisting();
 }
 
 void CInkMemoDialog::OnCancel() { Decide(kResultCancel); }
@@ -83,9 +85,21 @@ void CInkMemoDialog::SaveNew() {
   path ? Save(*path) : EndDialog(kResultCancel);
 }
 
+void CInkMemoDialog::SaveExisting() {
+  if (m_path.isEmpty()) return Decide(kResultOK);
+  IsMemoChanged(m_path, m_opened) ? SaveBeside() : Save(m_path);
+}
+
+// Without a name the editor stays open: only the user's own Cancel gives up what is on the page.
+void CInkMemoDialog::SaveBeside() {
+  g_services.Prompt->Show(
+      {.Text = QStringLiteral("The memo was changed meanwhile. Please give this one a new name.")});
+  const auto path = AskForName(Screen(), NameEntryMode::Save, FreeMemoCopyPath(m_path));
+  if (path) Save(*path);
+}
+
 void CInkMemoDialog::Save(const QString& path) {
-  const bool isFile = m_kind == InkMemoKind::New || !path.isEmpty();
-  if (!isFile || WriteMemo(g_memo, path, g_memo.Buffer)) return Decide(kResultOK);
+  if (WriteMemo(g_memo, path, g_memo.Buffer)) return Decide(kResultOK);
   g_services.Prompt->Show({.Text = QStringLiteral("Please check the file name is valid.")});
 }
 
