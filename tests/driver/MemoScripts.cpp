@@ -1,5 +1,7 @@
 // The memo editor end to end: saving under a name, what is kept of unsaved ink, deleting, what the
 // list does afterwards.
+#include <algorithm>
+
 #include "driver/InkScript.h"
 
 namespace quill::test {
@@ -151,6 +153,21 @@ TEST_F(MemoScript, TextOfAMemoThatIsGivenNoNameIsOfferedToTheNext) {
   RunCommand(driver, 57600);
   Restore(driver);
   EXPECT_EQ(Ink(driver)[u"text"], QStringLiteral("tea"));
+}
+
+TEST_F(MemoScript, UnsavedInkOfAContactsMemoIsOfferedWithItsName) {
+  ReadyDriver driver(Arguments());
+  PutKim(driver);
+  AddMemo(driver);
+  Write(driver);
+  OK(driver);
+  Cancel(driver);
+  RunCommand(driver, 32825);
+  RunCommand(driver, 57600);
+  const QJsonArray texts = driver.Result(R"({"op":"texts","on":"top"})", u"texts").toArray();
+  EXPECT_TRUE(std::ranges::any_of(texts, [](const auto& text) {
+    return text[u"text"].toString().startsWith(QStringLiteral("Not saved: Kim, "));
+  }));
 }
 
 TEST_F(MemoScript, AMemoThatAnotherProgramChangesWhileItIsOpenIsSavedBesideTheOther) {

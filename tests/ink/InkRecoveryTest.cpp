@@ -194,6 +194,19 @@ TEST_F(InkRecoveryTest, TheTimeIsThatOfTheLastChange) {
   EXPECT_EQ(FindUnsavedInk(kName)->Time, kBegin + 60'000);
 }
 
+TEST_F(InkRecoveryTest, OfWhomItIsIsFoundWithIt) {
+  m_recovery.emplace(m_document, kName, u"김서연"_qs);
+  Draw(100);
+  Draw(200);
+  EXPECT_EQ(FindUnsavedInk(kName)->Owner, u"김서연"_qs);
+  EXPECT_EQ(FoundStrokes(), 2U);
+}
+
+TEST_F(InkRecoveryTest, WithoutAnOwnerNoneIsFound) {
+  Draw(100);
+  EXPECT_EQ(FindUnsavedInk(kName)->Owner, QString());
+}
+
 TEST_F(InkRecoveryTest, WhatCouldNotBeWrittenIsWrittenWithTheNextStroke) {
   Draw(100);
   m_files.IsFull = true;

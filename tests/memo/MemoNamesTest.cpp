@@ -26,6 +26,15 @@ TEST_F(MemoNames, AMemoOfNobodyIsNamedMemo) {
   EXPECT_EQ(NewUnnamedMemoPath(m_memo), u"\\My Documents\\Fennick\\Memo_20040915_093005.pwi"_qs);
 }
 
+TEST_F(MemoNames, TheOwnerOfAProposedPathIsTheContactThatItWasMadeFor) {
+  for (const QString& folder : {m_memo.Folder, u"\\My Documents\\"_qs}) {
+    m_memo.Folder = folder;
+    for (const QString& fileAs : {u"Kim"_qs, u"A_B"_qs, u"김서연"_qs, u"Kim_20040915_093005"_qs})
+      EXPECT_EQ(MemoOwner(m_memo, NewMemoPath(m_memo, fileAs)), fileAs);
+    EXPECT_EQ(MemoOwner(m_memo, NewUnnamedMemoPath(m_memo)), QString());
+  }
+}
+
 TEST_F(MemoNames, TheYearIsNotPadded) {
   m_clock.Set(QDateTime(QDate(987, 1, 2), QTime(3, 4, 5)));
   EXPECT_EQ(NewUnnamedMemoPath(m_memo), u"\\My Documents\\Fennick\\Memo_9870102_030405.pwi"_qs);

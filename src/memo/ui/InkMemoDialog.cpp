@@ -41,7 +41,9 @@ void CInkMemoDialog::OnInitDialog() {
   m_opened = g_memo.Buffer;
   PutInkIn(*m_ink, m_opened);
   const QString name = RecoveryName();
-  if (!name.isEmpty()) m_keeping = std::make_unique<InkKeeping>(*m_ink, name, *this);
+  if (name.isEmpty()) return;
+  const QString owner = m_kind == InkMemoKind::New ? MemoOwner(g_memo, m_path) : QString();
+  m_keeping = std::make_unique<InkKeeping>(*m_ink, name, *this, owner);
 }
 
 // Whoever opened an existing memo without a path keeps it.
