@@ -5,6 +5,7 @@
 
 #include <optional>
 
+#include "memo/MemoFiles.h"
 #include "memo/MemoFolder.h"
 #include "platform/DeviceFiles.h"
 #include "platform/Services.h"
@@ -44,7 +45,7 @@ QString TakeMemoFile(const QString& file, const DeviceRoots& roots, const MemoSt
   if (!content) return {};
   const QString path = PlaceFor(*content, QFileInfo(file).fileName(), memo);
   const bool isThere = g_services.Files->Exists(path);
-  return isThere || g_services.Files->WriteWhole(path, *content) ? path : QString();
+  return isThere || WriteMemo(memo, path, *content) ? path : QString();
 }
 
 }  // namespace quill

@@ -19,8 +19,10 @@ namespace {
 
 Q_LOGGING_CATEGORY(logInk, "quill.ink")
 
-// When what is before it was written. Needs no reader, and no edit keeps it.
+// When what is before it was written, and of whom it is. They need no reader, and no edit keeps
+// them.
 constexpr QByteArrayView kTimeChunk = "tIME";
+constexpr QByteArrayView kOwnerChunk = "wHOM";
 constexpr int kWriteTimer = 1;
 constexpr int kWriteAfter = 2000;  // milliseconds
 constexpr int kHashDigits = 16;
@@ -33,15 +35,28 @@ QByteArray TimeChunk() {
   return bytes;
 }
 
-// The last one that is whole.
-std::optional<qint64> TimeOf(const QByteArray& bytes) {
-  std::optional<qint64> time;
+QByteArray OwnerChunk(const QString& owner) {
+  QByteArray bytes;
+  if (!owner.isEmpty()) AppendInkChunk(bytes, kOwnerChunk, owner.toUtf8());
+  return bytes;
+}
+
+// Of the last chunk of a type that is whole.
+std::optional<QByteArrayView> LastPayload(const QByteArray& bytes, QByteArrayView type) {
+  std::optional<QByteArrayView> payload;
   InkChunkWalk walk(bytes);
-  while (const auto chunk = walk.Next()) {
-    if (!chunk->IsSound || chunk->Type != kTimeChunk) continue;
-    time = static_cast<qint64>(InkByteReader(chunk->Payload).U64());
-  }
-  return time;
+  while (const auto chunk = walk.Next())
+    if (chunk->IsSound && chunk->Type == type) payload = chunk->Payload;
+  return payload;
+}
+
+std::optional<qint64> TimeOf(const QByteArray& bytes) {
+  const auto payload = LastPayload(bytes, kTimeChunk);
+  return payload ? std::optional(static_cast<qint64>(InkByteReader(*payload).U64())) : std::nullopt;
+}
+
+QString OwnerOf(const QByteArray& bytes) {
+  return QString::fromUtf8(LastPayload(bytes, kOwnerChunk).value_or(QByteArrayView()));
 }
 
 }  // namespace
@@ -63,19 +78,21 @@ std::optional<UnsavedInk> FindUnsavedInk(const QString& name) {
   // Nothing is what all was deleted from only where the file says that it was written so.
   const bool isReadable =
       content.Reading == InkReading::Damaged && (time || !content.Note.IsEmpty());
-  if (isReadable) return UnsavedInk{std::move(content.Note), time.value_or(0)};
+  if (isReadable) return UnsavedInk{std::move(content.Note), time.value_or(0), OwnerOf(*bytes)};
   qCWarning(logInk) << "there is no note in" << name;
   files->SetAside(name);  // says itself when it cannot; the next note overwrites it then
   return std::nullopt;
 }
 
-InkRecovery::InkRecovery(InkDocument& document, const QString& name)
-    : m_document(document), m_name(name) {
+InkRecovery::InkRecovery(InkDocument& document, const QString& name, const QString& owner)
+    : m_document(document), m_name(name), m_owner(owner) {
   connect(&document, &InkDocument::StrokeAdded, this, &InkRecovery::FollowStroke);
   connect(&document, &InkDocument::Edited, this, &InkRecovery::FollowEdit);
 }
 
-InkRecovery::~InkRecovery() { StopTimer(); }
+InkRecovery::~InkRecovery() {
+  if (m_isTimed) WriteDue();
+}
 
 void InkRecovery::Discard() {
   StopTimer();
@@ -107,7 +124,8 @@ void InkRecovery::WriteWhole() {
   m_begun.reset();
   if (!g_services.Recovery) return;
   const InkNote& note = m_document.Note();
-  if (!g_services.Recovery->Write(m_name, WriteOpenInk(note) + TimeChunk())) return;
+  const QByteArray bytes = WriteOpenInk(note) + OwnerChunk(m_owner) + TimeChunk();
+  if (!g_services.Recovery->Write(m_name, bytes)) return;
   m_begun = Begun{note.Pens, note.Page.Created};
 }
 
@@ -118,8 +136,10 @@ void InkRecovery::WriteSoon() {
   m_isTimed = true;
 }
 
+void InkRecovery::OnTimer(int /*id*/) { WriteDue(); }
+
 // All steps may have been undone.
-void InkRecovery::OnTimer(int /*id*/) {
+void InkRecovery::WriteDue() {
   if (m_document.Steps().isClean()) return Discard();
   WriteWhole();
 }

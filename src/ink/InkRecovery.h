@@ -1,7 +1,8 @@
 // Keeps in a recovery file what would be lost of a note that is being written when the program ends
 // at any moment: each stroke as the pen goes up, all else after two seconds.
 //
-// The file is a note that lacks its end (see InkFormat.h), with the time of each addition in it.
+// The file is a note that lacks its end (see InkFormat.h), with the time of each addition in it,
+// and of whom it is where its name does not say so.
 #pragma once
 
 #include <QObject>
@@ -21,8 +22,9 @@ QString ContactInkRecoveryName(qint64 oid);
 inline constexpr QStringView kNewInkRecoveryName = u"ink-new";
 
 struct UnsavedInk {
-  InkNote Note;     // may be empty: all of it was deleted
-  qint64 Time = 0;  // of the last change, milliseconds since 1970 UTC
+  InkNote Note;        // may be empty: all of it was deleted
+  qint64 Time = 0;     // of the last change, milliseconds since 1970 UTC
+  QString Owner = {};  // as it was given when the note was begun
 };
 
 // What an earlier run left under this name; asked before anything is written under it. A file that
@@ -34,8 +36,8 @@ std::optional<UnsavedInk> FindUnsavedInk(const QString& name);
 class InkRecovery : public QObject, public TimerTarget {
   Q_OBJECT
  public:
-  // The document outlives this.
-  InkRecovery(InkDocument& document, const QString& name);
+  // The document outlives this. What waits for its two seconds is written at the end.
+  InkRecovery(InkDocument& document, const QString& name, const QString& owner = {});
   ~InkRecovery() override;
 
   // The note is saved, given up or deleted: nothing is lost any more.
@@ -56,10 +58,12 @@ class InkRecovery : public QObject, public TimerTarget {
   bool AddToFile(const InkStrokePtr& stroke);
   void WriteWhole();
   void WriteSoon();
+  void WriteDue();
   void StopTimer();
 
   InkDocument& m_document;
   QString m_name;
+  QString m_owner;
   InkStrokePtr m_added;          // by the edit that is about to be told
   std::optional<Begun> m_begun;  // nothing: there is no file
   bool m_isTimed = false;

@@ -6,6 +6,26 @@
 
 namespace quill {
 
+namespace {
+
+bool IsInFolder(const MemoState& memo, const QString& path) {
+  return path.startsWith(MemoPath(memo, {}), Qt::CaseInsensitive);
+}
+
+}  // namespace
+
+bool WriteMemo(const MemoState& memo, const QString& path, const QByteArray& content) {
+  DeviceFiles& files = *g_services.Files;
+  // A failure shows when the file is written.
+  if (IsInFolder(memo, path) && !files.Exists(memo.Folder)) files.CreateFolder(memo.Folder);
+  return files.WriteWhole(path, content);
+}
+
+bool IsMemoChanged(const QString& path, const QByteArray& read) {
+  const DeviceFiles& files = *g_services.Files;
+  return !files.Exists(path) || files.ReadWhole(path) != read;
+}
+
 // The device files' answers are ignored: they have said on the log what they could not do.
 
 void DeleteMemo(const MemoState& memo, const QString& name) {

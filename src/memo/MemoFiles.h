@@ -1,10 +1,17 @@
-// Changing memo files. Nothing is reported: what cannot be done goes to the log, and a new listing
-// shows what is really there. Paths are full device paths, taken as they are.
+// Changing memo files. What cannot be done goes to the log, and a new listing shows what is really
+// there. Paths are full device paths, taken as they are.
 #pragma once
 
 #include "memo/MemoState.h"
 
 namespace quill {
+
+// Takes the place of a file that is there. The memo folder is made again where somebody has removed
+// it. False when the memo could not be written as a whole; then nothing has changed.
+bool WriteMemo(const MemoState& memo, const QString& path, const QByteArray& content);
+
+// Whether others have changed or removed a memo since this was read from it.
+bool IsMemoChanged(const QString& path, const QByteArray& read);
 
 // An empty name deletes nothing.
 void DeleteMemo(const MemoState& memo, const QString& name);

@@ -2,6 +2,7 @@
 
 #include "memo/MemoFolder.h"
 #include "platform/Clock.h"
+#include "platform/DeviceFiles.h"
 #include "platform/Services.h"
 
 namespace quill {
@@ -9,6 +10,7 @@ namespace quill {
 namespace {
 
 constexpr int kExtensionLength = 4;
+constexpr QStringView kNobody = u"Memo";
 
 QString TwoDigits(int number) { return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0')); }
 
@@ -27,12 +29,22 @@ QString NewMemoPath(const MemoState& memo, const QString& fileAs) {
   return MemoPath(memo, fileAs + u'_' + time + QStringLiteral(".pwi"));
 }
 
-QString NewUnnamedMemoPath(const MemoState& memo) {
-  return NewMemoPath(memo, QStringLiteral("Memo"));
+QString NewUnnamedMemoPath(const MemoState& memo) { return NewMemoPath(memo, kNobody.toString()); }
+
+QString MemoOwner(const MemoState& memo, const QString& path) {
+  const QString name = path.mid(MemoPath(memo, {}).size());
+  const QString owner = name.section(u'_', 0, -3);  // before day and time
+  return owner == kNobody ? QString() : owner;
 }
 
 QString MemoCopyPath(const QString& path) {
   return path.chopped(qMin<qsizetype>(kExtensionLength, path.size())) + QStringLiteral("_Copy.pwi");
+}
+
+QString FreeMemoCopyPath(const QString& path) {
+  QString copy = MemoCopyPath(path);
+  while (g_services.Files->Exists(copy)) copy = MemoCopyPath(copy);
+  return copy;
 }
 
 }  // namespace quill

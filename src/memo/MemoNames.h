@@ -13,7 +13,12 @@ namespace quill {
 QString NewMemoPath(const MemoState& memo, const QString& fileAs);
 QString NewUnnamedMemoPath(const MemoState& memo);
 
+// The contact whose memo was proposed this path; nobody's has none.
+QString MemoOwner(const MemoState& memo, const QString& path);
+
 // The path that a copy is offered: "_Copy.pwi" in place of the last four characters.
 QString MemoCopyPath(const QString& path);
+// The same of a copy that takes no other memo's place: a copy of a copy where there is one already.
+QString FreeMemoCopyPath(const QString& path);
 
 }  // namespace quill

@@ -53,6 +53,12 @@ TEST_F(MemoTaking, AFileFromElsewhereIsCopiedIntoTheFolder) {
   EXPECT_EQ(m_home.Files.ReadWhole(Path(u"a.pwi"_qs)), "a");
 }
 
+TEST_F(MemoTaking, AFolderThatWasRemovedMeanwhileIsMadeAgain) {
+  ASSERT_TRUE(QDir(m_roots.MyDocuments).removeRecursively());
+  EXPECT_EQ(Take(Write(u"a.pwi"_qs, "a")), Path(u"a.pwi"_qs));
+  EXPECT_EQ(AllMemos(m_memo), QStringList(u"a.pwi"_qs));
+}
+
 TEST_F(MemoTaking, ACopyNeverTakesThePlaceOfAnotherMemo) {
   ASSERT_TRUE(m_home.Files.WriteWhole(Path(u"a.pwi"_qs), "one"));
   ASSERT_TRUE(m_home.Files.WriteWhole(Path(u"a (2).pwi"_qs), "two"));

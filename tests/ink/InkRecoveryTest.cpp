@@ -167,10 +167,23 @@ TEST_F(InkRecoveryTest, DiscardedInkIsNotFoundAndNotWrittenAgain) {
 
 TEST_F(InkRecoveryTest, TheFileOutlivesTheNoteThatWasNotSaved) {
   Draw(100);
+  m_recovery.reset();
+  EXPECT_EQ(FoundStrokes(), 1U);
+}
+
+TEST_F(InkRecoveryTest, WhatWaitsIsWrittenWhenTheNoteIsClosed) {
   m_document.Type(0, 0, u"x"_qs);
   m_recovery.reset();
+  EXPECT_EQ(Found().Text.Text, u"x"_qs);
   Pass(2000);
-  EXPECT_EQ(FoundStrokes(), 1U);
+  EXPECT_EQ(m_files.Writes, 1);
+}
+
+TEST_F(InkRecoveryTest, ANoteThatIsClosedWithAllUndoneLeavesNoFile) {
+  Draw(100);
+  m_document.Steps().undo();
+  m_recovery.reset();
+  EXPECT_FALSE(HasFile());
 }
 
 TEST_F(InkRecoveryTest, TheTimeIsThatOfTheLastChange) {
@@ -179,6 +192,19 @@ TEST_F(InkRecoveryTest, TheTimeIsThatOfTheLastChange) {
   Pass(60'000);
   Draw(200);
   EXPECT_EQ(FindUnsavedInk(kName)->Time, kBegin + 60'000);
+}
+
+TEST_F(InkRecoveryTest, OfWhomItIsIsFoundWithIt) {
+  m_recovery.emplace(m_document, kName, u"김서연"_qs);
+  Draw(100);
+  Draw(200);
+  EXPECT_EQ(FindUnsavedInk(kName)->Owner, u"김서연"_qs);
+  EXPECT_EQ(FoundStrokes(), 2U);
+}
+
+TEST_F(InkRecoveryTest, WithoutAnOwnerNoneIsFound) {
+  Draw(100);
+  EXPECT_EQ(FindUnsavedInk(kName)->Owner, QString());
 }
 
 TEST_F(InkRecoveryTest, WhatCouldNotBeWrittenIsWrittenWithTheNextStroke) {

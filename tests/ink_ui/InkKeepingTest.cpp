@@ -28,15 +28,20 @@ InkStroke DotAt(int x) {
 class InkKeepingTest : public test::ScreenFixture {
  protected:
   InkKeepingTest() { g_services.Clock = &m_clock; }
-  ~InkKeepingTest() override { g_services.Clock = nullptr; }
+  ~InkKeepingTest() override {
+    m_keeping.reset();  // what waits is written with its time
+    g_services.Clock = nullptr;
+  }
 
   // What a run leaves that draws so many dots and is killed.
-  void Leave(int dots) {
+  void Leave(int dots, const QString& owner = {}) {
     InkX ink(&m_frame);
-    InkKeeping keeping(ink, kName, m_frame);
+    InkKeeping keeping(ink, kName, m_frame, owner);
     for (int i = 0; i < dots; ++i) ink.Document().AddStroke(DotAt(10 + i), {});
   }
-  void Begin() { m_keeping = std::make_unique<InkKeeping>(m_ink, kName, m_frame); }
+  void Begin(const QString& owner = {}) {
+    m_keeping = std::make_unique<InkKeeping>(m_ink, kName, m_frame, owner);
+  }
   void Draw() { m_ink.Document().AddStroke(DotAt(100), {}); }
   void Click(int id) {
     auto* const button = qobject_cast<QAbstractButton*>(m_keeping->Controls().at(id));
@@ -79,6 +84,22 @@ TEST_F(InkKeepingTest, OnAnotherDayItsDayIsSaid) {
   m_clock.Set(m_clock.Now().addDays(1));
   Begin();
   EXPECT_EQ(OfferText(), QStringLiteral("Unsaved ink from 09/15"));
+}
+
+TEST_F(InkKeepingTest, TheOfferSaysOfWhomItIs) {
+  Leave(1, QStringLiteral("Kim"));
+  Begin(QStringLiteral("Lee"));
+  EXPECT_EQ(OfferText(), QStringLiteral("Not saved: Kim, 09:30"));
+}
+
+TEST_F(InkKeepingTest, WhatIsTakenBackIsOfWhomTheNoteIsNow) {
+  Leave(1, QStringLiteral("Kim"));
+  Begin(QStringLiteral("Lee"));
+  Click(InkIds::kRestore);
+  Draw();
+  m_keeping.reset();
+  Begin();
+  EXPECT_EQ(OfferText(), QStringLiteral("Not saved: Lee, 09:30"));
 }
 
 TEST_F(InkKeepingTest, TheBarGivesWayToThePanel) {

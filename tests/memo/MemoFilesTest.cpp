@@ -1,5 +1,7 @@
 #include "memo/MemoFiles.h"
 
+#include <QDir>
+
 #include "memo/MemoListing.h"
 #include "memo/MemoTest.h"
 
@@ -13,8 +15,47 @@ class MemoFiles : public test::MemoTest {
     for (const char* name : {"A.pwi", "B.pwi", "C.pwi", "D.pwi"}) Put(QLatin1String(name));
     m_memo.NameList = AllMemos(m_memo);
   }
+  void RemoveDocuments() {
+    ASSERT_TRUE(QDir(m_home.Folder.filePath(u"My Documents"_qs)).removeRecursively());
+  }
   QString Path(const QString& name) const { return MemoPath(m_memo, name); }
 };
+
+TEST_F(MemoFiles, AMemoIsWrittenInThePlaceOfWhatIsThere) {
+  EXPECT_TRUE(WriteMemo(m_memo, Path(u"A.pwi"_qs), "other"));
+  EXPECT_EQ(m_files.ReadWhole(Path(u"A.pwi"_qs)), QByteArray("other"));
+}
+
+TEST_F(MemoFiles, ARemovedFolderIsMadeAgainWithTheNextMemo) {
+  RemoveDocuments();
+  EXPECT_TRUE(WriteMemo(m_memo, u"\\my documents\\FENNICK\\E.pwi"_qs, "ink"));
+  EXPECT_EQ(AllMemos(m_memo), QStringList(u"E.pwi"_qs));
+}
+
+TEST_F(MemoFiles, NoOtherFolderIsMade) {
+  RemoveDocuments();
+  for (const QString& path : {u"\\My Documents\\Fennicks\\E.pwi"_qs, u"\\Other\\E.pwi"_qs,
+                              u"\\My Documents\\Fennick\\Other\\E.pwi"_qs})
+    EXPECT_FALSE(WriteMemo(m_memo, path, "ink")) << path.toStdString();
+  EXPECT_FALSE(m_files.Exists(u"\\My Documents\\Fennicks"_qs));
+}
+
+TEST_F(MemoFiles, WhereTheFolderCannotBeMadeNothingIsWritten) {
+  RemoveDocuments();
+  ASSERT_TRUE(m_files.WriteWhole(m_memo.Folder, "a file in its place"));
+  EXPECT_FALSE(WriteMemo(m_memo, Path(u"E.pwi"_qs), "ink"));
+}
+
+TEST_F(MemoFiles, AMemoIsChangedOnceItHoldsOtherBytesOrIsGone) {
+  const QString path = Path(u"A.pwi"_qs);
+  EXPECT_FALSE(IsMemoChanged(path, "ink"));
+  EXPECT_TRUE(IsMemoChanged(path, "other"));
+  ASSERT_TRUE(m_files.WriteWhole(path, {}));
+  EXPECT_TRUE(IsMemoChanged(path, "ink"));
+  EXPECT_FALSE(IsMemoChanged(path, {}));
+  ASSERT_TRUE(m_files.Remove(path));
+  EXPECT_TRUE(IsMemoChanged(path, {}));
+}
 
 TEST_F(MemoFiles, ADeletedMemoIsGone) {
   DeleteMemo(m_memo, u"B.pwi"_qs);

@@ -26,6 +26,15 @@ TEST_F(MemoNames, AMemoOfNobodyIsNamedMemo) {
   EXPECT_EQ(NewUnnamedMemoPath(m_memo), u"\\My Documents\\Fennick\\Memo_20040915_093005.pwi"_qs);
 }
 
+TEST_F(MemoNames, TheOwnerOfAProposedPathIsTheContactThatItWasMadeFor) {
+  for (const QString& folder : {m_memo.Folder, u"\\My Documents\\"_qs}) {
+    m_memo.Folder = folder;
+    for (const QString& fileAs : {u"Kim"_qs, u"A_B"_qs, u"김서연"_qs, u"Kim_20040915_093005"_qs})
+      EXPECT_EQ(MemoOwner(m_memo, NewMemoPath(m_memo, fileAs)), fileAs);
+    EXPECT_EQ(MemoOwner(m_memo, NewUnnamedMemoPath(m_memo)), QString());
+  }
+}
+
 TEST_F(MemoNames, TheYearIsNotPadded) {
   m_clock.Set(QDateTime(QDate(987, 1, 2), QTime(3, 4, 5)));
   EXPECT_EQ(NewUnnamedMemoPath(m_memo), u"\\My Documents\\Fennick\\Memo_9870102_030405.pwi"_qs);
@@ -51,6 +60,15 @@ TEST_F(MemoNames, AContactsNameStandsThereAsItIsAndIsRefusedOnlyWhenTheFileIsWri
 TEST_F(MemoNames, PathsInTheFallBackFolderHoldADoubledSeparator) {
   m_memo.Folder = u"\\My Documents\\"_qs;
   EXPECT_EQ(NewMemoPath(m_memo, u"Kim"_qs), u"\\My Documents\\\\Kim_20040915_093005.pwi"_qs);
+}
+
+TEST_F(MemoNames, AFreeCopyIsOfferedThePathOfTheFirstCopyThatIsNotThere) {
+  FixMemoFolder(m_memo);
+  const QString path = MemoPath(m_memo, u"A.pwi"_qs);
+  EXPECT_EQ(FreeMemoCopyPath(path), MemoPath(m_memo, u"A_Copy.pwi"_qs));
+  Put(u"A_Copy.pwi"_qs);
+  Put(u"A_Copy_Copy.pwi"_qs);
+  EXPECT_EQ(FreeMemoCopyPath(path), MemoPath(m_memo, u"A_Copy_Copy_Copy.pwi"_qs));
 }
 
 struct CopyCase {

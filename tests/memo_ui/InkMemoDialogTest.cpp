@@ -46,6 +46,8 @@ class InkMemoDialogTest : public test::MemoFixture {
 };
 
 const QString kQuestion = QStringLiteral("This memo will be deleted. Continue?");
+const QString kMeanwhile =
+    QStringLiteral("The memo was changed meanwhile. Please give this one a new name.");
 const QString kBadName = QStringLiteral("Please check the file name is valid.");
 
 TEST_F(InkMemoDialogTest, IsAFullScreenDialogWithTheMenusAndButtonsOfInk) {
@@ -124,13 +126,18 @@ TEST_F(InkMemoDialogTest, AnExistingMemoWithoutAPathIsLeftInTheBuffer) {
   EXPECT_EQ(g_memo.Buffer, kOther);
 }
 
+// Files that can be read only.
+class FullFiles : public DesktopDeviceFiles {
+ public:
+  using DesktopDeviceFiles::DesktopDeviceFiles;
+  bool WriteWhole(const QString&, const QByteArray&) override { return false; }
+};
+
 TEST_F(InkMemoDialogTest, AnExistingMemoThatCannotBeWrittenStaysOpenWithItsInk) {
   m_prompt.Expect(PromptAnswer::OK);
-  EXPECT_EQ(Edit({[&] {
-                    ASSERT_TRUE(m_home.Files.Remove(Path(u"a.pwi")));
-                    ASSERT_EQ(m_home.Files.CreateFolder(Path(u"a.pwi")), 0);
-                  },
-                  Write(kOther), OK(),
+  FullFiles full({.Device = m_home.Folder.path(),
+                  .MyDocuments = m_home.Folder.filePath(QStringLiteral("My Documents"))});
+  EXPECT_EQ(Edit({Write(kOther), [&] { g_services.Files = &full; }, OK(),
                   [&] {
                     ASSERT_EQ(m_prompt.Shown().size(), 1U);
                     EXPECT_EQ(m_prompt.Shown()[0].Text, kBadName);
@@ -138,6 +145,36 @@ TEST_F(InkMemoDialogTest, AnExistingMemoThatCannotBeWrittenStaysOpenWithItsInk) 
                   },
                   Cancel()}),
             kResultCancel);
+}
+
+TEST_F(InkMemoDialogTest, AMemoThatOthersChangedMeanwhileIsSavedBesideTheirs) {
+  m_prompt.Expect(PromptAnswer::OK);
+  EXPECT_EQ(Edit({Write(kOther), [&] { Put(Path(u"a.pwi"), "theirs"); }, OK(),
+                  [&] {
+                    EXPECT_EQ(m_prompt.Shown()[0].Text, kMeanwhile);
+                    EXPECT_EQ(m_screen->Topmost()->Caption(), QStringLiteral("Save As"));
+                    EnterName(Path(u"b.pwi"));
+                  }}),
+            kResultOK);
+  EXPECT_EQ(m_proposed, Path(u"a_Copy.pwi"));
+  EXPECT_EQ(Content(Path(u"a.pwi")), "theirs");
+  EXPECT_EQ(Content(Path(u"b.pwi")), kOther);
+}
+
+TEST_F(InkMemoDialogTest, AMemoThatOthersRemovedMeanwhileIsGivenANameAnew) {
+  m_prompt.Expect(PromptAnswer::OK);
+  EXPECT_EQ(Edit({Write(kOther), [&] { ASSERT_TRUE(m_home.Files.Remove(Path(u"a.pwi"))); }, OK(),
+                  Name(Path(u"a.pwi"))}),
+            kResultOK);
+  EXPECT_EQ(Content(Path(u"a.pwi")), kOther);
+}
+
+TEST_F(InkMemoDialogTest, AMemoThatWasChangedMeanwhileAndIsGivenNoNameStaysOpen) {
+  m_prompt.Expect(PromptAnswer::OK);
+  EXPECT_EQ(Edit({Write(kOther), [&] { Put(Path(u"a.pwi"), "theirs"); }, OK(), Cancel(),
+                  [&] { EXPECT_EQ(Ink().Data(), kOther); }, Cancel()}),
+            kResultCancel);
+  EXPECT_EQ(Content(Path(u"a.pwi")), "theirs");
 }
 
 TEST_F(InkMemoDialogTest, ANewMemoIsWrittenUnderTheNameThatIsEntered) {
@@ -236,11 +273,18 @@ class InkMemoRecovery : public InkMemoDialogTest {
       EXPECT_TRUE(IsKept());
     };
   }
+  test::Step Type() {
+    return [this] { Ink().Document().Type(0, 0, QStringLiteral("tea")); };
+  }
+  test::Step End() {
+    return [this] { m_screen->CloseAll(); };
+  }
   bool IsKept() const {
     return FindUnsavedInk(InkRecoveryName(Path(u"a.pwi"))).has_value() ||
            FindUnsavedInk(kNewInkRecoveryName.toString()).has_value();
   }
   int EditEmpty(std::vector<test::Step> steps) {
+    Put(Path(u"a.pwi"), {});
     return Run(InkMemoKind::Existing, Path(u"a.pwi"), std::move(steps));
   }
 };
@@ -261,15 +305,34 @@ TEST_F(InkMemoRecovery, NothingIsKeptOfADeletedMemo) {
   EXPECT_FALSE(IsKept());
 }
 
-TEST_F(InkMemoRecovery, TheProgramsEndIsACancelToo) {
-  EXPECT_EQ(EditEmpty({Draw(), [&] { m_screen->CloseAll(); }}), kResultCancel);
+TEST_F(InkMemoRecovery, NothingIsKeptOfANewMemoWhoseInkWasErased) {
+  EXPECT_EQ(WriteNew({Draw(), [&] { Ink().Document().ClearAll(); }, OK()}), kResultCancel);
   EXPECT_FALSE(IsKept());
+}
+
+TEST_F(InkMemoRecovery, WhatTheProgramsEndClosesIsKept) {
+  EXPECT_EQ(EditEmpty({Draw(), Type(), End()}), kResultCancel);
+  const auto kept = FindUnsavedInk(InkRecoveryName(Path(u"a.pwi")));
+  ASSERT_TRUE(kept);
+  EXPECT_EQ(kept->Note.Strokes.size(), 1U);
+  EXPECT_EQ(kept->Note.Text.Text, QStringLiteral("tea"));
+}
+
+TEST_F(InkMemoRecovery, ANewMemoWhoseNameTheProgramsEndClosesIsKept) {
+  EXPECT_EQ(WriteNew({Draw(), OK(), End()}), kResultCancel);
+  EXPECT_TRUE(IsKept());
+}
+
+TEST_F(InkMemoRecovery, WhatWasTypedLastIsKeptOfANewMemoThatIsGivenNoName) {
+  EXPECT_EQ(WriteNew({Type(), OK(), Cancel()}), kResultCancel);
+  const auto kept = FindUnsavedInk(kNewInkRecoveryName.toString());
+  ASSERT_TRUE(kept);
+  EXPECT_EQ(kept->Note.Text.Text, QStringLiteral("tea"));
 }
 
 TEST_F(InkMemoRecovery, ANewMemoThatIsGivenNoNameIsOfferedToTheNext) {
   EXPECT_EQ(WriteNew({Draw(), OK(), Cancel()}), kResultCancel);
   EXPECT_TRUE(IsKept());
-  m_panel.Lower();
   g_memo.Buffer.clear();
   EXPECT_EQ(WriteNew({[&] {
                         ASSERT_NE(Editor().Control(InkIds::kRestore), nullptr);
@@ -284,7 +347,6 @@ TEST_F(InkMemoRecovery, ANewMemoThatIsGivenNoNameIsOfferedToTheNext) {
 
 TEST_F(InkMemoRecovery, TheOfferGivesWayToThePanel) {
   EXPECT_EQ(WriteNew({Draw(), OK(), Cancel()}), kResultCancel);
-  m_panel.Lower();
   g_memo.Buffer.clear();
   WriteNew({[&] {
               EXPECT_NE(Editor().Control(InkIds::kRestore), nullptr);

@@ -83,6 +83,36 @@ TEST_F(NameEntryDlgTest, WorksWithoutAnInputPanel) {
   EXPECT_EQ(m_dialog.DoModal(), kResultOK);
 }
 
+class NameAsking : public NameEntryDlgTest {
+ protected:
+  // Answered by this key.
+  std::optional<QString> Ask(Qt::Key answer) {
+    const Steps steps(*m_screen, {[this, answer] { m_input.Key(answer); }});
+    return AskForName(*m_screen, NameEntryMode::Copy, kPath);
+  }
+};
+
+TEST_F(NameAsking, GivesTheNameThatOKTook) {
+  EXPECT_EQ(Ask(Qt::Key_Return), kPath);
+  EXPECT_FALSE(m_panel.IsUp());
+}
+
+TEST_F(NameAsking, GivesNothingAfterCancelAndThePanelGoesDownWithTheDialog) {
+  EXPECT_EQ(Ask(Qt::Key_Escape), std::nullopt);
+  EXPECT_FALSE(m_panel.IsUp());
+}
+
+TEST_F(NameAsking, APanelThatWasUpBeforeStaysUpAfterCancel) {
+  m_panel.Raise();
+  EXPECT_EQ(Ask(Qt::Key_Escape), std::nullopt);
+  EXPECT_TRUE(m_panel.IsUp());
+}
+
+TEST_F(NameAsking, WorksWithoutAnInputPanel) {
+  g_services.InputPanel = nullptr;
+  EXPECT_EQ(Ask(Qt::Key_Escape), std::nullopt);
+}
+
 TEST_F(NameEntryDlgTest, StandsAboveTheInputPanel) {
   m_panel.Raise();
   EXPECT_LE(m_dialog.geometry().bottom(), m_panel.VisibleArea().bottom());

@@ -25,8 +25,9 @@ QString OfferText(const UnsavedInk& ink) {
   if (ink.Time == 0) return QStringLiteral("Unsaved ink");
   const QDateTime time = QDateTime::fromMSecsSinceEpoch(ink.Time);
   const bool isToday = time.date() == g_services.Clock->Now().date();
-  return QStringLiteral("Unsaved ink from ") +
-         time.toString(isToday ? QStringLiteral("HH:mm") : QStringLiteral("MM/dd"));
+  const QString when = time.toString(isToday ? QStringLiteral("HH:mm") : QStringLiteral("MM/dd"));
+  if (ink.Owner.isEmpty()) return QStringLiteral("Unsaved ink from ") + when;
+  return QStringLiteral("Not saved: %1, %2").arg(ink.Owner, when);
 }
 
 void RemoveFile(const QString& name) {
@@ -36,9 +37,10 @@ void RemoveFile(const QString& name) {
 
 }  // namespace
 
-InkKeeping::InkKeeping(InkX& ink, const QString& name, QWidget& window)
+InkKeeping::InkKeeping(InkX& ink, const QString& name, QWidget& window, const QString& owner)
     : m_ink(ink),
       m_window(window),
+      m_owner(owner),
       m_bar(std::make_unique<COfferBar>(&window, OfferIds{InkIds::kRestore, InkIds::kDiscard})) {
   m_bar->RestoreAsked = [this] { Restore(); };
   m_bar->DiscardAsked = [this] { DropOffer(); };
@@ -58,7 +60,7 @@ void InkKeeping::FindOffers(const QString& name) {
       free = file;
   }
   if (free.isEmpty()) free = FileName(name, kFiles);
-  m_recovery = std::make_unique<InkRecovery>(m_ink.Document(), free);
+  m_recovery = std::make_unique<InkRecovery>(m_ink.Document(), free, m_owner);
 }
 
 void InkKeeping::PlaceBar() {
@@ -71,7 +73,7 @@ void InkKeeping::Restore() {
   const Offer offer = std::move(m_offers.front());
   m_offers.pop_front();
   m_recovery->Discard();
-  m_recovery = std::make_unique<InkRecovery>(m_ink.Document(), offer.Name);
+  m_recovery = std::make_unique<InkRecovery>(m_ink.Document(), offer.Name, m_owner);
   m_ink.Document().Replace(offer.Ink.Note);
   m_ink.setFocus(Qt::ActiveWindowFocusReason);
   PlaceBar();

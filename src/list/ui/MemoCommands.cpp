@@ -36,9 +36,9 @@ void AskForPath(CContactsView& view, NameEntryMode mode, QString (*preset)(const
   const auto name = CurrentMemo();
   if (!name) return;
   const QString path = MemoPath(g_memo, *name);
-  CNameEntryDlg dialog(*ScreenAround(&view), mode, preset(path));
-  if (dialog.DoModal() != kResultOK) return;
-  action(path, dialog.Text());
+  const auto entered = AskForName(*ScreenAround(&view), mode, preset(path));
+  if (!entered) return;
+  action(path, *entered);
   view.Rebuild();
 }
 

@@ -6,7 +6,8 @@
 #include "ink/ui/InkKeeping.h"
 #include "ink/ui/InkX.h"
 #include "memo/MemoDeletion.h"
-#include "memo/MemoState.h"
+#include "memo/MemoFiles.h"
+#include "memo/MemoNames.h"
 #include "platform/DeviceFiles.h"
 #include "platform/Prompt.h"
 #include "platform/Services.h"
@@ -27,9 +28,9 @@ CInkMemoDialog::CInkMemoDialog(CScreen& screen, const QString& path, InkMemoKind
   SetCaption(QStringLiteral("Memo"));
 }
 
-// However it ended, the note is saved or given up; also with the program.
+// What is closed with the program was not given up.
 CInkMemoDialog::~CInkMemoDialog() {
-  if (m_keeping) m_keeping->Discard();
+  if (m_keeping && m_isDecided) m_keeping->Discard();
 }
 
 void CInkMemoDialog::OnInitDialog() {
@@ -37,9 +38,12 @@ void CInkMemoDialog::OnInitDialog() {
   m_ink->setGeometry(rect().adjusted(0, 0, 0, -kRoomBelow));
   m_editing = std::make_unique<InkEditing>(*m_ink, [this] { DeleteNote(); });
   ShowInkAsPage(*m_ink);
-  PutInkIn(*m_ink, g_memo.Buffer);
+  m_opened = g_memo.Buffer;
+  PutInkIn(*m_ink, m_opened);
   const QString name = RecoveryName();
-  if (!name.isEmpty()) m_keeping = std::make_unique<InkKeeping>(*m_ink, name, *this);
+  if (name.isEmpty()) return;
+  const QString owner = m_kind == InkMemoKind::New ? MemoOwner(g_memo, m_path) : QString();
+  m_keeping = std::make_unique<InkKeeping>(*m_ink, name, *this, owner);
 }
 
 // Whoever opened an existing memo without a path keeps it.
@@ -66,20 +70,38 @@ CommandRoute CInkMemoDialog::Route() const {
 
 void CInkMemoDialog::OnOK() {
   g_memo.Buffer = TakeInkOut(*m_ink);
-  m_kind == InkMemoKind::New ? SaveNew() : Save(m_path);
+  m_kind == InkMemoKind::New ? SaveNew() : SaveExisting();
 }
 
+void CInkMemoDialog::OnCancel() { Decide(kResultCancel); }
+
+void CInkMemoDialog::Decide(int result) {
+  m_isDecided = true;
+  EndDialog(result);
+}
+
+// Ink that is given no name is not given up either.
 void CInkMemoDialog::SaveNew() {
-  if (g_memo.Buffer.isEmpty()) return EndDialog(kResultCancel);
-  CNameEntryDlg dialog(Screen(), NameEntryMode::Save, m_path);
-  if (dialog.DoModal() == kResultOK) return Save(dialog.Text());
-  m_keeping.reset();  // its file stays
-  EndDialog(kResultCancel);
+  if (g_memo.Buffer.isEmpty()) return Decide(kResultCancel);
+  const auto path = AskForName(Screen(), NameEntryMode::Save, m_path);
+  path ? Save(*path) : EndDialog(kResultCancel);
+}
+
+void CInkMemoDialog::SaveExisting() {
+  if (m_path.isEmpty()) return Decide(kResultOK);
+  IsMemoChanged(m_path, m_opened) ? SaveBeside() : Save(m_path);
+}
+
+// Without a name the editor stays open: only the user's own Cancel gives up what is on the page.
+void CInkMemoDialog::SaveBeside() {
+  g_services.Prompt->Show(
+      {.Text = QStringLiteral("The memo was changed meanwhile. Please give this one a new name.")});
+  const auto path = AskForName(Screen(), NameEntryMode::Save, FreeMemoCopyPath(m_path));
+  if (path) Save(*path);
 }
 
 void CInkMemoDialog::Save(const QString& path) {
-  const bool isFile = m_kind == InkMemoKind::New || !path.isEmpty();
-  if (!isFile || g_services.Files->WriteWhole(path, g_memo.Buffer)) return EndDialog(kResultOK);
+  if (WriteMemo(g_memo, path, g_memo.Buffer)) return Decide(kResultOK);
   g_services.Prompt->Show({.Text = QStringLiteral("Please check the file name is valid.")});
 }
 
@@ -90,7 +112,7 @@ void CInkMemoDialog::DeleteNote() {
   const bool isFile = m_kind == InkMemoKind::Existing && !m_path.isEmpty();
   // What cannot be removed stays, and is listed again.
   if (isFile) g_services.Files->Remove(m_path);
-  EndDialog(isFile ? kResultCancel : kResultOK);
+  Decide(isFile ? kResultCancel : kResultOK);
 }
 
 // The event of the first showing tells of no change: the control has its place already.

@@ -26,11 +26,14 @@ class CInkMemoDialog : public CModalWindow {
   ControlMap Controls() const override;
   MenuBarModel MenuBar() const override;
   CommandRoute Route() const override;
-  // Writes the file and ends with OK; of a new memo the user names the file first. A new memo with
+  // Writes the file and ends with OK; of a new memo the user names the file first, and of one that
+  // others changed or removed while it was open, so that both versions stay. A new memo with
   // nothing on its page, and one that is given no name, end with Cancel and make no file; what was
-  // given no name is offered to the next new memo. Where the file cannot be written the user is
+  // given no name is offered to the next new memo, and what was open when the program ended is
+  // offered again too. Where the file cannot be written the user is
   // told, and the editor stays open.
   void OnOK() override;
+  void OnCancel() override;
   void OnVisibleAreaChanged(QRect area) override { setGeometry(area); }
 
  protected:
@@ -40,15 +43,20 @@ class CInkMemoDialog : public CModalWindow {
 
  private:
   void SaveNew();
+  void SaveExisting();
+  void SaveBeside();
   void Save(const QString& path);
   void DeleteNote();
+  void Decide(int result);
   QString RecoveryName() const;
 
   const QString m_path;
   const InkMemoKind m_kind;
+  QByteArray m_opened;                    // what the memo held then
   InkX* m_ink = nullptr;                  // a child, made by OnInitDialog
   std::unique_ptr<InkEditing> m_editing;  // of m_ink
   std::unique_ptr<InkKeeping> m_keeping;  // of m_ink; null when it is not a file's
+  bool m_isDecided = false;               // by the user: saved, cancelled or deleted
 };
 
 }  // namespace quill

@@ -50,4 +50,13 @@ void CNameEntryDlg::OnOK() {
   CDialog::OnOK();
 }
 
+std::optional<QString> AskForName(CScreen& screen, NameEntryMode mode, const QString& preset) {
+  InputPanel* const panel = g_services.InputPanel;
+  const bool wasUp = panel && panel->IsUp();
+  CNameEntryDlg dialog(screen, mode, preset);
+  if (dialog.DoModal() == kResultOK) return dialog.Text();
+  if (panel && !wasUp) panel->Lower();
+  return std::nullopt;
+}
+
 }  // namespace quill

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <optional>
+
 #include "platform/ui/Dialog.h"
 
 class QLineEdit;
@@ -30,5 +32,9 @@ class CNameEntryDlg : public CDialog {
 
   QString m_text;
 };
+
+// Runs the dialog; nothing after Cancel. A panel that came up for it goes down with it then, too:
+// there is nothing more to type.
+std::optional<QString> AskForName(CScreen& screen, NameEntryMode mode, const QString& preset);
 
 }  // namespace quill
