@@ -10,14 +10,6 @@ namespace quill {
 
 namespace {
 
-// -1 when the item is not on the page.
-int RowOfKey(const ListState& list, int key) {
-  const int rows = std::min(SelectableRows(list), list.RowsPerPage);
-  for (int row = 0; row < rows; ++row)
-    if (KeyOfRow(list, row) == key) return row;
-  return -1;
-}
-
 // The contact is there, and the filter in force lets it through: asked of the contact alone, since
 // looking for it in the list would read all of the list.
 bool IsListed(const ListState& list, Oid oid) {
@@ -48,6 +40,13 @@ bool IsSelectableRow(const ListState& list, int row) {
 int KeyOfRow(const ListState& list, int row) {
   if (list.Mode == ViewMode::ByMemo) return list.Top + row;
   return list.Rows[static_cast<std::size_t>(row)].Oid;
+}
+
+int RowOfKey(const ListState& list, int key) {
+  const int rows = std::min(SelectableRows(list), list.RowsPerPage);
+  for (int row = 0; row < rows; ++row)
+    if (KeyOfRow(list, row) == key) return row;
+  return -1;
 }
 
 bool IsKeySelected(const ListState& list, int key) {

@@ -1,5 +1,6 @@
 #include "platform/ui/OfferBar.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPaintEvent>
 #include <QPainter>
@@ -38,6 +39,7 @@ COfferBar::COfferBar(QWidget* window, OfferIds ids)
   setVisible(false);
   m_text->setGeometry(kTextArea);
   m_text->setTextFormat(Qt::PlainText);
+  window->installEventFilter(this);
   connect(m_restore, &QPushButton::clicked, this, [this] { RestoreAsked(); });
   connect(m_discard, &QPushButton::clicked, this, [this] { DiscardAsked(); });
 }
@@ -53,6 +55,15 @@ void COfferBar::Offer(const QString& text, const QRect& area) {
 ControlMap COfferBar::Controls() const {
   if (isHidden()) return {};
   return {{m_ids.Restore, m_restore}, {m_ids.Discard, m_discard}};
+}
+
+bool COfferBar::eventFilter(QObject*, QEvent* event) {
+  if (event->type() != QEvent::KeyPress || isHidden()) return false;
+  const QKeyCombination keys = static_cast<QKeyEvent*>(event)->keyCombination();
+  const bool restores = keys == QKeyCombination(Qt::CTRL, Qt::Key_R);
+  if (!restores && keys != QKeyCombination(Qt::CTRL, Qt::Key_D)) return false;
+  (restores ? m_restore : m_discard)->click();
+  return true;
 }
 
 void COfferBar::paintEvent(QPaintEvent* event) {

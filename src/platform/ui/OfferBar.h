@@ -1,5 +1,6 @@
 // Offers something that was not saved over the lower end of a window: to take it back, or to throw
-// it away. It moves nothing of the window.
+// it away. It moves nothing of the window. Ctrl+R and Ctrl+D do the same, wherever in the window
+// the focus is.
 #pragma once
 
 #include <QWidget>
@@ -33,6 +34,7 @@ class COfferBar : public QWidget {
   std::function<void()> DiscardAsked;
 
  protected:
+  bool eventFilter(QObject* window, QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
