@@ -23,6 +23,7 @@ OperationTable AllOperations() {
   Append(table, RevealOperations());
   Append(table, SheetOperations());
   Append(table, PaintOperations());
+  Append(table, AccessibleOperations());
   Append(table, ListOperations());
   Append(table, StoreOperations());
   Append(table, AppointmentOperations());

@@ -53,6 +53,7 @@ OperationTable ControlOperations();
 OperationTable RevealOperations();
 OperationTable SheetOperations();
 OperationTable PaintOperations();
+OperationTable AccessibleOperations();
 OperationTable ListOperations();
 OperationTable StoreOperations();
 OperationTable AppointmentOperations();

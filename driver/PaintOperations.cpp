@@ -25,6 +25,7 @@ QJsonObject TextJson(const RecordedText& text, QPoint origin) {
   QJsonObject object = RectangleJson(text.Box.toAlignedRect().translated(-origin));
   object.insert(u"text", text.Text);
   object.insert(u"color", text.Color.name());
+  if (IsCut(text)) object.insert(u"cut", true);
   return object;
 }
 

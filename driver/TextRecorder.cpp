@@ -9,9 +9,15 @@ namespace quill::driver {
 namespace {
 
 constexpr int kDotsPerInch = 96;
+constexpr qreal kHiddenEdge = 1.5;  // pixels
 constexpr qreal kSameColumn = 0.5;  // pixels between a piece and the next one of the same text
 
 }  // namespace
+
+bool IsCut(const RecordedText& text) {
+  return text.Box.left() < text.Shown.left() - kHiddenEdge ||
+         text.Box.right() > text.Shown.right() + kHiddenEdge;
+}
 
 TextPaintEngine::TextPaintEngine() : QPaintEngine(AllFeatures) {}
 
@@ -33,8 +39,9 @@ void TextPaintEngine::drawTextItem(const QPointF& at, const QTextItem& item) {
     if (Continues(start, item)) {
       m_texts.back().Text += item.text();
       m_texts.back().Box |= box;
+      m_texts.back().Shown |= box & clip;
     } else {
-      m_texts.push_back({item.text(), box, painter()->pen().color()});
+      m_texts.push_back({item.text(), box, box & clip, painter()->pen().color()});
     }
     m_last = {start.y(), start.x() + item.width(), item.font()};
   }

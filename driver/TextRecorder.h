@@ -11,12 +11,17 @@
 
 namespace quill::driver {
 
-// A text with its bounding box, in logical pixels of the device.
+// A text with its bounding box, in logical pixels of the device, and the part of it that clipping
+// lets through.
 struct RecordedText {
   QString Text;
   QRectF Box;
+  QRectF Shown;
   QColor Color;
 };
+
+// True when letters are missing at an end: more than what a slanted or rounded edge hides.
+bool IsCut(const RecordedText& text);
 
 class TextPaintEngine : public QPaintEngine {
  public:

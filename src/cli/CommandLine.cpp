@@ -4,6 +4,8 @@
 #include <array>
 #include <vector>
 
+#include "platform/Shortcuts.h"
+
 namespace quill {
 namespace {
 
@@ -176,6 +178,19 @@ QString VerbHelp(const Verb& verb) {
   return text + HelpLines(QStringLiteral("Options:"), rows);
 }
 
+QString ShortcutHelp() {
+  QString text = QStringLiteral("\nKeys of the window:\n");
+  std::vector<HelpRow> rows;
+  for (const Shortcut& shortcut : Shortcuts()) {
+    if (&shortcut != Shortcuts().data() && shortcut.Place != (&shortcut - 1)->Place) {
+      text += HelpLines(NameOf((&shortcut - 1)->Place).toString() + u':', rows);
+      rows.clear();
+    }
+    rows.push_back({shortcut.Keys.toString(), shortcut.Does});
+  }
+  return text + HelpLines(NameOf(Shortcuts().back().Place).toString() + u':', rows);
+}
+
 }  // namespace
 
 CommandLine ParseCommandLine(const QStringList& words) {
@@ -213,7 +228,7 @@ QString HelpText(const Verb* verb) {
              "                     of memos (.pwi) it opens the editor\n"
              "quill COMMAND ...    do something without a window\n") +
          HelpLines(QStringLiteral("Commands (quill COMMAND --help tells more):"), verbs) +
-         HelpLines(QStringLiteral("Options:"), options);
+         HelpLines(QStringLiteral("Options:"), options) + ShortcutHelp();
 }
 
 }  // namespace quill

@@ -44,6 +44,16 @@ PaintedRow LayOutNothing() {
                      .Color = kCardColor}}};
 }
 
+// As many lines as there is room for; the last one ends with dots where there is more.
+QStringList FitLines(const CardLine& line, const TextWidth& width) {
+  if (line.Height == 1) return {ElideText(OnOneLine(line.Text), kValueWidth, width)};
+  QStringList lines = WrapLines(line.Text, kValueWidth, width);
+  if (lines.size() <= line.Height) return lines;
+  const QString rest = lines.mid(line.Height - 1).join(u' ');
+  lines = lines.mid(0, line.Height - 1);
+  return lines << ElideText(rest, kValueWidth, width);
+}
+
 PaintedRow LayOutLine(const CardLine& line, int first, const TextWidth& width) {
   const QString label = line.Label.toString();
   PaintedRow row{
@@ -54,9 +64,7 @@ PaintedRow LayOutLine(const CardLine& line, int first, const TextWidth& width) {
                        .Text = label,
                        .Alignment = TextAlign::Right,
                        .Color = kCardColor});
-  const QStringList texts = line.Height == 1
-                                ? QStringList(line.Text)
-                                : WrapLines(line.Text, kValueWidth, width).mid(0, line.Height);
+  const QStringList texts = FitLines(line, width);
   for (int i = 0; i < texts.size(); ++i) row.Items.push_back(ValueLine(first + i, texts[i]));
   return row;
 }

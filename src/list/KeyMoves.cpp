@@ -31,6 +31,23 @@ void ScrollAndSelect(ListState& list, int top, int row) {
   SelectNearest(list, row);
 }
 
+// Where a move on the page leads from this row.
+int RowOnPageAfter(const ListState& list, int row, KeyMove move) {
+  switch (move) {
+    case KeyMove::LineUp:
+      return std::max(row - 1, 0);
+    case KeyMove::LineDown:
+      return std::min(row + 1, LastRowOfPage(list));
+    case KeyMove::PageUp:
+    case KeyMove::First:
+      return 0;
+    case KeyMove::PageDown:
+    case KeyMove::Last:
+      return LastRowOfPage(list);
+  }
+  Q_UNREACHABLE();
+}
+
 }  // namespace
 
 void MoveCurrentRow(ListState& list, KeyMove move) {
@@ -50,6 +67,14 @@ void MoveCurrentRow(ListState& list, KeyMove move) {
     case KeyMove::Last:
       return ScrollAndSelect(list, LargestTop(list), list.RowsPerPage);
   }
+}
+
+void ExtendSelection(ListState& list, KeyMove move) {
+  if (list.SelectedKeys.empty()) return MoveCurrentRow(list, move);
+  const int anchor = RowOfKey(list, list.SelectedKeys.front());
+  const int end = RowOfKey(list, list.SelectedKeys.back());
+  if (anchor < 0 || end < 0) return MoveCurrentRow(list, move);
+  SelectRun(list, anchor, RowOnPageAfter(list, end, move));
 }
 
 }  // namespace quill

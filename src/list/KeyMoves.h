@@ -12,4 +12,8 @@ enum class KeyMove { LineUp, LineDown, PageUp, PageDown, First, Last };
 // the page, and a page scrolls without selecting.
 void MoveCurrentRow(ListState& list, KeyMove move);
 
+// The run of selected rows grows or shrinks at the end that is not its first row, within the page.
+// Without a selection on the page this is a plain move.
+void ExtendSelection(ListState& list, KeyMove move);
+
 }  // namespace quill

@@ -78,18 +78,18 @@ PaintedRow LayOutContact(const ListState& list, int n, const TextWidth& width) {
   PaintedRow painted = LayOutRow(list, n, SpokenName(texts));
   painted.Items.push_back({.Rectangle = ColumnRectangle(n, kFirstColumn, kFirstColumnWidth),
                            .Text = ShortenText(texts.First, kListNameWidth, width)});
-  painted.Items.push_back(
-      {.Rectangle = ColumnRectangle(n, kSecondColumn, kSecondColumnWidth), .Text = texts.Second});
+  painted.Items.push_back({.Rectangle = ColumnRectangle(n, kSecondColumn, kSecondColumnWidth),
+                           .Text = ElideText(OnOneLine(texts.Second), kSecondColumnWidth, width)});
   if (const resources::Picture* const picture = RowPicture(row.Icon))
     painted.Items.push_back(Icon(n, *picture));
   painted.Items.push_back(Separator(n));
   return painted;
 }
 
-PaintedRow LayOutMemo(const ListState& list, int n, const QString& name) {
+PaintedRow LayOutMemo(const ListState& list, int n, const QString& name, const TextWidth& width) {
   PaintedRow painted = LayOutRow(list, n, name);
-  painted.Items.push_back(
-      {.Rectangle = ColumnRectangle(n, kFirstColumn, kWholeColumnWidth), .Text = name});
+  painted.Items.push_back({.Rectangle = ColumnRectangle(n, kFirstColumn, kWholeColumnWidth),
+                           .Text = ElideText(name, kWholeColumnWidth, width)});
   painted.Items.push_back(Separator(n));
   return painted;
 }
@@ -124,7 +124,7 @@ std::vector<PaintedRow> LayOutList(const ListState& list, const QStringList& mem
   rows.reserve(static_cast<std::size_t>(list.RowsPerPage));
   for (int n = 0; n < count; ++n)
     rows.push_back(list.Mode == ViewMode::ByMemo
-                       ? LayOutMemo(list, n, memoNames.value(list.Top + n))
+                       ? LayOutMemo(list, n, memoNames.value(list.Top + n), width)
                        : LayOutContact(list, n, width));
   if (count < list.RowsPerPage) rows.push_back(LayOutEnd(count));
   return rows;

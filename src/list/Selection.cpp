@@ -6,14 +6,6 @@ namespace quill {
 
 namespace {
 
-// -1 when the item is not on the page.
-int RowOfKey(const ListState& list, int key) {
-  const int rows = std::min(SelectableRows(list), list.RowsPerPage);
-  for (int row = 0; row < rows; ++row)
-    if (KeyOfRow(list, row) == key) return row;
-  return -1;
-}
-
 bool IsItemShown(const ListState& list, int key) {
   return list.Mode == ViewMode::ByMemo ? key < list.Total : RowOfKey(list, key) >= 0;
 }
@@ -33,6 +25,13 @@ bool IsSelectableRow(const ListState& list, int row) {
 int KeyOfRow(const ListState& list, int row) {
   if (list.Mode == ViewMode::ByMemo) return list.Top + row;
   return list.Rows[static_cast<std::size_t>(row)].Oid;
+}
+
+int RowOfKey(const ListState& list, int key) {
+  const int rows = std::min(SelectableRows(list), list.RowsPerPage);
+  for (int row = 0; row < rows; ++row)
+    if (KeyOfRow(list, row) == key) return row;
+  return -1;
 }
 
 bool IsKeySelected(const ListState& list, int key) {

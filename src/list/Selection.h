@@ -16,6 +16,8 @@ bool IsSelectableRow(const ListState& list, int row);
 
 // The row must be selectable.
 int KeyOfRow(const ListState& list, int row);
+// -1 when the item is not on the page.
+int RowOfKey(const ListState& list, int key);
 
 bool IsKeySelected(const ListState& list, int key);
 // The current row when it alone is selected, else -1: what a single tap's commands act on.

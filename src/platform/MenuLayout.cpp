@@ -76,7 +76,7 @@ void AddSeparator(PaintedRow& row) {
   row.Items.push_back({.Rectangle = {area.left(), area.top() + 2, area.width(), 1}, .Fill = kLine});
 }
 
-void AddItem(PaintedRow& row, const MenuItem& item) {
+void AddItem(PaintedRow& row, const MenuItem& item, const TextWidth& width) {
   const QRect area = row.Rectangle;
   const Rgb color = item.Enabled ? kTextColor : kDisabledColor;
   const int pictureTop = area.top() + (area.height() - kPictureSize) / 2;
@@ -86,8 +86,9 @@ void AddItem(PaintedRow& row, const MenuItem& item) {
     row.Items.push_back({.Rectangle = {area.left() + 1, pictureTop, kPictureSize, kPictureSize},
                          .Color = color,
                          .Picture = &resources::kCheckPicture});
-  row.Items.push_back({.Rectangle = area.adjusted(kCheckColumn, 0, -kArrowColumn, 0),
-                       .Text = item.Text,
+  const QRect text = area.adjusted(kCheckColumn, 0, -kArrowColumn, 0);
+  row.Items.push_back({.Rectangle = text,
+                       .Text = ElideText(OnOneLine(item.Text), text.width(), width),
                        .Color = color});
   if (!item.Items.empty())
     row.Items.push_back(
@@ -96,7 +97,8 @@ void AddItem(PaintedRow& row, const MenuItem& item) {
          .Picture = &resources::kRightPicture});
 }
 
-PaintedRow MakeRow(const MenuItem& item, int key, QRect area, bool current) {
+PaintedRow MakeRow(const MenuItem& item, int key, QRect area, bool current,
+                   const TextWidth& width) {
   PaintedRow row{.Rectangle = area,
                  .Key = key,
                  .SpokenName = item.Text,
@@ -105,7 +107,7 @@ PaintedRow MakeRow(const MenuItem& item, int key, QRect area, bool current) {
   if (item.Separator)
     AddSeparator(row);
   else
-    AddItem(row, item);
+    AddItem(row, item, width);
   return row;
 }
 
@@ -133,7 +135,7 @@ MenuLayout LayOutMenu(const std::vector<MenuItem>& items, const MenuLayoutReques
   for (int i = layout.FirstItem; i <= layout.LastItem; ++i) {
     const MenuItem& item = items[static_cast<std::size_t>(i)];
     layout.Rows.push_back(
-        MakeRow(item, i, {kBorder, y, inner, RowHeight(item)}, i == request.Current));
+        MakeRow(item, i, {kBorder, y, inner, RowHeight(item)}, i == request.Current, width));
     y += RowHeight(item);
   }
   return layout;

@@ -12,9 +12,12 @@
 #include "list/ui/CategoryCommands.h"
 #include "list/ui/ContactCommands.h"
 #include "list/ui/LinkedItemCommands.h"
+#include "list/ui/ListKeyCommands.h"
 #include "list/ui/MemoCommands.h"
 #include "list/ui/SettingsCommands.h"
 #include "list/ui/ViewModeCommands.h"
+#include "platform/Shortcuts.h"
+#include "resources/KeyCommandIds.h"
 #include "resources/Menus.h"
 
 namespace quill {
@@ -29,6 +32,18 @@ const std::map<int, const char*> kSenders = {
     {ContactsViewIds::kSearchButton, "the search button"},
     {ID_SHELL_INPUT_PANEL, "the menu bar's button"},
     {ID_SHELL_STOP_RECEIVING, "the marker in the title bar"},
+    {ID_KEY_OK, "a key"},
+    {ID_KEY_CLOSE, "a key"},
+    {ID_KEY_MENU_BAR, "a key"},
+    {ID_KEY_CONTEXT_MENU, "a key"},
+    {ID_KEY_TITLE_MENU, "a key"},
+    {ID_KEY_SEARCH, "a key"},
+    {ID_KEY_CATEGORIES, "a key"},
+    {ID_KEY_INDEX_FIRST, "a key"},
+    {ID_KEY_INDEX_FIRST + 1, "a key"},
+    {ID_KEY_INDEX_FIRST + 2, "a key"},
+    {ID_KEY_INDEX_FIRST + 3, "a key"},
+    {ID_KEY_INDEX_LAST, "a key"},
 };
 
 template <class Entries>
@@ -79,9 +94,11 @@ class CommandTableTest : public test::FrameFixture {
     const auto modes = MakeViewModeCommands(view);
     const auto categories = MakeCategoryCommands(view);
     const auto settings = MakeSettingsCommands(view);
+    const auto keys = MakeListKeyCommands(view);
     const std::vector<const CommandTarget*> targets = {
-        contacts.get(),   linkedItems.get(), memos.get(),      modes.get(),
-        categories.get(), settings.get(),    &m_shellCommands, &m_screen->ScreenCommands()};
+        contacts.get(), linkedItems.get(), memos.get(),
+        modes.get(),    categories.get(),  settings.get(),
+        keys.get(),     &m_shellCommands,  &m_screen->ScreenCommands()};
     for (const CommandTarget* target : targets)
       rows.insert(rows.end(), target->Rows().begin(), target->Rows().end());
     return rows;
@@ -108,6 +125,15 @@ TEST_F(CommandTableTest, EveryRowHasAMenuItemOrASender) {
   for (const CommandRow& row : AllRows())
     for (int id = row.First; id <= row.Last; ++id)
       EXPECT_TRUE(items.contains(id) || kSenders.contains(id)) << id;
+}
+
+// The note's two are on the routes of the memo editor and the memo page.
+TEST_F(CommandTableTest, EveryKeysCommandHasARow) {
+  const CommandRoute route = WholeRoute();
+  for (const Shortcut& shortcut : Shortcuts()) {
+    if (shortcut.Command == 0 || shortcut.Place == ShortcutPlace::Note) continue;
+    EXPECT_EQ(route.Rows(shortcut.Command).size(), 1U) << shortcut.Keys.toString().toStdString();
+  }
 }
 
 TEST_F(CommandTableTest, NoItemStandsInTwoMenus) {

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "platform/Shortcuts.h"
+
 namespace quill {
 namespace {
 
@@ -161,6 +165,17 @@ TEST(Verbs, AreFoundByTheirWholeName) {
   EXPECT_FALSE(FindVerb(u"lis"_qs));
   EXPECT_FALSE(FindVerb(u"List"_qs));
   EXPECT_FALSE(FindVerb(QString()));
+}
+
+TEST(HelpText, NamesTheKeysOfTheWindow) {
+  const QStringList lines = HelpText(nullptr).split(u'\n');
+  for (const Shortcut& shortcut : Shortcuts()) {
+    EXPECT_TRUE(std::ranges::any_of(lines, [&shortcut](const QString& line) {
+      return line.startsWith(u"  "_qs + shortcut.Keys.toString() + u' ') &&
+             line.endsWith(u' ' + shortcut.Does.toString());
+    })) << shortcut.Keys.toString().toStdString();
+    EXPECT_TRUE(lines.contains(NameOf(shortcut.Place).toString() + u':'));
+  }
 }
 
 }  // namespace

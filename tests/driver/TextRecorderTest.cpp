@@ -87,3 +87,17 @@ TEST(TextRecorder, ReadsAWidgetWithItsChildren) {
   EXPECT_NEAR(recorder.Texts().front().Box.left(), 20, 2);
   EXPECT_TRUE(QRectF(20, 30, 100, 20).contains(recorder.Texts().front().Box.center()));
 }
+
+TEST(TextRecorder, SaysWhichTextsAreCut) {
+  TextRecorder recorder({200, 50});
+  QPainter painter(&recorder);
+  painter.setFont(Plain());
+  painter.drawText(QPointF(0, 20), QStringLiteral("whole"));
+  painter.setClipRect(QRect(0, 0, 20, 50));
+  painter.drawText(QPointF(0, 40), QStringLiteral("longer than that"));
+  painter.end();
+  ASSERT_EQ(recorder.Texts().size(), 2U);
+  EXPECT_FALSE(IsCut(recorder.Texts()[0]));
+  EXPECT_TRUE(IsCut(recorder.Texts()[1]));
+  EXPECT_DOUBLE_EQ(recorder.Texts()[1].Shown.right(), 20);
+}

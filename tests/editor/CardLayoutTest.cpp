@@ -116,5 +116,19 @@ TEST(CardLayout, WithNothingToShowItSaysSo) {
   EXPECT_EQ(texts[0].Alignment, TextAlign::Centre);
 }
 
+TEST(CardLayout, ALongLineEndsWithDotsThatFit) {
+  const auto rows = LayOutCard({{u"Cell:", QStringLiteral("010-1234-5678")}}, TenEach);
+  EXPECT_EQ(TextsOf(rows[1])[1].Text, QStringLiteral("010-12345..."));
+  EXPECT_EQ(rows[1].SpokenName, QStringLiteral("Cell: 010-1234-5678"));
+}
+
+TEST(CardLayout, AnAddressOfMoreThanItsLinesEndsWithDots) {
+  const QString address = QStringLiteral("one two, three four, five six, seven eight, nine ten");
+  const auto texts = TextsOf(LayOutCard({{u"W.Adr:", address, 4}}, TenEach)[1]);
+  ASSERT_EQ(texts.size(), 5U);
+  EXPECT_EQ(texts[1].Text, QStringLiteral("one two,"));
+  EXPECT_TRUE(texts[4].Text.endsWith(QStringLiteral("..."))) << texts[4].Text.toStdString();
+}
+
 }  // namespace
 }  // namespace quill

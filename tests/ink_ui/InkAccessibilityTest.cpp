@@ -3,6 +3,7 @@
 #include <QAccessible>
 
 #include "ink_ui/InkFixture.h"
+#include "support/AccessibleEvents.h"
 
 namespace quill {
 namespace {
@@ -32,6 +33,55 @@ TEST_F(InkAccessibilityTest, TheNoticeIsSpokenAndALockedNoteIsReadOnly) {
   EXPECT_EQ(Say(QAccessible::Description),
             QStringLiteral("This is no note; it is kept as it is. 0 strokes"));
   EXPECT_TRUE(Spoken().state().readOnly);
+}
+
+TEST_F(InkAccessibilityTest, WhatIsTypedAndDeletedIsToldWithItsPlace) {
+  Type(QStringLiteral("Kim"));
+  QStringList told;
+  std::vector<int> carets;
+  const test::AccessibleEvents events([&](QAccessibleEvent& event) {
+    if (event.object() != m_ink) return;
+    if (event.type() == QAccessible::TextUpdated) {
+      const auto& text = static_cast<QAccessibleTextUpdateEvent&>(event);
+      told << QStringLiteral("%1: %2 -> %3")
+                  .arg(text.changePosition())
+                  .arg(text.textRemoved(), text.textInserted());
+    }
+    if (event.type() == QAccessible::TextCaretMoved)
+      carets.push_back(static_cast<QAccessibleTextCursorEvent&>(event).cursorPosition());
+  });
+  Input({}, QStringLiteral("철수"));
+  Key(Qt::Key_Home);
+  Key(Qt::Key_Delete);
+  EXPECT_EQ(told, QStringList({QStringLiteral("3:  -> 철수"), QStringLiteral("0: K -> ")}));
+  EXPECT_EQ(carets, (std::vector<int>{5, 0, 0}));
+}
+
+TEST_F(InkAccessibilityTest, ItsTextIsReadWithCaretAndSelection) {
+  Type(QStringLiteral("Kim Lee"));
+  Key(Qt::Key_Left, Qt::ShiftModifier);
+  Key(Qt::Key_Left, Qt::ShiftModifier);
+  QAccessibleTextInterface* const text = Spoken().textInterface();
+  ASSERT_NE(text, nullptr);
+  EXPECT_EQ(text->characterCount(), 7);
+  EXPECT_EQ(text->text(4, 7), QStringLiteral("Lee"));
+  EXPECT_EQ(text->cursorPosition(), 5);
+  EXPECT_EQ(text->selectionCount(), 1);
+  int from = 0;
+  int to = 0;
+  text->selection(0, &from, &to);
+  EXPECT_EQ(from, 5);
+  EXPECT_EQ(to, 7);
+}
+
+TEST_F(InkAccessibilityTest, ACharacterIsFoundWhereItStands) {
+  Type(QStringLiteral("Kim Lee"));
+  QAccessibleTextInterface* const text = Spoken().textInterface();
+  for (const int at : {0, 3, 6}) {
+    const QRect place = text->characterRect(at);
+    EXPECT_FALSE(place.isEmpty());
+    EXPECT_EQ(text->offsetAtPoint(place.center()), at);
+  }
 }
 
 }  // namespace

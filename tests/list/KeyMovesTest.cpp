@@ -111,5 +111,54 @@ TEST(KeyMoves, OverMemosTheyReachTheLastOneOnThePageAndScroll) {
   EXPECT_EQ(list.SelectedKeys, std::vector<int>{19});
 }
 
+struct ExtendCase {
+  KeyMove Move;
+  int Anchor;
+  int End;
+  int EndAfterwards;
+};
+
+class ExtendTest : public test::ListTest, public testing::WithParamInterface<ExtendCase> {};
+
+TEST_P(ExtendTest, MovesTheEndOfTheRunWithinThePage) {
+  const ExtendCase& extend = GetParam();
+  AddNumbered(kContacts);
+  m_list.Top = 5;
+  BuildPage(m_list);
+  SelectRun(m_list, extend.Anchor, extend.End);
+  ExtendSelection(m_list, extend.Move);
+  ListState expected = m_list;
+  SelectRun(expected, extend.Anchor, extend.EndAfterwards);
+  EXPECT_EQ(m_list.SelectedKeys, expected.SelectedKeys);
+  EXPECT_EQ(m_list.CurrentRow, extend.EndAfterwards);
+  EXPECT_EQ(m_list.Top, 5);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Keys, ExtendTest,
+    testing::Values(ExtendCase{KeyMove::LineDown, 3, 3, 4}, ExtendCase{KeyMove::LineDown, 3, 6, 7},
+                    ExtendCase{KeyMove::LineDown, 6, 3, 4},
+                    ExtendCase{KeyMove::LineDown, 3, 13, 13}, ExtendCase{KeyMove::LineUp, 3, 3, 2},
+                    ExtendCase{KeyMove::LineUp, 3, 6, 5}, ExtendCase{KeyMove::LineUp, 3, 0, 0},
+                    ExtendCase{KeyMove::PageDown, 3, 4, 13}, ExtendCase{KeyMove::Last, 3, 4, 13},
+                    ExtendCase{KeyMove::PageUp, 3, 4, 0}, ExtendCase{KeyMove::First, 3, 4, 0}));
+
+class ExtendOnAPage : public test::ListTest {};
+
+TEST_F(ExtendOnAPage, WithoutASelectionIsAPlainMove) {
+  AddNumbered(kContacts);
+  BuildPage(m_list);
+  ExtendSelection(m_list, KeyMove::LineDown);
+  EXPECT_EQ(SingleSelectedRow(m_list), 0);
+}
+
+TEST_F(ExtendOnAPage, WhatIsSelectedOnAnotherPageIsNoRunToExtend) {
+  AddNumbered(kContacts);
+  BuildPage(m_list);
+  m_list.SelectedKeys = {kContacts};
+  ExtendSelection(m_list, KeyMove::LineDown);
+  EXPECT_EQ(SingleSelectedRow(m_list), 0);
+}
+
 }  // namespace
 }  // namespace quill

@@ -245,5 +245,18 @@ TEST(ListLayout, ARowIsFoundByItsHeight) {
   EXPECT_EQ(ListRowAt(224), 14);
 }
 
+TEST(ListLayout, ALongSecondColumnEndsWithDotsThatFit) {
+  ListState list = Page(1);
+  list.Rows[0].Text = QStringLiteral("010-1234-5678");
+  EXPECT_EQ(TextsOf(LayOut(list)[0])[1].Text, QStringLiteral("010-1234..."));
+  EXPECT_EQ(LayOut(list)[0].SpokenName, QStringLiteral("N0, 010-1234-5678"));
+}
+
+TEST(ListLayout, ALongMemoNameEndsWithDotsThatFit) {
+  const auto rows = LayOutList(MemoPage(1), {QString(30, u'x')}, TenEach);
+  EXPECT_EQ(TextsOf(rows[0])[0].Text, QString(18, u'x') + QStringLiteral("..."));
+  EXPECT_EQ(rows[0].SpokenName, QString(30, u'x'));
+}
+
 }  // namespace
 }  // namespace quill

@@ -223,5 +223,12 @@ TEST(MenuLayout, AMenuWithoutAnythingToChooseHasNoHighlight) {
   EXPECT_EQ(NextMenuItem({Line()}, 0, -1), -1);
 }
 
+TEST(MenuLayout, ATextThatIsTooLongEndsWithDotsAndIsSpokenWhole) {
+  const QString subject = QString(100, u'x');
+  const PaintedRow row = LayOut({Command(subject)}).Rows[0];
+  EXPECT_EQ(row.Items[0].Text, QString(15, u'x') + QStringLiteral("..."));
+  EXPECT_EQ(row.SpokenName, subject);
+}
+
 }  // namespace
 }  // namespace quill

@@ -1,6 +1,7 @@
 #include "platform/ui/Accessibility.h"
 
 #include <QAccessible>
+#include <QLineEdit>
 
 #include "platform/ui/CheckList.h"
 #include "platform/ui/MenuBar.h"
@@ -207,6 +208,68 @@ TEST_F(AccessibilityTest, ATitleOffersNoPressButItsMenu) {
   QAccessibleInterface* const title = QAccessible::queryAccessibleInterface(&m_titleBar)->child(0);
   EXPECT_EQ(title->actionInterface()->actionNames(),
             QStringList{QAccessibleActionInterface::showMenuAction()});
+}
+
+class PaintedSample : public CPaintedWindow {
+ public:
+  explicit PaintedSample(QWidget* parent) : CPaintedWindow(parent, QAccessible::List) {
+    setFocusPolicy(Qt::StrongFocus);
+    SetRows({{.Rectangle = {0, 0, 100, 20}, .SpokenName = QStringLiteral("Row")},
+             {.Rectangle = {0, 20, 100, 20},
+              .SpokenName = QStringLiteral("Words"),
+              .Role = PaintedRole::Text}});
+    setGeometry(0, 0, 100, 60);
+    show();
+  }
+};
+
+TEST_F(AccessibilityTest, AControlOnAPaintedWindowIsItsChildAfterTheRows) {
+  PaintedSample list(&m_frame);
+  QLineEdit edit(&list);
+  edit.setGeometry(50, 0, 50, 20);
+  edit.setAccessibleName(QStringLiteral("Editor"));
+  edit.show();
+  auto* const parent = QAccessible::queryAccessibleInterface(&list);
+  ASSERT_EQ(parent->childCount(), 3);
+  auto* const control = parent->child(2);
+  EXPECT_EQ(control->text(QAccessible::Name), QStringLiteral("Editor"));
+  EXPECT_EQ(parent->indexOfChild(control), 2);
+  EXPECT_EQ(parent->indexOfChild(parent->child(1)), 1);
+  EXPECT_EQ(parent->child(3), nullptr);
+  const QPoint onEditor = list.mapToGlobal(QPoint(60, 5));
+  const QPoint besideIt = list.mapToGlobal(QPoint(10, 5));
+  EXPECT_EQ(parent->childAt(onEditor.x(), onEditor.y()), control);
+  EXPECT_EQ(parent->childAt(besideIt.x(), besideIt.y()), parent->child(0));
+  edit.setFocus();
+  EXPECT_EQ(parent->focusChild(), control);
+}
+
+TEST_F(AccessibilityTest, OnlyARowThatCanBeActedOnCanHaveTheFocus) {
+  PaintedSample list(&m_frame);
+  EXPECT_TRUE(AccessibleChild(list, u"Row").State().focusable);
+  EXPECT_FALSE(AccessibleChild(list, u"Words").State().focusable);
+  EXPECT_FALSE(AccessibleChild(m_titleBar, u"OK").State().focusable) << "no key leads there";
+}
+
+TEST_F(AccessibilityTest, AModalWindowSaysSo) {
+  test::SampleDialog dialog(*m_screen);
+  EXPECT_TRUE(QAccessible::queryAccessibleInterface(&dialog)->state().modal);
+  EXPECT_FALSE(QAccessible::queryAccessibleInterface(&m_frame)->state().modal);
+}
+
+TEST_F(AccessibilityTest, AMenuHasTheNameOfWhatItBelongsTo) {
+  m_frame.Bar.Menus[0].Items = {
+      {.Text = QStringLiteral("More"), .Items = {{.Text = QStringLiteral("Inner"), .Id = 3}}}};
+  const Steps steps(*m_screen, {[this] {
+                                  EXPECT_EQ(m_screen->Popup()->accessibleName(),
+                                            QStringLiteral("One"));
+                                  m_input.Key(Qt::Key_Right);
+                                  const auto menus = m_screen->findChildren<CMenuPopup*>();
+                                  ASSERT_EQ(menus.size(), 2);
+                                  EXPECT_EQ(menus[1]->accessibleName(), QStringLiteral("More"));
+                                },
+                                [this] { m_screen->Popup()->Dismiss(); }});
+  m_input.Key(Qt::Key_F10);
 }
 
 }  // namespace

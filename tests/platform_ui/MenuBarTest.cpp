@@ -211,5 +211,17 @@ TEST_F(MenuBarTest, AWindowThatOpensOverAMenuEndsIt) {
   EXPECT_EQ(m_screen->TrackMenu({10, 40}, {{.Text = QStringLiteral("One"), .Id = 1}}), 0);
 }
 
+TEST_F(MenuBarTest, OpenedByKeysEachMenuBeginsAtItsFirstItem) {
+  const Steps steps(*m_screen, {Keys(Qt::Key_Right), Shows(u"Plum"), Keys(Qt::Key_Return)});
+  m_input.Key(Qt::Key_F10);
+  EXPECT_EQ(m_frame.Ran, std::vector<int>{21});
+}
+
+TEST_F(MenuBarTest, OpenedByAPenAMenuBeginsNowhere) {
+  const Steps steps(*m_screen, {Keys(Qt::Key_Return), Keys(Qt::Key_Escape)});
+  m_input.Press(At(u"One"));
+  EXPECT_TRUE(m_frame.Ran.empty());
+}
+
 }  // namespace
 }  // namespace quill

@@ -108,5 +108,17 @@ TEST_F(OfferBarTest, WithTheFocusItStaysUntilItLosesIt) {
   EXPECT_TRUE(m_bar.isHidden());
 }
 
+TEST_F(OfferBarTest, KeysOfItsWindowDoTheSame) {
+  Offer(QStringLiteral("this"));
+  m_frame.setFocus();
+  m_input.Key(Qt::Key_R, Qt::ControlModifier);
+  m_input.Key(Qt::Key_D, Qt::ControlModifier);
+  m_input.Key(Qt::Key_D);
+  EXPECT_EQ(m_asked, QStringList({QStringLiteral("restore"), QStringLiteral("discard")}));
+  m_bar.hide();
+  m_input.Key(Qt::Key_R, Qt::ControlModifier);
+  EXPECT_EQ(m_asked.size(), 2);
+}
+
 }  // namespace
 }  // namespace quill

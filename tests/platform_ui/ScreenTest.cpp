@@ -1,5 +1,7 @@
 #include "platform/ui/Screen.h"
 
+#include <QKeyEvent>
+
 #include "platform/ui/MenuPopup.h"
 #include "platform_ui/SampleWindows.h"
 #include "platform_ui/ScreenFixture.h"
@@ -140,6 +142,43 @@ TEST_F(ScreenTest, TheDesktopClosingItsWindowClosesTheScreenButHidesNothing) {
   EXPECT_FALSE(m_outer->close());
   EXPECT_TRUE(m_screen->IsClosing());
   EXPECT_TRUE(m_outer->isVisible());
+}
+
+TEST_F(ScreenTest, ControlReturnAndControlWDoWhatTheTitleBarsButtonsDo) {
+  m_input.Key(Qt::Key_Return, Qt::ControlModifier);
+  m_input.Key(Qt::Key_W, Qt::ControlModifier);
+  EXPECT_EQ(m_frame.Happened, (QStringList{QStringLiteral("OK"), QStringLiteral("Cancel")}));
+}
+
+TEST_F(ScreenTest, ControlReturnEndsADialogWithOKWhateverHasTheFocus) {
+  test::SampleDialog dialog(*m_screen);
+  const Steps steps(*m_screen, {[&dialog] { dialog.Control(kResultCancel)->setFocus(); },
+                                [this] { m_input.Key(Qt::Key_Return, Qt::ControlModifier); }});
+  EXPECT_EQ(dialog.DoModal(), kResultOK);
+}
+
+TEST_F(ScreenTest, AHeldKeyRunsItsCommandOnce) {
+  QKeyEvent repeated(QEvent::KeyPress, Qt::Key_W, Qt::ControlModifier, {}, true);
+  QCoreApplication::sendEvent(&m_frame, &repeated);
+  EXPECT_TRUE(m_frame.Happened.isEmpty());
+}
+
+TEST_F(ScreenTest, ControlF10OpensTheTitleBarsMenuAlsoWhereTheWindowHasAPopup) {
+  m_frame.HasContextMenu = true;
+  const Steps steps(*m_screen, {[this] {
+    ASSERT_NE(m_screen->Popup(), nullptr);
+    EXPECT_EQ(m_screen->Popup()->Items()[0].Id, ID_SHELL_LARGER);
+    m_screen->Popup()->Dismiss();
+  }});
+  m_input.Key(Qt::Key_F10, Qt::ControlModifier);
+  EXPECT_TRUE(m_frame.Happened.isEmpty());
+}
+
+TEST_F(ScreenTest, F9ShowsAndHidesTheKeys) {
+  m_input.Key(Qt::Key_F9);
+  EXPECT_TRUE(m_panel.IsUp());
+  m_input.Key(Qt::Key_F9);
+  EXPECT_FALSE(m_panel.IsUp());
 }
 
 }  // namespace

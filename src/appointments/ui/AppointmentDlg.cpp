@@ -2,7 +2,9 @@
 
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QWheelEvent>
 
+#include <algorithm>
 #include <utility>
 
 #include "appointments/ui/AppointmentRowList.h"
@@ -13,6 +15,7 @@
 #include "platform/Prompt.h"
 #include "platform/Services.h"
 #include "platform/ui/InputCommit.h"
+#include "platform/ui/Screen.h"
 #include "platform/ui/WaitCursor.h"
 #include "resources/AppointmentDialogs.h"
 #include "store/AppointmentStore.h"
@@ -35,11 +38,13 @@ QString HeadingOf(DialogMode mode) {
 CAppointmentDlg::CAppointmentDlg(CScreen& screen, DialogMode mode)
     : CDialog(screen, resources::kAppointmentDialog),
       m_mode(mode),
+      m_visibleHeight(height()),
       m_rows(new CAppointmentRowList(HeadingOf(mode), this)),
       m_controls(*this) {
   m_rows->lower();
   m_rows->setGeometry(rect());
   m_rows->Chosen = [this](std::optional<AppointmentRow> row) { Choose(row); };
+  m_rows->Reached = [this](AppointmentRow row) { ShowRow(row); };
   connect(qobject_cast<QPushButton*>(Control(AppointmentIds::kMemo)), &QPushButton::clicked, this,
           &CAppointmentDlg::EditMemo);
   m_controls.Changed = [this] { m_rows->ShowForm(m_controls.Form()); };
@@ -77,6 +82,30 @@ void CAppointmentDlg::TakeAppointment() {
   }
 }
 
+void CAppointmentDlg::OnVisibleAreaChanged(QRect area) {
+  m_visibleHeight = area.height();
+  // Not from under a pen, whose press may have lowered the panel: the next tap sees to it.
+  if (!Screen().IsPenDown()) ScrollTo(m_top);
+}
+
+void CAppointmentDlg::ShowRow(AppointmentRow row) {
+  const QRect area = AppointmentRowArea(row);
+  const int lowest = area.bottom() + 1 + area.height() - m_visibleHeight;
+  const int highest = area.top() - area.height();
+  ScrollTo(std::min(std::max(m_top, lowest), highest));
+}
+
+void CAppointmentDlg::ScrollTo(int top) {
+  const int after = std::clamp(top, 0, std::max(height() - m_visibleHeight, 0));
+  scroll(0, std::exchange(m_top, after) - after);
+}
+
+void CAppointmentDlg::wheelEvent(QWheelEvent* event) {
+  const int height = AppointmentRowArea(AppointmentRow::Subject).height();
+  ScrollTo(m_top - height * event->angleDelta().y() / QWheelEvent::DefaultDeltasPerStep);
+  event->accept();
+}
+
 void CAppointmentDlg::FocusFirstControl() { m_rows->setFocus(Qt::ActiveWindowFocusReason); }
 
 void CAppointmentDlg::keyPressEvent(QKeyEvent* event) {
@@ -94,6 +123,7 @@ void CAppointmentDlg::Choose(std::optional<AppointmentRow> row) {
     EditMemo();
   } else {
     m_rows->SetRevealed(row);
+    row ? ShowRow(*row) : ScrollTo(m_top);
   }
 }
 

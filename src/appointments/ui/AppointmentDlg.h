@@ -25,18 +25,24 @@ class CAppointmentDlg : public CDialog {
   // Saves and ends with OK. Without a subject, and where the store refuses the appointment, the
   // user is told, and the dialog stays.
   void OnOK() override;
+  // Above the input panel the rows scroll: with the one that is chosen its neighbours come into
+  // view.
+  void OnVisibleAreaChanged(QRect area) override;
 
  protected:
   void OnInitDialog() override;
   void FocusFirstControl() override;
   // Escape hides the controls that are shown first.
   void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
 
  private:
   CAppointmentDlg(CScreen& screen, DialogMode mode);
 
   void TakeAppointment();
   void Choose(std::optional<AppointmentRow> row);
+  void ShowRow(AppointmentRow row);
+  void ScrollTo(int top);
   void FollowMoments();
   void EditPattern();
   void EditMemo();
@@ -51,6 +57,8 @@ class CAppointmentDlg : public CDialog {
   AppointmentForm m_seen = {};                  // whose start and end the pattern has
   std::optional<QByteArray> m_refusedInk = {};  // the editor begins with it
   RecurrenceChoice m_storedChoice = RecurrenceChoice::Once;
+  int m_visibleHeight;          // pixels above the input panel
+  int m_top = 0;                // pixels that are scrolled out
   CAppointmentRowList* m_rows;  // a child
   AppointmentControls m_controls;
 };

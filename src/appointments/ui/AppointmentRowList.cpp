@@ -61,6 +61,7 @@ void CAppointmentRowList::MoveCurrent(int step) {
   const int row = std::clamp(static_cast<int>(m_current) + step, 0, kAppointmentRowCount - 1);
   m_current = static_cast<AppointmentRow>(row);
   LayOut();
+  Reached(m_current);
 }
 
 void CAppointmentRowList::keyPressEvent(QKeyEvent* event) {

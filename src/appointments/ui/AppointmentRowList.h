@@ -22,6 +22,8 @@ class CAppointmentRowList : public CPaintedWindow {
   void ActivateRow(int row) override;
 
   std::function<void(std::optional<AppointmentRow> row)> Chosen;
+  // The arrow keys made this row the current one.
+  std::function<void(AppointmentRow row)> Reached;
 
  protected:
   void PenPress(QPoint at) override;

@@ -80,6 +80,7 @@ EditField CPartEditor::Field() const { return m_edited < 0 ? EditField() : Field
 void CPartEditor::ShowField(int, const QRect& area, const QString& value) {
   const QSignalBlocker untouched(m_edit);
   m_edit->setText(value);
+  m_edit->setAccessibleName(RowAt(m_edited).Label);
   m_edit->setGeometry(area);
   m_edit->show();
   m_edit->setFocus(Qt::OtherFocusReason);
@@ -134,6 +135,7 @@ CAddressPartEditor::CAddressPartEditor(SheetRecord& record, RowSet address, QWid
     : CPartEditor(record, address, page), m_street(new CMultiEdit({}, this)) {
   setAccessibleName(QStringLiteral("Address"));
   m_street->setVisible(false);
+  m_street->setAccessibleName(FindRule(address, 0)->Label.toString());
   connect(m_street, &QPlainTextEdit::textChanged, this,
           [this] { SetValue(m_street->toPlainText()); });
 }

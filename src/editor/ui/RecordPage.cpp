@@ -71,6 +71,7 @@ void CRecordPage::ListenToRows() {
 
 void CRecordPage::AddScrollBar(int id) {
   m_scrollBar = new QScrollBar(Qt::Vertical, this);
+  m_scrollBar->setAccessibleName(QStringLiteral("Scroll bar"));
   m_scrollBar->setGeometry(kRecordScrollBarArea);
   m_scrollBar->setFocusPolicy(Qt::NoFocus);
   connect(m_scrollBar, &QScrollBar::actionTriggered, this, &CRecordPage::Scroll);

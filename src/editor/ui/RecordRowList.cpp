@@ -84,6 +84,7 @@ void CRecordRowList::StartEdit(int row) {
   EndEdit();
   if (row < 0 || row >= kRecordRowCount) return;
   m_edited = row;
+  m_editors.Name = RowAt(row).Label;
   ShowRows();
   switch (RowAt(row).Kind) {
     case RowKind::Categories:

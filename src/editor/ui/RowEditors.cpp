@@ -100,6 +100,7 @@ void RowEditors::EditDate(const QRect& area, std::optional<QDate> date, QDate to
 
 void RowEditors::Show(QWidget& editor, const QRect& area) {
   m_shown = &editor;
+  editor.setAccessibleName(Name);
   editor.setGeometry(area);
   editor.show();
   editor.setFocus(Qt::OtherFocusReason);

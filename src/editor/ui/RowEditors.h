@@ -37,6 +37,8 @@ class RowEditors {
   QLineEdit* Text() const { return m_text; }  // null before it was needed
   ControlMap Controls() const;
 
+  // What the editor that is shown next is called.
+  QString Name;
   std::function<void(const QString& text)> TextChanged;
   std::function<void(const QString& text)> Chosen;
   std::function<void(std::optional<QDate> date)> DateChanged;

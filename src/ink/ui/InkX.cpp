@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "ink/InkSelect.h"
+#include "ink/ui/InkAccessibility.h"
 #include "ink/ui/InkClipboard.h"
 #include "ink/ui/InkXParts.h"
 #include "platform/ui/InputCommit.h"
@@ -32,6 +33,7 @@ InkX::InkX(QWidget* parent, InkAccess access)
   ConnectDocument();
   ConnectHand();
   FollowTask();
+  connect(this, &InkX::changed, this, [this] { TellInkText(*this, m_parts->ToldText); });
 }
 
 InkX::~InkX() = default;
@@ -45,6 +47,7 @@ void InkX::AddBars() {
   m_parts->Map->TravelAsked = [this](QPointF page) { CentreOn(page); };
   for (QScrollBar* bar : {m_parts->Vertical, m_parts->Horizontal}) {
     bar->setFocusPolicy(Qt::NoFocus);
+    bar->setAccessibleName(QStringLiteral("Scroll bar"));
     bar->setAttribute(Qt::WA_NoMousePropagation);  // or a pen on it would write below it
     connect(bar, &QScrollBar::valueChanged, this, [this] {
       ScrollTo({m_parts->Horizontal->value(), m_parts->Vertical->value()});
@@ -248,6 +251,8 @@ void InkX::Clear() {
     m_parts->Typing.DeleteSelection();
   update();
 }
+
+const InkView& InkX::PageView() const { return m_parts->Canvas.View(); }
 
 InkDocument& InkX::Document() { return m_parts->Document; }
 const InkDocument& InkX::Document() const { return m_parts->Document; }

@@ -11,6 +11,8 @@
 
 namespace quill {
 
+class InkView;
+
 enum class InkAccess { Write, ReadOnly };
 
 // Page styles. Others are kept and answered, and drawn as Page.
@@ -70,6 +72,9 @@ class InkX : public QWidget {
   void Paste();
   // Deletes the selection. Of a note that cannot be read it deletes all once all is selected.
   void Clear();
+
+  // Where on the page the window stands.
+  const InkView& PageView() const;
 
   InkDocument& Document();
   const InkDocument& Document() const;

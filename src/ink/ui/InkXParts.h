@@ -30,8 +30,9 @@ struct InkX::Parts {
   int Toggle = kInkPenWrites;
   bool ShowsCaret = false;  // since something was typed or a caret was set
   std::optional<QPointF> PastePlace = {};
-  int Pastes = 0;  // at that place
-  int Turned = 0;  // of the wheel with Ctrl, not yet a step
+  int Pastes = 0;         // at that place
+  QString ToldText = {};  // what assistive technology knows of
+  int Turned = 0;         // of the wheel with Ctrl, not yet a step
 };
 
 }  // namespace quill

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ink/ui/InkAccessibility.h"
 #include "ink/ui/InkXParts.h"
 
 namespace quill {
@@ -99,6 +100,7 @@ void InkX::ShowCaret() {
   updateMicroFocus();
   m_parts->Canvas.Show(m_parts->Document.TextLayout().Caret(m_parts->Selection.Caret()));
   FollowScroll();
+  TellInkCaret(*this);
 }
 
 }  // namespace quill

@@ -109,10 +109,20 @@ void CContactListCtrl::ShowRowMenu(int row) {
 void CContactListCtrl::keyPressEvent(QKeyEvent* event) {
   const auto move = std::ranges::find(kMoveKeys, event->key(), &MoveKey::Key);
   if (move != kMoveKeys.end()) {
-    if (MoveAsked) MoveAsked(move->Move);
+    Move(move->Move, event->modifiers());
   } else if (event->isAutoRepeat() || !(AskForPopup(*event) || ActOnSelected(*event))) {
     CPaintedWindow::keyPressEvent(event);
   }
+}
+
+// Selecting several stays on the page, as a drag does.
+void CContactListCtrl::Move(KeyMove move, Qt::KeyboardModifiers modifiers) {
+  if (!modifiers.testFlag(Qt::ShiftModifier)) {
+    if (MoveAsked) MoveAsked(move);
+    return;
+  }
+  ExtendSelection(g_list, move);
+  ShowPage();
 }
 
 // Without a selected row under it the key goes on to the screen.

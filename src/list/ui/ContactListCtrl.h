@@ -45,6 +45,7 @@ class CContactListCtrl : public CPaintedWindow, public TimerTarget {
  private:
   void CarryOut(const TapIntention& intention);
   void Ask(const TapIntention& intention);
+  void Move(KeyMove move, Qt::KeyboardModifiers modifiers);
   bool AskForPopup(const QKeyEvent& event);
   bool ActOnSelected(const QKeyEvent& event);
 

@@ -27,6 +27,7 @@
 #include "list/ui/ContactListCtrl.h"
 #include "list/ui/IndexStrip.h"
 #include "list/ui/LinkedItemCommands.h"
+#include "list/ui/ListKeyCommands.h"
 #include "list/ui/MemoCommands.h"
 #include "list/ui/RecordOpening.h"
 #include "list/ui/SettingsCommands.h"
@@ -63,7 +64,8 @@ CContactsView::CContactsView(QWidget* frame)
       m_memoCommands(MakeMemoCommands(*this)),
       m_modeCommands(MakeViewModeCommands(*this)),
       m_categoryCommands(MakeCategoryCommands(*this)),
-      m_settingsCommands(MakeSettingsCommands(*this)) {
+      m_settingsCommands(MakeSettingsCommands(*this)),
+      m_keyCommands(MakeListKeyCommands(*this)) {
   MakeControls();
   PlaceControls();
   ShowPage();
@@ -85,6 +87,7 @@ void CContactsView::MakeControls() {
   connect(m_searchEdit, &QLineEdit::textChanged, this,
           [](const QString& text) { g_list.SearchEntry = text; });
   m_scrollBar->setFocusPolicy(Qt::NoFocus);
+  m_scrollBar->setAccessibleName(QStringLiteral("Scroll bar"));
   connect(m_scrollBar, &QScrollBar::actionTriggered, this, &CContactsView::RunScrollAction);
   m_indexStrip->Tapped = [this](int index) { ChooseIndex(index); };
   m_category->Tapped = [this] { ShowCategoryMenu(*this); };
@@ -133,6 +136,7 @@ CommandRoute CContactsView::Route() const {
   route.Add(*m_modeCommands);
   route.Add(*m_categoryCommands);
   route.Add(*m_settingsCommands);
+  route.Add(*m_keyCommands);
   return route;
 }
 
@@ -251,6 +255,11 @@ void CContactsView::Relayout() {
 }
 
 void CContactsView::FocusList() { m_list->setFocus(); }
+
+void CContactsView::FocusSearch() {
+  m_searchEdit->setFocus(Qt::ShortcutFocusReason);
+  m_searchEdit->selectAll();
+}
 
 void CContactsView::RunScrollAction(int action) {
   switch (action) {

@@ -61,6 +61,7 @@ class CContactsView : public QWidget, public TimerTarget {
   // Places list and scroll bar as the settings say and goes to the first row, nothing selected.
   void Relayout();
   void FocusList();
+  void FocusSearch();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -98,6 +99,7 @@ class CContactsView : public QWidget, public TimerTarget {
   std::unique_ptr<CommandTarget> m_modeCommands;
   std::unique_ptr<CommandTarget> m_categoryCommands;
   std::unique_ptr<CommandTarget> m_settingsCommands;
+  std::unique_ptr<CommandTarget> m_keyCommands;
 };
 
 }  // namespace quill

@@ -2,10 +2,13 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QPointer>
 
 #include <vector>
 
+#include "platform/ui/ControlAccessibility.h"
+#include "platform/ui/ModalWindow.h"
 #include "platform/ui/PaintedWindow.h"
 #include "platform/ui/SheetPage.h"
 
@@ -110,7 +113,8 @@ QAccessible::State AccessibleRow::state() const {
   state.selected = row->State.testFlag(PaintedStateFlag::Selected);
   state.selectable = row->State.testFlag(PaintedStateFlag::Selectable);
   state.focused = row->State.testFlag(PaintedStateFlag::Current);
-  state.focusable = !state.disabled;
+  state.focusable =
+      !state.disabled && m_window->focusPolicy() != Qt::NoFocus && !actionNames().isEmpty();
   state.checked = row->State.testFlag(PaintedStateFlag::Checked);
   state.checkable = state.checked || row->Role == PaintedRole::CheckBox;
   state.offscreen = !m_window->rect().intersects(row->Rectangle);
@@ -149,34 +153,46 @@ class AccessiblePaintedWindow : public QAccessibleWidget {
   explicit AccessiblePaintedWindow(CPaintedWindow& window)
       : QAccessibleWidget(&window, window.Role()), m_window(window) {}
   ~AccessiblePaintedWindow() override {
-    for (const QAccessible::Id id : m_children) QAccessible::deleteAccessibleInterface(id);
+    for (const QAccessible::Id id : m_rows) QAccessible::deleteAccessibleInterface(id);
   }
 
-  int childCount() const override { return static_cast<int>(m_window.Rows().size()); }
+  // The rows, then the controls that stand in the window.
+  int childCount() const override { return RowCount() + QAccessibleWidget::childCount(); }
   QAccessibleInterface* child(int index) const override {
     if (index < 0 || index >= childCount()) return nullptr;
-    while (static_cast<int>(m_children.size()) <= index)
-      m_children.push_back(QAccessible::registerAccessibleInterface(
-          new AccessibleRow(m_window, static_cast<int>(m_children.size()))));
-    return QAccessible::accessibleInterface(m_children[static_cast<std::size_t>(index)]);
+    return index < RowCount() ? Row(index) : QAccessibleWidget::child(index - RowCount());
   }
   QAccessibleInterface* childAt(int x, int y) const override {
-    return child(m_window.RowAt(m_window.mapFromGlobal(QPoint(x, y))));
+    if (QAccessibleInterface* const control = QAccessibleWidget::childAt(x, y)) return control;
+    return Row(m_window.RowAt(m_window.mapFromGlobal(QPoint(x, y))));
   }
   QAccessibleInterface* focusChild() const override {
-    const int current = m_window.CurrentRow();
-    return current < 0 ? nullptr : child(current);
+    const QWidget* const focused = QApplication::focusWidget();
+    if (focused != &m_window && m_window.isAncestorOf(focused))
+      return QAccessibleWidget::focusChild();
+    return Row(m_window.CurrentRow());
   }
   int indexOfChild(const QAccessibleInterface* child) const override {
     const auto id = QAccessible::uniqueId(const_cast<QAccessibleInterface*>(child));
-    for (std::size_t i = 0; i < m_children.size(); ++i)
-      if (m_children[i] == id) return static_cast<int>(i);
-    return -1;
+    for (std::size_t i = 0; i < m_rows.size(); ++i)
+      if (m_rows[i] == id) return static_cast<int>(i);
+    const int control = QAccessibleWidget::indexOfChild(child);
+    return control < 0 ? -1 : RowCount() + control;
   }
 
  private:
+  int RowCount() const { return static_cast<int>(m_window.Rows().size()); }
+  // Null when there is no such row.
+  QAccessibleInterface* Row(int index) const {
+    if (index < 0 || index >= RowCount()) return nullptr;
+    while (static_cast<int>(m_rows.size()) <= index)
+      m_rows.push_back(QAccessible::registerAccessibleInterface(
+          new AccessibleRow(m_window, static_cast<int>(m_rows.size()))));
+    return QAccessible::accessibleInterface(m_rows[static_cast<std::size_t>(index)]);
+  }
+
   CPaintedWindow& m_window;
-  mutable std::vector<QAccessible::Id> m_children;  // made when asked for
+  mutable std::vector<QAccessible::Id> m_rows;  // made when asked for
 };
 
 // The kind is asked each time: assistive technology may look while the window is still being made.
@@ -184,6 +200,11 @@ class AccessibleWindow : public QAccessibleWidget {
  public:
   explicit AccessibleWindow(CWindow& window) : QAccessibleWidget(&window), m_window(window) {}
   QAccessible::Role role() const override { return RoleOf(m_window.Kind()); }
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.modal = qobject_cast<CModalWindow*>(&m_window) != nullptr;
+    return state;
+  }
 
  private:
   CWindow& m_window;
@@ -195,7 +216,7 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
   if (auto* const window = qobject_cast<CWindow*>(object)) return new AccessibleWindow(*window);
   if (auto* const page = qobject_cast<CSheetPage*>(object))
     return new QAccessibleWidget(page, QAccessible::PropertyPage);
-  return nullptr;
+  return MakeControlInterface(object);
 }
 
 }  // namespace

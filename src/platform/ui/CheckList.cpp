@@ -14,6 +14,7 @@ namespace quill {
 CCheckList::CCheckList(const QString& name, QWidget* parent)
     : CPaintedWindow(parent, QAccessible::List), m_bar(new QScrollBar(this)) {
   setAccessibleName(name);
+  m_bar->setAccessibleName(QStringLiteral("Scroll bar"));
   setFocusPolicy(Qt::StrongFocus);
   connect(m_bar, &QScrollBar::valueChanged, this, [this](int value) { ScrollTo(value); });
 }

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -40,8 +41,10 @@ CTimePicker* MakeTime(const QString& name, QWidget* parent) {
   return time;
 }
 
-QWidget* Named(const QString& name, QWidget* list) {
+// Its cell has the focus for it, if it has one.
+QWidget* Named(const QString& name, CDropDown* list) {
   list->setAccessibleName(name);
+  if (list->lineEdit()) list->lineEdit()->setAccessibleName(name);
   return list;
 }
 

@@ -29,6 +29,7 @@ CDropDown::CDropDown(CScreen& screen, QWidget* parent) : QComboBox(parent), m_sc
 void CDropDown::showPopup() {
   const QRect place(mapTo(&m_screen, QPoint(0, 0)), size());
   CMenuPopup popup(m_screen, ListItems(*this), place);
+  popup.setAccessibleName(accessibleName());
   popup.StartAt(ShownEntry(*this));
   const int chosen = popup.Track() - 1;
   if (Closed) Closed();

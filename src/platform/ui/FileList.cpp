@@ -41,7 +41,7 @@ CFileList::CFileList(QWidget* parent)
     : CPaintedWindow(parent, QAccessible::List), m_scrollBar(new QScrollBar(Qt::Vertical, this)) {
   setFocusPolicy(Qt::StrongFocus);
   setAccessibleName(QStringLiteral("Files"));
-  m_scrollBar->setAccessibleName(QStringLiteral("Files"));
+  m_scrollBar->setAccessibleName(QStringLiteral("Scroll bar"));
   connect(m_scrollBar, &QScrollBar::valueChanged, this, &CFileList::ScrollTo);
 }
 

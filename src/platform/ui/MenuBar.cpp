@@ -33,7 +33,7 @@ void CMenuBar::PenPress(QPoint at) {
   m_screen.UpdateChrome();
   const int position = RowAt(at);
   if (position >= ButtonCount())
-    OpenMenus(position);
+    OpenMenus(position, MenuOpening::ByPen);
   else
     ShowPressed(position);
 }
@@ -54,7 +54,7 @@ void CMenuBar::PenRelease(QPoint at) {
 void CMenuBar::ActivateRow(int row) {
   if (!m_screen.IsChromeUsable()) return;
   m_screen.UpdateChrome();
-  row < ButtonCount() ? RunButton(row) : OpenMenus(row);
+  row < ButtonCount() ? RunButton(row) : OpenMenus(row, MenuOpening::ByKey);
 }
 
 void CMenuBar::RunButton(int position) {
@@ -65,18 +65,22 @@ void CMenuBar::RunButton(int position) {
 void CMenuBar::OpenFirstMenu() {
   if (!m_screen.IsChromeUsable()) return;
   m_screen.UpdateChrome();
-  if (!m_model.Menus.empty()) OpenMenus(ButtonCount());
+  if (!m_model.Menus.empty()) OpenMenus(ButtonCount(), MenuOpening::ByKey);
 }
 
-void CMenuBar::OpenMenus(int position) {
+// By a key the menu begins at its first item.
+void CMenuBar::OpenMenus(int position, MenuOpening opening) {
   int command = 0;
   while (position >= 0) {
     ShowPressed(position);
     const auto& menu = m_model.Menus[static_cast<std::size_t>(position - ButtonCount())];
     const QRect title = Rows()[static_cast<std::size_t>(position)].Rectangle.translated(pos());
     CMenuPopup popup(m_screen, menu.Items, title, MenuPopupKind::OfMenuBar);
+    popup.setAccessibleName(menu.Text);
+    if (opening == MenuOpening::ByKey) popup.StartAt(NextMenuItem(menu.Items, -1, 1));
     command = popup.Track();
     position = NextMenu(position, popup);
+    opening = popup.LeftBy() != 0 ? MenuOpening::ByKey : MenuOpening::ByPen;
   }
   ShowPressed(-1);
   if (command != 0) m_screen.RunCommand(command);

@@ -10,6 +10,8 @@ class CMenuPopup;
 class CScreen;
 class CWindow;
 
+enum class MenuOpening { ByPen, ByKey };
+
 class CMenuBar : public CPaintedWindow {
   Q_OBJECT
  public:
@@ -30,7 +32,7 @@ class CMenuBar : public CPaintedWindow {
  private:
   int ButtonCount() const { return static_cast<int>(m_model.Buttons.size()); }
   void ShowPressed(int position);
-  void OpenMenus(int position);
+  void OpenMenus(int position, MenuOpening opening);
   int NextMenu(int position, const CMenuPopup& left) const;
   void RunButton(int position);
 

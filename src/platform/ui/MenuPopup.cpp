@@ -62,6 +62,7 @@ CMenuPopup::CMenuPopup(CScreen& screen, std::vector<MenuItem> items, QRect ancho
       m_kind(kind),
       m_items(std::move(items)) {
   m_request = {.Anchor = anchor, .Screen = screen.size()};
+  setAccessibleName(QStringLiteral("Menu"));
   SetBackground(kMenuBackground);
   setFocusPolicy(Qt::StrongFocus);
 }
@@ -158,6 +159,7 @@ void CMenuPopup::OpenSubmenu(int item) {
   for (const PaintedRow& row : m_layout.Rows)
     if (row.Key == item) anchor = row.Rectangle.translated(pos());
   m_submenu.reset(new CMenuPopup(*this, m_items[Index(item)].Items, anchor));
+  m_submenu->setAccessibleName(m_items[Index(item)].Text);
   m_submenu->LayOut(0);
   m_submenu->show();
   m_submenu->raise();

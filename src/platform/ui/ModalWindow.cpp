@@ -77,7 +77,9 @@ void CModalWindow::FocusFirstControl() {
 }
 
 void CModalWindow::keyPressEvent(QKeyEvent* event) {
-  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const bool isPlain = !event->modifiers().testFlag(Qt::ControlModifier);
+  const bool isReturn =
+      isPlain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter);
   const bool isEscape = event->key() == Qt::Key_Escape;
   if (!isReturn && !isEscape) return CWindow::keyPressEvent(event);
   if (event->isAutoRepeat()) return;  // a held key ends one window, not the next one too

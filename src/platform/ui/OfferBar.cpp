@@ -1,6 +1,7 @@
 #include "platform/ui/OfferBar.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPaintEvent>
 #include <QPainter>
@@ -41,6 +42,7 @@ COfferBar::COfferBar(QWidget* window, OfferIds ids)
   setVisible(false);
   m_text->setGeometry(kTextArea);
   m_text->setTextFormat(Qt::PlainText);
+  window->installEventFilter(this);
   m_restore->installEventFilter(this);
   m_discard->installEventFilter(this);
   connect(m_restore, &QPushButton::clicked, this, [this] { RestoreAsked(); });
@@ -72,7 +74,10 @@ bool COfferBar::focusNextPrevChild(bool next) {
   return LeaveAsked(end) || QWidget::focusNextPrevChild(next);
 }
 
-bool COfferBar::eventFilter(QObject*, QEvent* event) {
+bool COfferBar::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == parentWidget())
+    return event->type() == QEvent::KeyPress && !isHidden() &&
+           Answer(*static_cast<QKeyEvent*>(event));
   if (event->type() == QEvent::FocusOut && IsPanelUp() && !HasFocus()) hide();
   return false;
 }
@@ -80,6 +85,14 @@ bool COfferBar::eventFilter(QObject*, QEvent* event) {
 ControlMap COfferBar::Controls() const {
   if (isHidden()) return {};
   return {{m_ids.Restore, m_restore}, {m_ids.Discard, m_discard}};
+}
+
+bool COfferBar::Answer(const QKeyEvent& event) {
+  const QKeyCombination keys = event.keyCombination();
+  const bool restores = keys == QKeyCombination(Qt::CTRL, Qt::Key_R);
+  if (!restores && keys != QKeyCombination(Qt::CTRL, Qt::Key_D)) return false;
+  (restores ? m_restore : m_discard)->click();
+  return true;
 }
 
 void COfferBar::paintEvent(QPaintEvent* event) {

@@ -1,5 +1,6 @@
 // Offers something that was not saved over the lower end of a window: to take it back, or to throw
-// it away. It moves nothing of the window.
+// it away. It moves nothing of the window. Ctrl+R and Ctrl+D do the same, wherever in the window
+// the focus is.
 #pragma once
 
 #include <QWidget>
@@ -42,10 +43,12 @@ class COfferBar : public QWidget {
  protected:
   void paintEvent(QPaintEvent* event) override;
   bool focusNextPrevChild(bool next) override;
-  // When its buttons lose the focus it may have to hide.
+  // Keys of its window; and when its buttons lose the focus it may have to hide.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  bool Answer(const QKeyEvent& event);
+
   const OfferIds m_ids;
   QLabel* m_text;
   QPushButton* m_restore;

@@ -9,6 +9,7 @@
 
 #include "platform/InputPanel.h"
 #include "platform/Services.h"
+#include "platform/Shortcuts.h"
 #include "platform/ui/InputCommit.h"
 #include "platform/ui/KeyPanel.h"
 #include "platform/ui/MenuBar.h"
@@ -16,6 +17,7 @@
 #include "platform/ui/ModalWindow.h"
 #include "platform/ui/PreeditWatch.h"
 #include "platform/ui/TitleBar.h"
+#include "resources/KeyCommandIds.h"
 #include "resources/Menus.h"
 
 namespace quill {
@@ -48,7 +50,15 @@ CScreen::CScreen(QWidget* outer)
             [](int, CommandState& state) {
               state.Enabled = g_services.InputPanel != nullptr;
               state.Checked = state.Enabled && g_services.InputPanel->IsUp();
-            }}}) {
+            }},
+           {ID_KEY_OK, ID_KEY_OK, [this](int) { Topmost()->OnOK(); },
+            [this](int, CommandState& state) { state.Enabled = Topmost() && Topmost()->HasOK(); }},
+           {ID_KEY_CLOSE, ID_KEY_CLOSE, [this](int) { Topmost()->OnCancel(); },
+            [this](int, CommandState& state) { state.Enabled = Topmost() != nullptr; }},
+           {ID_KEY_MENU_BAR, ID_KEY_MENU_BAR, [this](int) { m_menuBar->OpenFirstMenu(); }},
+           {ID_KEY_CONTEXT_MENU, ID_KEY_CONTEXT_MENU, [this](int) { ShowContextMenu(); }},
+           {ID_KEY_TITLE_MENU, ID_KEY_TITLE_MENU,
+            [this](int) { ShowShellMenu(kTitleBarArea.bottomLeft()); }}}) {
   setFixedSize(kScreenWidth, kScreenHeight);
   m_preedit->SetKeys(m_keys);
   QCoreApplication::instance()->installEventFilter(this);
@@ -174,23 +184,21 @@ void CScreen::keyPressEvent(QKeyEvent* event) {
 }
 
 bool CScreen::HandleKey(QKeyEvent* event) {
-  const bool control = event->modifiers().testFlag(Qt::ControlModifier);
-  const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
-  const bool larger = event->key() == Qt::Key_Plus || event->key() == Qt::Key_Equal;
-  if (control && larger) {
-    RunShellCommand(ID_SHELL_LARGER);
-  } else if (control && event->key() == Qt::Key_Minus) {
-    RunShellCommand(ID_SHELL_SMALLER);
-  } else if (event->key() == Qt::Key_Menu || (shift && event->key() == Qt::Key_F10)) {
-    ShowContextMenu();
-  } else if (event->key() == Qt::Key_F10) {
-    m_menuBar->OpenFirstMenu();
-  } else if (event->key() == Qt::Key_Escape && !event->isAutoRepeat()) {
-    return IsChromeUsable() && m_titleBar->AnswerNotice();
-  } else {
-    return false;
-  }
-  return true;
+  if (event->isAutoRepeat()) return false;  // a held key ends one window, not the next one too
+  if (event->key() == Qt::Key_Escape) return IsChromeUsable() && m_titleBar->AnswerNotice();
+  const std::vector<int> commands = CommandsOfKey(event->key(), event->modifiers());
+  return std::ranges::any_of(commands, [this](int id) { return RunKeyCommand(id); });
+}
+
+// False where the topmost window has no such command, or has no use for it just now.
+bool CScreen::RunKeyCommand(int id) {
+  const CWindow* const window = Topmost();
+  CommandRoute route = window ? window->Route() : CommandRoute();
+  route.Add(m_screenCommands);
+  if (m_shellCommands) route.Add(*m_shellCommands);
+  if (route.Rows(id).empty() || !route.State(id).Enabled) return false;
+  CommitInput();
+  return route.Run(id, CommandCheck::AsMenu) == CommandResult::Done;
 }
 
 void CScreen::keyReleaseEvent(QKeyEvent* event) {

@@ -89,6 +89,7 @@ class CScreen : public QWidget {
 
  private:
   bool HandleKey(QKeyEvent* event);
+  bool RunKeyCommand(int id);
   void ShowContextMenu();
   CWindow* ChromeOwner() const;
   void TellVisibleArea();

@@ -1,0 +1,147 @@
+// What a screen reader is told of every window.
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "driver/WindowWalk.h"
+
+using quill::test::ForEachInTree;
+using quill::test::ReadyDriver;
+using quill::test::WindowWalk;
+
+namespace {
+
+QJsonObject Tree(ReadyDriver& driver) {
+  return driver.Result(R"({"op":"accessible"})", u"accessible").toObject();
+}
+
+bool Has(const QJsonObject& object, QStringView list, const QString& word) {
+  return object.value(list).toArray().contains(word);
+}
+
+// What can have the focus or be pressed.
+bool IsReached(const QJsonObject& object) {
+  return Has(object, u"state", QStringLiteral("focusable")) ||
+         !object.value(u"actions").toArray().isEmpty();
+}
+
+// What a reader can say of something that is reached.
+const std::set<QString> kRoles = {
+    QStringLiteral("Button"),      QStringLiteral("EditableText"), QStringLiteral("CheckBox"),
+    QStringLiteral("RadioButton"), QStringLiteral("ComboBox"),     QStringLiteral("SpinBox"),
+    QStringLiteral("List"),        QStringLiteral("ListItem"),     QStringLiteral("MenuItem"),
+    QStringLiteral("PageTab"),     QStringLiteral("PageTabList"),  QStringLiteral("PopupMenu"),
+    QStringLiteral("Document"),    QStringLiteral("Grouping"),     QStringLiteral("StaticText")};
+
+// These always have a name, reached or not.
+const std::set<QString> kNamed = {
+    QStringLiteral("Window"),       QStringLiteral("Dialog"),    QStringLiteral("AlertMessage"),
+    QStringLiteral("PropertyPage"), QStringLiteral("ScrollBar"), QStringLiteral("Graphic"),
+    QStringLiteral("StaticText"),   QStringLiteral("ToolBar"),   QStringLiteral("TitleBar"),
+    QStringLiteral("MenuBar"),      QStringLiteral("Grouping")};
+
+std::string Described(const QJsonObject& object) {
+  return QStringLiteral("%1 \"%2\" at %3,%4")
+      .arg(object.value(u"role").toString(), object.value(u"name").toString())
+      .arg(object.value(u"x").toInt())
+      .arg(object.value(u"y").toInt())
+      .toStdString();
+}
+
+void ExpectSpoken(const QJsonObject& object) {
+  const QString role = object.value(u"role").toString();
+  const QString name = object.value(u"name").toString();
+  if (IsReached(object)) {
+    EXPECT_TRUE(kRoles.contains(role)) << Described(object);
+    EXPECT_FALSE(name.isEmpty()) << Described(object);
+  }
+  if (kNamed.contains(role)) {
+    EXPECT_FALSE(name.isEmpty()) << Described(object);
+  }
+}
+
+// The first in the tree with this role and name; empty when there is none.
+QJsonObject Find(const QJsonObject& tree, const QString& role, const QString& name) {
+  QJsonObject found;
+  ForEachInTree(tree, [&](const QJsonObject& object) {
+    if (found.isEmpty() && object.value(u"role") == role && object.value(u"name") == name)
+      found = object;
+  });
+  return found;
+}
+
+}  // namespace
+
+TEST(Accessible, EveryWindowSaysNameAndRoleOfAllThatIsReached) {
+  std::set<QString> roles;
+  const int places = WindowWalk().Go([&roles](ReadyDriver& driver, const QString&) {
+    bool isFocused = false;
+    ForEachInTree(Tree(driver), [&](const QJsonObject& object) {
+      ExpectSpoken(object);
+      if (IsReached(object)) roles.insert(object.value(u"role").toString());
+      isFocused |= Has(object, u"state", QStringLiteral("focused"));
+    });
+    EXPECT_TRUE(isFocused) << "the keys go somewhere that is not told of";
+  });
+  EXPECT_GE(places, 70);
+  EXPECT_EQ(roles, kRoles) << "a role was not met";
+}
+
+TEST(Accessible, RowsOfTheListSayNameAndNumberAndWhetherTheyAreSelected) {
+  ReadyDriver driver;
+  driver.Result(R"({"op":"put","quiet":true,"fields":{"FileAs":"김철수",)"
+                R"("HomeTelephoneNumber":"02-1"}})",
+                u"oid");
+  driver.Do(R"({"op":"command","id":59413})");
+  driver.Do(R"({"op":"key","key":"Down"})");
+  const QJsonObject row =
+      Find(Tree(driver), QStringLiteral("ListItem"), QStringLiteral("김철수, 02-1"));
+  ASSERT_FALSE(row.isEmpty());
+  EXPECT_TRUE(Has(row, u"state", QStringLiteral("selected")));
+  EXPECT_TRUE(Has(row, u"state", QStringLiteral("focused")));
+  EXPECT_EQ(row.value(u"x"), 0);
+  EXPECT_EQ(row.value(u"y"), 71);
+  EXPECT_EQ(row.value(u"h"), 16);
+}
+
+TEST(Accessible, TheEditorOfARowIsTheRowsAndHasItsName) {
+  ReadyDriver driver;
+  driver.Do(R"({"op":"command","id":57600})");
+  driver.Do(R"({"op":"tap","on":"rows","x":120,"y":28})");
+  driver.Do(R"({"op":"type","text":"직함"})");
+  const QJsonObject rows = Find(Tree(driver), QStringLiteral("List"), QStringLiteral("Basic"));
+  const QJsonObject edit = Find(rows, QStringLiteral("EditableText"), QStringLiteral("Job title"));
+  EXPECT_EQ(edit.value(u"value"), QStringLiteral("직함"));
+  EXPECT_TRUE(Has(edit, u"state", QStringLiteral("focused")));
+}
+
+TEST(Accessible, AChoiceSaysItsNameAndWhatIsChosen) {
+  ReadyDriver driver;
+  driver.Result(R"({"op":"put","quiet":true,"fields":{"FileAs":"Kim"}})", u"oid");
+  driver.Do(R"({"op":"command","id":59413})");
+  driver.Do(R"({"op":"hold","on":"list","x":50,"y":8})");
+  driver.Do(R"({"op":"choose","id":32819})");
+  driver.Do(R"({"op":"reveal","id":1020})");
+  const QJsonObject choice =
+      Find(Tree(driver), QStringLiteral("ComboBox"), QStringLiteral("Recur"));
+  EXPECT_EQ(choice.value(u"value"), QStringLiteral("Once"));
+  EXPECT_TRUE(Has(choice, u"state", QStringLiteral("haspopup")));
+  driver.Do(R"({"op":"drop","id":1020})");
+  EXPECT_FALSE(Find(Tree(driver), QStringLiteral("PopupMenu"), QStringLiteral("Recur")).isEmpty());
+}
+
+TEST(Accessible, ADialogIsModalAndTheFrameIsNot) {
+  ReadyDriver driver;
+  driver.Do(R"({"op":"command","id":57664})");
+  const QJsonObject tree = Tree(driver);
+  EXPECT_TRUE(Has(Find(tree, QStringLiteral("Dialog"), QStringLiteral("About")), u"state",
+                  QStringLiteral("modal")));
+  EXPECT_FALSE(Has(Find(tree, QStringLiteral("Window"), QStringLiteral("Quill (Quillbook)")),
+                   u"state", QStringLiteral("modal")));
+}
+
+TEST(Accessible, AWindowThatIsNotThereIsUnknown) {
+  ReadyDriver driver;
+  EXPECT_EQ(driver.Error(R"({"op":"accessible","on":"top"})"), QStringLiteral("unknown"));
+  EXPECT_EQ(driver.Error(R"({"op":"accessible","on":true})"), QStringLiteral("malformed"));
+}
