@@ -5,59 +5,18 @@
 
 #include "driver/WindowWalk.h"
 
+using quill::test::ExpectSpoken;
 using quill::test::ForEachInTree;
+using quill::test::Has;
+using quill::test::IsReached;
 using quill::test::ReadyDriver;
+using quill::test::SpokenRoles;
 using quill::test::WindowWalk;
 
 namespace {
 
 QJsonObject Tree(ReadyDriver& driver) {
   return driver.Result(R"({"op":"accessible"})", u"accessible").toObject();
-}
-
-bool Has(const QJsonObject& object, QStringView list, const QString& word) {
-  return object.value(list).toArray().contains(word);
-}
-
-// What can have the focus or be pressed.
-bool IsReached(const QJsonObject& object) {
-  return Has(object, u"state", QStringLiteral("focusable")) ||
-         !object.value(u"actions").toArray().isEmpty();
-}
-
-// What a reader can say of something that is reached.
-const std::set<QString> kRoles = {
-    QStringLiteral("Button"),      QStringLiteral("EditableText"), QStringLiteral("CheckBox"),
-    QStringLiteral("RadioButton"), QStringLiteral("ComboBox"),     QStringLiteral("SpinBox"),
-    QStringLiteral("List"),        QStringLiteral("ListItem"),     QStringLiteral("MenuItem"),
-    QStringLiteral("PageTab"),     QStringLiteral("PageTabList"),  QStringLiteral("PopupMenu"),
-    QStringLiteral("Document"),    QStringLiteral("Grouping"),     QStringLiteral("StaticText")};
-
-// These always have a name, reached or not.
-const std::set<QString> kNamed = {
-    QStringLiteral("Window"),       QStringLiteral("Dialog"),    QStringLiteral("AlertMessage"),
-    QStringLiteral("PropertyPage"), QStringLiteral("ScrollBar"), QStringLiteral("Graphic"),
-    QStringLiteral("StaticText"),   QStringLiteral("ToolBar"),   QStringLiteral("TitleBar"),
-    QStringLiteral("MenuBar"),      QStringLiteral("Grouping")};
-
-std::string Described(const QJsonObject& object) {
-  return QStringLiteral("%1 \"%2\" at %3,%4")
-      .arg(object.value(u"role").toString(), object.value(u"name").toString())
-      .arg(object.value(u"x").toInt())
-      .arg(object.value(u"y").toInt())
-      .toStdString();
-}
-
-void ExpectSpoken(const QJsonObject& object) {
-  const QString role = object.value(u"role").toString();
-  const QString name = object.value(u"name").toString();
-  if (IsReached(object)) {
-    EXPECT_TRUE(kRoles.contains(role)) << Described(object);
-    EXPECT_FALSE(name.isEmpty()) << Described(object);
-  }
-  if (kNamed.contains(role)) {
-    EXPECT_FALSE(name.isEmpty()) << Described(object);
-  }
 }
 
 // The first in the tree with this role and name; empty when there is none.
@@ -75,16 +34,17 @@ QJsonObject Find(const QJsonObject& tree, const QString& role, const QString& na
 TEST(Accessible, EveryWindowSaysNameAndRoleOfAllThatIsReached) {
   std::set<QString> roles;
   const int places = WindowWalk().Go([&roles](ReadyDriver& driver, const QString&) {
+    const QJsonObject tree = Tree(driver);
+    ExpectSpoken(tree);
     bool isFocused = false;
-    ForEachInTree(Tree(driver), [&](const QJsonObject& object) {
-      ExpectSpoken(object);
+    ForEachInTree(tree, [&](const QJsonObject& object) {
       if (IsReached(object)) roles.insert(object.value(u"role").toString());
       isFocused |= Has(object, u"state", QStringLiteral("focused"));
     });
     EXPECT_TRUE(isFocused) << "the keys go somewhere that is not told of";
   });
   EXPECT_GE(places, 70);
-  EXPECT_EQ(roles, kRoles) << "a role was not met";
+  EXPECT_EQ(roles, SpokenRoles()) << "a role was not met";
 }
 
 TEST(Accessible, RowsOfTheListSayNameAndNumberAndWhetherTheyAreSelected) {

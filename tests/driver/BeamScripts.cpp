@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "driver/DriverProcess.h"
+#include "driver/WindowWalk.h"
 
 using quill::test::DriverProcess;
 using quill::test::ReadyDriver;
@@ -244,6 +244,8 @@ TEST_F(TwoPrograms, HandEachOtherContactsOnceTheReceiverIsAsked) {
               QStringLiteral("127.0.0.1"));
     EXPECT_EQ(receiver.Result(R"({"op":"get","id":1003})", u"control")[u"text"],
               QLatin1String(name));
+    quill::test::ExpectSpoken(
+        receiver.Result(R"({"op":"accessible","on":"top"})", u"accessible").toObject());
     receiver.Do(R"({"op":"click","id":6})");
   }
   EXPECT_TRUE(Await(receiver, [&] {

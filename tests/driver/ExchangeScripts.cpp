@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "driver/DriverProcess.h"
+#include "driver/WindowWalk.h"
 
 using quill::test::ReadyDriver;
 
@@ -194,6 +194,8 @@ TEST_F(ExchangeScript, ALongImportShowsItsProgressAndKeepsWhatItHasWhenCancelled
   Bring(driver, QStringLiteral("many.vcf"));
   EXPECT_EQ(TopTitle(driver), QStringLiteral("Import"));
   EXPECT_EQ(Message(driver), QJsonValue()) << "it still runs";
+  quill::test::ExpectSpoken(
+      driver.Result(R"({"op":"accessible","on":"top"})", u"accessible").toObject());
   driver.Do(R"({"op":"click","id":2})");
   EXPECT_TRUE(
       TextOf(Message(driver)).contains(QStringLiteral("stopped; what came in until then stays")))

@@ -8,6 +8,45 @@
 
 namespace quill::test {
 
+namespace {
+
+// What a reader can say of something that is reached.
+const std::set<QString> kRoles = {
+    QStringLiteral("Button"),      QStringLiteral("EditableText"), QStringLiteral("CheckBox"),
+    QStringLiteral("RadioButton"), QStringLiteral("ComboBox"),     QStringLiteral("SpinBox"),
+    QStringLiteral("List"),        QStringLiteral("ListItem"),     QStringLiteral("MenuItem"),
+    QStringLiteral("PageTab"),     QStringLiteral("PageTabList"),  QStringLiteral("PopupMenu"),
+    QStringLiteral("Document"),    QStringLiteral("Grouping"),     QStringLiteral("StaticText")};
+
+// These always have a name, reached or not.
+const std::set<QString> kNamed = {
+    QStringLiteral("Window"),       QStringLiteral("Dialog"),    QStringLiteral("AlertMessage"),
+    QStringLiteral("PropertyPage"), QStringLiteral("ScrollBar"), QStringLiteral("Graphic"),
+    QStringLiteral("StaticText"),   QStringLiteral("ToolBar"),   QStringLiteral("TitleBar"),
+    QStringLiteral("MenuBar"),      QStringLiteral("Grouping")};
+
+std::string Described(const QJsonObject& object) {
+  return QStringLiteral("%1 \"%2\" at %3,%4")
+      .arg(object.value(u"role").toString(), object.value(u"name").toString())
+      .arg(object.value(u"x").toInt())
+      .arg(object.value(u"y").toInt())
+      .toStdString();
+}
+
+void ExpectOneSpoken(const QJsonObject& object) {
+  const QString role = object.value(u"role").toString();
+  const QString name = object.value(u"name").toString();
+  if (IsReached(object)) {
+    EXPECT_TRUE(kRoles.contains(role)) << Described(object);
+    EXPECT_FALSE(name.isEmpty()) << Described(object);
+  }
+  if (kNamed.contains(role)) {
+    EXPECT_FALSE(name.isEmpty()) << Described(object);
+  }
+}
+
+}  // namespace
+
 WindowWalk::WindowWalk(const QString& scale) : m_scale(scale) {
   Write(QStringLiteral("contacts.vcf"), "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:Quill\r\nEND:VCARD\r\n");
   // In Korean letters of one old character set, which the file does not name.
@@ -50,6 +89,22 @@ int WindowWalk::Go(const Look& look) {
 void ForEachInTree(const QJsonObject& tree, const std::function<void(const QJsonObject&)>& look) {
   look(tree);
   for (const auto& child : tree.value(u"children").toArray()) ForEachInTree(child.toObject(), look);
+}
+
+bool Has(const QJsonObject& object, QStringView list, const QString& word) {
+  return object.value(list).toArray().contains(word);
+}
+
+bool IsReached(const QJsonObject& object) {
+  return Has(object, u"state", QStringLiteral("focusable")) ||
+         !object.value(u"actions").toArray().isEmpty();
+}
+
+const std::set<QString>& SpokenRoles() { return kRoles; }
+
+void ExpectSpoken(const QJsonObject& tree) {
+  EXPECT_FALSE(tree.value(u"role").toString().isEmpty());
+  ForEachInTree(tree, ExpectOneSpoken);
 }
 
 }  // namespace quill::test

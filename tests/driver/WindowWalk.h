@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include <functional>
+#include <set>
 
 #include "driver/DriverProcess.h"
 
@@ -28,5 +29,15 @@ class WindowWalk {
 
 // Calls for a window of `accessible` and for each below it.
 void ForEachInTree(const QJsonObject& tree, const std::function<void(const QJsonObject&)>& look);
+
+// Whether a list of it, "state" or "actions", has this word.
+bool Has(const QJsonObject& object, QStringView list, const QString& word);
+// What can have the focus or be pressed.
+bool IsReached(const QJsonObject& object);
+// The roles that something which is reached may have.
+const std::set<QString>& SpokenRoles();
+
+// All that is reached below a window has a name and one of these roles.
+void ExpectSpoken(const QJsonObject& tree);
 
 }  // namespace quill::test

