@@ -99,7 +99,8 @@ TEST_F(AppointmentScript, ItIsWithThePopupsContactAlsoWhenTheStoreChangesUnderTh
   EXPECT_EQ(Control(1028)[u"text"], QStringLiteral("(Kim)"));
   Cancel();
   m_driver.Do(R"({"op":"wait","ms":600})");
-  EXPECT_EQ(m_driver.Result(R"({"op":"list"})", u"list")[u"total"], 2) << "and then the list follows";
+  EXPECT_EQ(m_driver.Result(R"({"op":"list"})", u"list")[u"total"], 2)
+      << "and then the list follows";
 }
 
 TEST_F(AppointmentScript, ARowsControlsAreHiddenUntilItIsTapped) {
