@@ -1,6 +1,7 @@
 #include "app/CardFileImport.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <cstdio>
@@ -20,6 +21,11 @@ QString ProgressText(const QString& name, const ImportProgress& progress, qint64
   const QString text = QStringLiteral("%1: %2 cards").arg(name).arg(progress.Cards);
   if (size <= 0) return text;  // a pipe does not say how much will come
   return text + QStringLiteral(", %1 %").arg(100 * progress.BytesRead / size);
+}
+
+bool IsNoPlainFile(const QString& name) {
+  const QFileInfo info(name);
+  return info.exists() && !info.isFile();
 }
 
 // The files of one command, one after the other into the same store.
@@ -49,6 +55,8 @@ class FileImport {
   void TakeFile(const QString& name) {
     const bool isInput = name == kStandardInput;
     QFile file(name);
+    if (m_task.Sources == ImportSources::PlainFiles && IsNoPlainFile(name))
+      return Fail(kExitFailed, name, QStringLiteral("not a file"));
     if (!(isInput ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly)))
       return Fail(kExitFailed, name, file.errorString());
     const QString title = isInput ? QStringLiteral("standard input") : name;

@@ -11,10 +11,14 @@
 
 namespace quill {
 
+// What may be read. A pipe or a device may keep its reader waiting for ever.
+enum class ImportSources { Any, PlainFiles };
+
 struct ImportTask {
   Places Where;           // its folders exist
   QStringList Arguments;  // each a file, a folder (CardFilesOf) or "-" for standard input
   ImportOptions Options;  // without Continue
+  ImportSources Sources = ImportSources::Any;
   // Asked now and then, with the file at hand; false stops the import and the files after it.
   std::function<bool(const QString& file, const ImportProgress& progress)> Continue = {};
 };

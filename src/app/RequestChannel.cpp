@@ -8,6 +8,7 @@
 #include <QLocalSocket>
 #include <QLoggingCategory>
 #include <QThread>
+#include <QTimer>
 
 #include <utility>
 
@@ -20,6 +21,9 @@ Q_LOGGING_CATEGORY(logRequests, "quill.requests")
 
 // A socket address holds 107 bytes. QLocalServer first binds ".XXXXXX/s" beside the wanted name.
 constexpr qsizetype kPathLimit = 107 - 9;
+constexpr qint64 kReadAtOnce =
+    kRequestLineLimit + 2;            // bytes; enough to see that a line is too long
+constexpr int kMostConnections = 32;  // at once; a sender that is turned away tries again
 constexpr auto kRetryPause = std::chrono::milliseconds(25);
 
 // A folder that only this user can have made what it is: others' folders are not to be trusted with
@@ -68,8 +72,9 @@ QString RequestSocket(const Places& places) {
   return shorter.isEmpty() ? path : shorter + u'/' + name;
 }
 
-RequestChannel::RequestChannel(const QString& socket, RequestHandler handler)
-    : m_socket(socket), m_handler(std::move(handler)) {
+RequestChannel::RequestChannel(const QString& socket, RequestHandler handler,
+                               std::chrono::milliseconds patience)
+    : m_socket(socket), m_handler(std::move(handler)), m_patience(patience) {
   m_server.setSocketOptions(QLocalServer::UserAccessOption);
   QObject::connect(&m_server, &QLocalServer::newConnection, &m_server, [this] { Accept(); });
 }
@@ -84,19 +89,28 @@ bool RequestChannel::Listen() {
 void RequestChannel::Accept() {
   while (QLocalSocket* connection = m_server.nextPendingConnection()) {
     QObject::connect(connection, &QLocalSocket::disconnected, connection, &QObject::deleteLater);
-    QObject::connect(connection, &QLocalSocket::readyRead, connection,
-                     [this, connection] { ReadFrom(*connection); });
-    ReadFrom(*connection);  // the line may have come before the connection was taken
+    m_connections < kMostConnections ? Serve(*connection) : connection->abort();
   }
+}
+
+void RequestChannel::Serve(QLocalSocket& connection) {
+  ++m_connections;
+  QObject::connect(&connection, &QLocalSocket::disconnected, &connection,
+                   [this] { --m_connections; });
+  QObject::connect(&connection, &QLocalSocket::readyRead, &connection,
+                   [this, &connection] { ReadFrom(connection); });
+  // Whoever sends nothing, only half a line, or does not take the answer.
+  QTimer::singleShot(m_patience, &connection, [&connection] { connection.abort(); });
+  connection.setReadBufferSize(kReadAtOnce);
+  ReadFrom(connection);  // the line may have come before the connection was taken
 }
 
 void RequestChannel::ReadFrom(QLocalSocket& connection) {
   const bool tooLong = connection.bytesAvailable() > kRequestLineLimit;
   if (!connection.canReadLine() && !tooLong) return;
   // One line for each connection: what follows is not read.
-  connection.disconnect(&connection, nullptr);
-  QObject::connect(&connection, &QLocalSocket::disconnected, &connection, &QObject::deleteLater);
-  connection.write(WriteAnswer(Answer(connection.readLine(kRequestLineLimit + 2))));
+  QObject::disconnect(&connection, &QLocalSocket::readyRead, nullptr, nullptr);
+  connection.write(WriteAnswer(Answer(connection.readLine(kReadAtOnce))));
   connection.flush();
   connection.disconnectFromServer();
 }

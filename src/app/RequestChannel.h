@@ -24,7 +24,9 @@ QString RequestSocketName(const Places& places);
 // Needs an event loop. Only the process that holds the instance lock may listen.
 class RequestChannel {
  public:
-  RequestChannel(const QString& socket, RequestHandler handler);
+  // patience: how long a connection may take for its line and for its answer.
+  RequestChannel(const QString& socket, RequestHandler handler,
+                 std::chrono::milliseconds patience = std::chrono::seconds(5));
   RequestChannel(const RequestChannel&) = delete;
   RequestChannel& operator=(const RequestChannel&) = delete;
 
@@ -33,11 +35,14 @@ class RequestChannel {
 
  private:
   void Accept();
+  void Serve(QLocalSocket& connection);
   void ReadFrom(QLocalSocket& connection);
   QString Answer(const QByteArray& line) const;
 
   QString m_socket;
   RequestHandler m_handler;
+  std::chrono::milliseconds m_patience;
+  int m_connections = 0;  // being served
   QLocalServer m_server;
 };
 

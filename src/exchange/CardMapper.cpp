@@ -1,6 +1,7 @@
 #include "exchange/CardMapper.h"
 
 #include <QCryptographicHash>
+#include <QSet>
 #include <QStringList>
 
 #include <algorithm>
@@ -70,13 +71,16 @@ void PlaceCompany(CardPool& pool, ContactRecord& record) {
 void PlaceCategories(CardPool& pool, ContactRecord& record) {
   QString& field = record[Field::Categories];
   QStringList names = SplitCategories(field);
+  QSet<QString> known(names.begin(), names.end());
   const qsizetype before = names.size();
   for (const CardProperty* categories : pool.All(u"CATEGORIES")) {
     for (QString name : PartsOf(*categories, u',')) {
       // A comma separates names in the record.
       name = name.replace(u',', u' ').trimmed();
       const bool isName = !name.isEmpty() && name != kNoCategories;
-      if (isName && !names.contains(name)) names.append(name);
+      if (!isName || known.contains(name)) continue;
+      known.insert(name);
+      names.append(name);
     }
     pool.Take(*categories);
   }

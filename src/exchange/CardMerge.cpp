@@ -30,11 +30,9 @@ bool HasAddress(const QStringList& texts, const ContactRecord& record) {
   });
 }
 
-// Whatever its group is called now.
+// However it is written there, and whatever its group is called now.
 bool IsCarried(const CardProperty& property, const QString& lines) {
-  const QString line = CarriedLine(property);
-  const qsizetype name = property.Group.isEmpty() ? 0 : property.Group.size() + 1;
-  return lines.contains(line.sliced(name) + u'\n');
+  return JoinCarriedLines(lines, CarriedLine(property) + u'\n') == lines;
 }
 
 void JoinAddresses(CardPool& pool, ContactItem& contact) {

@@ -146,6 +146,7 @@ std::optional<CardProperty> ParseProperty(const QByteArray& line, const CardChar
   if (colon <= 0) return std::nullopt;
   CardProperty property;
   const QByteArray header = line.first(colon);
+  if (header.count(';') + header.count(',') > kMaxParameters) return std::nullopt;
   const QList<QByteArray> pieces = SplitUnquoted(header, ';');
   if (!ParseName(pieces.first(), property)) return std::nullopt;
   for (qsizetype i = 1; i < pieces.size(); ++i) {
@@ -197,11 +198,12 @@ QStringList PartsOf(const CardProperty& property, QChar separator) {
 QStringList FixedPartsOf(const CardProperty& property, int count) {
   QStringList parts = PartsOf(property, u';');
   while (parts.size() < count) parts.append(QString());
-  while (parts.size() > count) {
-    const QString surplus = parts.takeAt(count);
-    if (!surplus.trimmed().isEmpty()) parts[count - 1] += u"; "_qs + surplus;
+  QString& last = parts[count - 1];
+  for (qsizetype i = count; i < parts.size(); ++i) {
+    const QString& surplus = parts.at(i);
+    if (!surplus.trimmed().isEmpty()) last += u"; "_qs + surplus;
   }
-  return parts;
+  return parts.first(count);
 }
 
 QByteArray BytesOf(const CardProperty& property) {

@@ -12,6 +12,9 @@
 
 namespace quill {
 
+// That a property may have, and values of them: each takes far more memory than bytes of the line.
+inline constexpr qsizetype kMaxParameters = 128;
+
 enum class CardEncoding { Plain, QuotedPrintable, Base64 };
 
 struct CardParameter {
@@ -38,7 +41,7 @@ qsizetype HeaderEnd(QByteArrayView line);
 // The encoding that a header (what stands before the colon) announces.
 CardEncoding AnnouncedEncoding(const QByteArray& header);
 
-// Nothing when the line has no colon or no proper name.
+// Nothing when the line has no colon, no proper name or too many parameters.
 std::optional<CardProperty> ParseProperty(const QByteArray& line, const CardCharset& charset);
 
 // The TYPE words, upper-case, however they were written.

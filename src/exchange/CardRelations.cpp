@@ -1,5 +1,7 @@
 #include "exchange/CardRelations.h"
 
+#include <QSet>
+
 #include <array>
 #include <span>
 
@@ -86,12 +88,13 @@ void PlaceChildren(CardPool& pool, QString& children) {
   Properties sources = Named(pool, kChildrenNames);
   Append(sources, Labelled(pool, kRelativeProperty, kCardChildren.Label));
   Append(sources, Related(pool, kCardChildren.Label));
-  QStringList known = children.split(u", "_qs);
+  const QStringList names = children.split(u", "_qs);
+  QSet<QString> known(names.begin(), names.end());
   for (const CardProperty* source : sources) {
     for (const QString& name : TextOf(*source).split(u", "_qs)) {
       if (name.isEmpty() || known.contains(name)) continue;
       children += (children.isEmpty() ? QString() : u", "_qs) + name;
-      known.append(name);
+      known.insert(name);
     }
     TakeWithLabel(pool, *source);
   }

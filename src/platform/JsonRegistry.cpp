@@ -15,6 +15,13 @@ namespace {
 
 Q_LOGGING_CATEGORY(logRegistry, "quill.registry")
 
+constexpr qint64 kLargestFile = 8 * 1024 * 1024;  // bytes; what is longer is not looked at
+
+// Nothing when it is no registry.
+std::optional<RegistryKeys> KeysIn(QFile& file) {
+  return file.size() > kLargestFile ? std::nullopt : RegistryFromJson(file.readAll());
+}
+
 bool SetAside(const QString& file) {
   const QString aside = SetFileAside(file);
   if (!aside.isEmpty()) qCWarning(logRegistry) << "damaged settings are kept as" << aside;
@@ -28,12 +35,13 @@ JsonRegistry::JsonRegistry(const QString& file) : m_file(file) { Load(); }
 void JsonRegistry::Load() {
   if (!QFileInfo::exists(m_file)) return;
   QFile file(m_file);
-  if (!file.open(QIODevice::ReadOnly)) {
+  // Anything but a plain file, such as a pipe, could keep the program waiting.
+  if (!QFileInfo(m_file).isFile() || !file.open(QIODevice::ReadOnly)) {
     qCWarning(logRegistry) << "cannot read" << m_file << file.errorString();
     m_writable = false;
     return;
   }
-  if (auto keys = RegistryFromJson(file.readAll())) {
+  if (auto keys = KeysIn(file)) {
     m_keys = std::move(*keys);
     return;
   }
@@ -68,8 +76,13 @@ bool JsonRegistry::Replace(RegistryKeys keys) {
     qCWarning(logRegistry) << "settings are not written over" << m_file;
     return false;
   }
+  const QByteArray json = JsonFromRegistry(keys);
+  if (!RegistryFromJson(json)) {
+    qCWarning(logRegistry) << "settings that could not be read again are not written:" << m_file;
+    return false;
+  }
   QDir().mkpath(QFileInfo(m_file).absolutePath());  // a failure shows when the file is opened
-  const QString problem = WriteWholeFile(m_file, JsonFromRegistry(keys));
+  const QString problem = WriteWholeFile(m_file, json);
   if (!problem.isEmpty()) {
     qCWarning(logRegistry) << "cannot write" << m_file << problem;
     return false;

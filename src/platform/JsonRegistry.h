@@ -1,8 +1,9 @@
 // The registry on a desktop: one JSON file (RegistryJson.h), written anew as a whole with each
 // value that is put, also when it is the one that was there.
 //
-// A file that cannot be understood is renamed to NAME.bad, NAME.bad-2, ... and the registry begins
-// empty. A file that can be neither read nor renamed stays, and every change fails.
+// A file that cannot be understood, or is far too long, is renamed to NAME.bad, NAME.bad-2, ... and
+// the registry begins empty. A file that can be neither read nor renamed stays, and every change
+// fails.
 #pragma once
 
 #include "platform/RegistryJson.h"

@@ -12,7 +12,8 @@ namespace quill {
 
 namespace {
 
-constexpr int kLargestBlock = 1 << 20;  // no setting is near this; a larger figure is damage
+// All blocks of a registry together; no settings are near this, and a larger figure is damage.
+constexpr qsizetype kMostBytes = 1 << 20;
 
 QString UnitsOfBlock(const QByteArray& block) {
   QString units(block.size() / 2, Qt::Uninitialized);
@@ -53,7 +54,7 @@ std::optional<RegistryValue> BlockOfJson(const QJsonObject& object) {
   }
   const QJsonValue text = object.value(QStringLiteral("text"));
   const int bytes = object.value(QStringLiteral("bytes")).toInt(-1);
-  if (!text.isString() || bytes < 0 || bytes > kLargestBlock) return std::nullopt;
+  if (!text.isString() || bytes < 0 || bytes > kMostBytes) return std::nullopt;
   const QByteArray block = BlockOfUnits(text.toString());
   if (block.size() > bytes) return std::nullopt;
   return block.leftJustified(bytes, '\0');
@@ -70,10 +71,18 @@ std::optional<RegistryValue> ValueOfJson(const QJsonValue& json) {
   return json.isObject() ? BlockOfJson(json.toObject()) : std::nullopt;
 }
 
-bool ReadValues(const QJsonObject& object, RegistryKey& key) {
+qsizetype SizeOf(const RegistryValue& value) {
+  const auto* block = std::get_if<QByteArray>(&value);
+  return block ? block->size() : 0;
+}
+
+// room: how many bytes the blocks may still have.
+bool ReadValues(const QJsonObject& object, RegistryKey& key, qsizetype& room) {
   for (auto entry = object.begin(); entry != object.end(); ++entry) {
     const auto value = ValueOfJson(entry.value());
     if (!value) return false;
+    room -= SizeOf(*value);
+    if (room < 0) return false;
     RegistryValueIn(key, entry.key()) = *value;
   }
   return true;
@@ -107,10 +116,11 @@ std::optional<RegistryKeys> RegistryFromJson(const QByteArray& json) {
   if (!document.isObject()) return std::nullopt;
   const QJsonObject root = document.object();
   RegistryKeys keys;
+  qsizetype room = kMostBytes;
   for (auto entry = root.begin(); entry != root.end(); ++entry) {
     if (!entry.value().isObject()) return std::nullopt;
     RegistryKey& key = RegistryKeyIn(keys, entry.key());
-    if (!ReadValues(entry.value().toObject(), key)) return std::nullopt;
+    if (!ReadValues(entry.value().toObject(), key, room)) return std::nullopt;
   }
   return keys;
 }

@@ -36,7 +36,8 @@ QString RegistryFold(const QString& name);
 RegistryKey& RegistryKeyIn(RegistryKeys& keys, const QString& key);
 RegistryValue& RegistryValueIn(RegistryKey& key, const QString& name);
 
-// Nothing when the text is not such JSON in every part.
+// Nothing when the text is not such JSON in every part, or asks for more than a mebibyte of
+// blocks.
 std::optional<RegistryKeys> RegistryFromJson(const QByteArray& json);
 QByteArray JsonFromRegistry(const RegistryKeys& keys);
 

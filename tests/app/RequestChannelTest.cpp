@@ -156,6 +156,45 @@ TEST_F(RequestChannelOn, ALineWithoutEndIsCutOffAtTheLimit) {
   EXPECT_TRUE(answer.contains("request too long")) << answer.toStdString();
 }
 
+TEST_F(RequestChannelOn, WhoeverSaysNothingOrHalfALineIsCutOff) {
+  RequestChannel channel(m_socket, Handler(), kShortPatience);
+  ASSERT_TRUE(channel.Listen());
+  EXPECT_EQ(AnswerTo(m_socket, ""), "");
+  EXPECT_EQ(AnswerTo(m_socket, "{\"request\":"), "");
+  EXPECT_EQ(SendBeside(m_socket, {}), RequestOutcome::Done);
+}
+
+// Connects as often until the channel turns one away, and gives the others.
+std::vector<std::unique_ptr<QLocalSocket>> HeldConnections(const QString& socket) {
+  std::vector<std::unique_ptr<QLocalSocket>> held;
+  for (bool isTurnedAway = false; !isTurnedAway && held.size() < 1000;) {
+    held.push_back(std::make_unique<QLocalSocket>());
+    held.back()->connectToServer(socket);
+    EXPECT_TRUE(held.back()->waitForConnected());
+    isTurnedAway = held.back()->waitForDisconnected(100);
+  }
+  held.pop_back();
+  return held;
+}
+
+TEST_F(RequestChannelOn, AFewConnectionsAreServedAtOnceAndMoreAreTurnedAway) {
+  RequestChannel channel(m_socket, Handler(), std::chrono::minutes(5));
+  ASSERT_TRUE(channel.Listen());
+  std::size_t held = 0;
+  std::size_t heldAgain = 0;
+  RequestOutcome meanwhile = RequestOutcome::Done;
+  RunBeside([&] {
+    const auto connections = HeldConnections(m_socket);
+    held = connections.size();
+    meanwhile = SendRequest(m_socket, {}, kShortPatience);
+  });
+  RunBeside([&] { heldAgain = HeldConnections(m_socket).size(); });
+  EXPECT_EQ(held, 32U);
+  EXPECT_EQ(meanwhile, RequestOutcome::Unreached);
+  EXPECT_EQ(heldAgain, held) << "those that went left their places";
+  EXPECT_EQ(SendBeside(m_socket, {}), RequestOutcome::Done);
+}
+
 TEST_F(RequestChannelOn, OneConnectionCarriesOneRequest) {
   RequestChannel channel(m_socket, Handler());
   ASSERT_TRUE(channel.Listen());

@@ -1,7 +1,10 @@
 #include "app/ui/FileImport.h"
 
 #include <QComboBox>
+#include <QFile>
 #include <QGuiApplication>
+
+#include <sys/stat.h>
 
 #include "ExchangeFixture.h"
 
@@ -39,6 +42,14 @@ TEST_F(FileImportTest, AFileThatIsNotThereIsAWarning) {
   const PromptMessage message = Import({Path(QStringLiteral("none.vcf"))});
   EXPECT_EQ(message.Icon, PromptIcon::Warning);
   EXPECT_TRUE(message.Text.startsWith(QStringLiteral("none.vcf: "))) << message.Text.toStdString();
+}
+
+TEST_F(FileImportTest, APipeKeepsNobodyWaiting) {
+  const QString pipe = Path(QStringLiteral("pipe.vcf"));
+  ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), S_IRUSR | S_IWUSR), 0);
+  const PromptMessage message = Import({pipe});
+  EXPECT_EQ(message.Icon, PromptIcon::Warning);
+  EXPECT_TRUE(message.Text.contains(QStringLiteral("not a file"))) << message.Text.toStdString();
 }
 
 TEST_F(FileImportTest, UndeclaredTextAsksForItsCharacterSet) {

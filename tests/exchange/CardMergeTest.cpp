@@ -91,6 +91,16 @@ INSTANTIATE_TEST_SUITE_P(
                   "FN:A\nb.ADR;TYPE=HOME:;;S;Ulm\n",
                   "FileAs=A\nFirstName=A\nHomeAddressStreet=S\nOtherAddressStreet=T\n"
                   "Carried=a.ADR;TYPE=HOME:;;S;Ulm\n"},
+        MergeCase{"AddressCarriedOfAnEmptyGroup",
+                  "FN:A\nADR;TYPE=HOME:;;S\nADR:;;T\nADR;TYPE=HOME:;;S;Ulm\n",
+                  "FN:A\n.ADR;TYPE=HOME:;;S;Ulm\n",
+                  "FileAs=A\nFirstName=A\nHomeAddressStreet=S\nOtherAddressStreet=T\n"
+                  "Carried=ADR;TYPE=HOME:;;S;Ulm\n"},
+        MergeCase{"AddressCarriedInOtherWords",
+                  "FN:A\nADR;TYPE=HOME:;;S\nADR:;;T\nADR;TYPE=HOME:;;S;Ulm\n",
+                  "FN:A\nadr;home:;;S;Ulm\n",
+                  "FileAs=A\nFirstName=A\nHomeAddressStreet=S\nOtherAddressStreet=T\n"
+                  "Carried=ADR;TYPE=HOME:;;S;Ulm\n"},
         MergeCase{"Categories", "FN:A\nCATEGORIES:Golf,Work\n", "FN:A\nCATEGORIES:Work,Club\n",
                   "FileAs=A\nFirstName=A\nCategories=Golf, Work, Club\n"},
         MergeCase{"Spouse", "FN:A\nX-SPOUSE:Max\n", "FN:A\nX-SPOUSE:Mo\nX-MS-SPOUSE:Max\n",

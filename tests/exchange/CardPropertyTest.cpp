@@ -66,6 +66,14 @@ INSTANTIATE_TEST_SUITE_P(Lines, CardBadLines,
                          testing::Values("", ":", "no colon", ":value", ";A=1:value", "a b:value",
                                          "a.:value", "t\xC3\xA9l:1", "# a:b"));
 
+TEST(CardProperty, HasParametersUpToALimit) {
+  const QByteArray most = QByteArray(";a,b").repeated(kMaxParameters / 2);
+  EXPECT_TRUE(ParseProperty("A" + most + ":x", {}).has_value());
+  EXPECT_FALSE(ParseProperty("A" + most + ";c:x", {}).has_value());
+  EXPECT_FALSE(ParseProperty("A" + most + ",c:x", {}).has_value());
+  EXPECT_TRUE(ParseProperty("A" + most + ":x;y,z", {}).has_value());
+}
+
 TEST(CardProperty, SplitsAtSeparatorsWithoutABackslash) {
   EXPECT_EQ(PartsOf(PropertyOf("A:a\\;b;c\\\\;;d\\,e"), u';'),
             (QStringList{u"a;b"_qs, u"c\\"_qs, u""_qs, u"d,e"_qs}));

@@ -1,6 +1,6 @@
 // quill-...-fuzz ROUNDS FOLDER...: gives the fuzz target every file of the folders and as many
 // seeded changes of each as there are rounds. The same rounds are the same bytes on every machine.
-// What fails is in the file failing-input then.
+// What fails is in the file failing-input then, however the program ends.
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -47,21 +47,32 @@ void Change(QByteArray& bytes, Random& random) {
   }
 }
 
-void Try(const QByteArray& bytes) {
-  QFile file(QStringLiteral("failing-input"));
-  // Written before, since a failure ends the program.
-  if (file.open(QIODevice::WriteOnly)) file.write(bytes);
-  file.close();
-  LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.constData()),
-                         static_cast<std::size_t>(bytes.size()));
-}
+// Holds the input that is being tried. It stays open: closing a file that was written anew waits
+// for the disk, which takes longer than most inputs do.
+class FailingInput {
+ public:
+  bool Open() { return m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered); }
+  void Remove() { m_file.remove(); }
 
-void TryChangesOf(const QByteArray& bytes, int rounds, Random& random) {
-  Try(bytes);
+  // Written before, since a failure ends the program.
+  void Try(const QByteArray& bytes) {
+    m_file.resize(0);
+    m_file.seek(0);
+    m_file.write(bytes);
+    LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.constData()),
+                           static_cast<std::size_t>(bytes.size()));
+  }
+
+ private:
+  QFile m_file{QStringLiteral("failing-input")};
+};
+
+void TryChangesOf(const QByteArray& bytes, int rounds, Random& random, FailingInput& input) {
+  input.Try(bytes);
   for (int i = 0; i < rounds; ++i) {
     QByteArray changed = bytes;
     for (qsizetype count = 1 + Below(random, 6); count > 0; --count) Change(changed, random);
-    Try(changed);
+    input.Try(changed);
   }
 }
 
@@ -73,16 +84,18 @@ int main(int argc, char* argv[]) {
   const int rounds = words.value(1).toInt();
   Random random(1);
   const QString pattern = u'*' + QString::fromLatin1(quill::test::kFuzzSuffix);
+  FailingInput input;
+  if (!input.Open()) return 1;
   int files = 0;
   for (const QString& folder : words.mid(2)) {
     for (const QString& name : QDir(folder).entryList({pattern}, QDir::Files)) {
       QFile file(QDir(folder).filePath(name));
       if (!file.open(QIODevice::ReadOnly)) return 1;
-      TryChangesOf(file.readAll(), rounds, random);
+      TryChangesOf(file.readAll(), rounds, random, input);
       ++files;
     }
   }
   std::printf("%d files, %d changes of each\n", files, rounds);
-  QFile::remove(QStringLiteral("failing-input"));
+  input.Remove();
   return files > 0 ? 0 : 1;
 }

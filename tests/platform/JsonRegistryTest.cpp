@@ -2,10 +2,13 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <sys/stat.h>
 
 namespace quill {
 namespace {
@@ -155,6 +158,33 @@ TEST_F(JsonRegistryTest, AFileThatCannotBeReadIsNeverWrittenOver) {
   JsonRegistry registry(File());
   EXPECT_FALSE(registry.PutNumber(kKey, kNumber, 1));
   EXPECT_TRUE(QDir(File() + QStringLiteral("/inner")).exists());
+}
+
+TEST_F(JsonRegistryTest, APipeInTheFilesPlaceKeepsNobodyWaiting) {
+  ASSERT_EQ(::mkfifo(QFile::encodeName(File()).constData(), S_IRUSR | S_IWUSR), 0);
+  JsonRegistry registry(File());
+  EXPECT_EQ(registry.Create(kKey), RegistryKeyState::Failed);
+  EXPECT_TRUE(QFileInfo::exists(File()));
+  EXPECT_FALSE(QFileInfo(File()).isFile());
+}
+
+TEST_F(JsonRegistryTest, AFileThatIsFarTooLongIsKeptAsideUnread) {
+  const QByteArray content = R"({"k": {"v": 1}})";
+  WriteFile(content + QByteArray(8 * 1024 * 1024 - content.size(), ' '));
+  EXPECT_EQ(JsonRegistry(File()).QueryNumber(QStringLiteral("k"), QStringLiteral("v")), 1U);
+  ASSERT_TRUE(QFile::resize(File(), 8 * 1024 * 1024 + 1));
+  JsonRegistry registry(File());
+  EXPECT_EQ(registry.Create(kKey), RegistryKeyState::Created);
+  EXPECT_EQ(QFileInfo(File() + QStringLiteral(".bad")).size(), 8 * 1024 * 1024 + 1);
+}
+
+TEST_F(JsonRegistryTest, WhatTheNextRunCouldNotReadIsNotPut) {
+  JsonRegistry registry(File());
+  ASSERT_TRUE(registry.PutText(kKey, kText, "ab"));
+  EXPECT_FALSE(registry.PutText(kKey, kText, QByteArray(2 * 1024 * 1024, 'x')));
+  QByteArray buffer(2, 'x');
+  EXPECT_EQ(JsonRegistry(File()).QueryText(kKey, kText, buffer).Size, 2);
+  EXPECT_EQ(registry.QueryText(kKey, kText, buffer).Size, 2);
 }
 
 TEST_F(JsonRegistryTest, PuttingTheSameValueAgainWritesTheFileThatVanished) {

@@ -95,5 +95,17 @@ INSTANTIATE_TEST_SUITE_P(Texts, DamagedRegistryJsonTest,
                                          R"({"k": {"v": {"base64": "*"}}})",
                                          R"({"k": {"good": 1, "v": true}})"));
 
+TEST(RegistryJson, HasBlocksOfOneMebibyteTogether) {
+  const auto keys = [](int bytes, int more) {
+    return QStringLiteral(R"({"k":{"a":{"text":"","bytes":%1}},"l":{"b":{"text":"","bytes":%2}}})")
+        .arg(bytes)
+        .arg(more)
+        .toUtf8();
+  };
+  EXPECT_TRUE(RegistryFromJson(keys(1'048'575, 1)));
+  EXPECT_FALSE(RegistryFromJson(keys(1'048'575, 2)));
+  EXPECT_FALSE(RegistryFromJson(keys(2, 1'048'575)));
+}
+
 }  // namespace
 }  // namespace quill

@@ -20,8 +20,7 @@ namespace {
 
 std::optional<QByteArray> UndeclaredTextOf(const QString& name) {
   QFile file(name);
-  // What a pipe gives can be read only once.
-  if (!file.open(QIODevice::ReadOnly) || file.isSequential()) return std::nullopt;
+  if (!QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly)) return std::nullopt;
   return FindUndeclaredText(file);
 }
 
@@ -48,7 +47,10 @@ std::optional<QByteArray> CharsetFor(CScreen& screen, const QStringList& files) 
 void ImportFilesAndReport(CScreen& screen, const Places& places, const QStringList& files) {
   const auto charset = CharsetFor(screen, files);
   if (!charset) return;
-  ImportTask task{.Where = places, .Arguments = files, .Options = {.FallbackCharset = *charset}};
+  ImportTask task{.Where = places,
+                  .Arguments = files,
+                  .Options = {.FallbackCharset = *charset},
+                  .Sources = ImportSources::PlainFiles};
   ExchangeReport report;
   int exitCode = kExitFailed;
   CProgressDlg progress(screen, QStringLiteral("Import"), [&](CProgressDlg& dialog) {
