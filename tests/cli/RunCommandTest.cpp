@@ -36,5 +36,34 @@ TEST_F(RunCommandOn, ADemoKeepsToAHomeOfItsOwn) {
   EXPECT_FALSE(QFileInfo::exists(m_folder.filePath(u"data/quill/store.db"_qs)));
 }
 
+class RunCommandOnAFullDevice : public test::ConsoleFixture,
+                                public testing::WithParamInterface<const char*> {};
+
+TEST_P(RunCommandOnAFullDevice, FailsAndSaysSo) {
+  ASSERT_EQ(Run({u"import"_qs, MakeFile(u"card.vcf"_qs, "BEGIN:VCARD\nN:Abel;Ann\nEND:VCARD\n")}),
+            kExitDone);
+  const QStringList words = QString::fromLatin1(GetParam()).split(u' ');
+  QFile device(u"/dev/full"_qs);
+  ASSERT_TRUE(device.open(QIODevice::WriteOnly));
+  QTextStream out(&device);
+  EXPECT_EQ(RunCommand(ParseCommandLine(WithHome(words)), {}, {out, m_err}), kExitFailed);
+  EXPECT_THAT(TakeErr(), testing::AllOf(testing::StartsWith("quill: "),
+                                        testing::HasSubstr("cannot be written")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Words, RunCommandOnAFullDevice,
+                         testing::Values("list", "list --json", "show Abel", "check", "export -",
+                                         "--help", "list --help", "--version"));
+
+TEST_F(RunCommandOn, AFailureIsSaidOnceThoughNothingCanBeWritten) {
+  QFile device(u"/dev/full"_qs);
+  ASSERT_TRUE(device.open(QIODevice::WriteOnly));
+  QTextStream out(&device);
+  ASSERT_TRUE(QDir().mkpath(Home() + u"/store.db"_qs));
+  out << "lost";
+  EXPECT_EQ(RunCommand(ParseCommandLine(WithHome({u"list"_qs})), {}, {out, m_err}), kExitFailed);
+  EXPECT_EQ(TakeErr().find("written"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace quill
