@@ -241,6 +241,15 @@ void CContactsView::Relayout() {
 
 void CContactsView::FocusList() { m_list->setFocus(); }
 
+std::optional<int> CContactsView::SearchCaret() const {
+  return m_searchEdit->hasFocus() ? std::optional(m_searchEdit->cursorPosition()) : std::nullopt;
+}
+
+void CContactsView::FocusSearch(int caret) {
+  m_searchEdit->setFocus();
+  m_searchEdit->setCursorPosition(caret);
+}
+
 void CContactsView::RunScrollAction(int action) {
   switch (action) {
     case QAbstractSlider::SliderSingleStepSub:

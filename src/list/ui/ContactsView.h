@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 #include "list/KeyMoves.h"
 #include "list/ListState.h"
@@ -61,6 +62,10 @@ class CContactsView : public QWidget, public TimerTarget {
   // Places list and scroll bar as the settings say and goes to the first row, nothing selected.
   void Relayout();
   void FocusList();
+  // Where the caret stands in the search box, in UTF-16 units; nothing while the box does not have
+  // the keyboard.
+  std::optional<int> SearchCaret() const;
+  void FocusSearch(int caret);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
