@@ -71,8 +71,16 @@ ExportSummary Export(PimStore& store, QIODevice& target, const ExportTask& task,
   return summary;
 }
 
-int Report(const QString& name, const ExportSummary& summary, const QIODevice& target,
+QString NobodyText(const ExportOptions& options) {
+  const bool choice =
+      !options.Category.isEmpty() || !options.Contact.isEmpty() || !options.Restriction.isEmpty();
+  return choice ? QStringLiteral("there are no such contacts")
+                : QStringLiteral("there are no contacts yet");
+}
+
+int Report(const ExportTask& task, const ExportSummary& summary, const QIODevice& target,
            const Console& console) {
+  const QString& name = task.File;
   if (summary.End == ExportEnd::Stopped) {
     Complain(console, QStringLiteral("%1: stopped; nothing was written").arg(name));
     return kExitPartly;
@@ -84,7 +92,7 @@ int Report(const QString& name, const ExportSummary& summary, const QIODevice& t
     return kExitFailed;
   }
   if (summary.Written == 0) {
-    Complain(console, QStringLiteral("there are no such contacts"));
+    Complain(console, NobodyText(task.Options));
     return kExitPartly;
   }
   QTextStream& told = name == kStandardOutput ? console.Err : console.Out;
@@ -96,12 +104,12 @@ int Report(const QString& name, const ExportSummary& summary, const QIODevice& t
 }  // namespace
 
 int ExportFile(const ExportTask& task, const Console& console) {
-  PimStore store(task.Where.StoreFile);
-  const StoreOpening opening(store);
+  PimStore store(task.Where.StoreFile, {.Access = StoreAccess::AtLeastReading});
+  const StoreOpening opening(store, task.Where.StoreFile);
   if (!opening.Succeeded()) return Fail(console, opening.Problem());
   const auto target = OpenTarget(task.File, console);
   if (!target) return kExitFailed;
-  return Report(task.File, Export(store, *target, task, console), *target, console);
+  return Report(task, Export(store, *target, task, console), *target, console);
 }
 
 }  // namespace quill

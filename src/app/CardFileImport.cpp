@@ -103,7 +103,7 @@ class FileImport {
 
 int ImportFiles(const ImportTask& task, const Console& console) {
   PimStore store(task.Where.StoreFile);
-  const StoreOpening opening(store);
+  const StoreOpening opening(store, task.Where.StoreFile);
   if (!opening.Succeeded()) return Fail(console, opening.Problem());
   FileImport import(store, task, console);
   import.TakeAll();

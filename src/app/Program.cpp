@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "app/Console.h"
 #include "app/StoreSettings.h"
 #include "platform/Clock.h"
 #include "platform/DesktopDeviceFiles.h"
@@ -67,7 +68,8 @@ bool Program::HandleFirstRequest(const RequestHandler& handler) {
 }
 
 int Program::ExitCode(int windowCode) const {
-  return windowCode == 0 && m_refused ? 1 : windowCode;
+  if (!m_options.Problem.isEmpty()) return kExitFailed;
+  return windowCode == 0 && m_refused ? kExitPartly : windowCode;
 }
 
 }  // namespace quill

@@ -22,6 +22,7 @@ struct ProgramOptions {
   std::unique_ptr<StoreProvider> Store;  // null: the embedded store at its place
   std::unique_ptr<InstanceLock> Lock;    // taken; null: not the process that requests go to
   std::optional<Request> FirstRequest;   // what the window shall do once it is there
+  QString Problem = {};                  // why it cannot start: all that the window shows, then
 };
 
 class Program {
@@ -36,6 +37,9 @@ class Program {
   const std::optional<Scale>& AskedScale() const { return m_options.AskedScale; }
   // Whether this is the process that other processes' requests go to.
   bool IsInstance() const { return m_options.Lock != nullptr; }
+
+  // Empty unless the window is to tell this, as text for the user, and to end with kExitFailed.
+  const QString& Problem() const { return m_options.Problem; }
 
   // True once, in the first shell: session, settings and first page are set up there only.
   bool TakeFirstStart();

@@ -10,13 +10,14 @@ namespace quill {
 
 class StoreOpening {
  public:
-  explicit StoreOpening(StoreProvider& store);
+  // file: the store's, which the problem then names.
+  explicit StoreOpening(StoreProvider& store, const QString& file = {});
   ~StoreOpening();
   StoreOpening(const StoreOpening&) = delete;
   StoreOpening& operator=(const StoreOpening&) = delete;
 
   bool Succeeded() const { return m_problem.isEmpty(); }
-  // Why it could not be opened, as text for the user.
+  // Why it could not be opened, as text for the user; the log does not say it as well.
   const QString& Problem() const { return m_problem; }
 
  private:

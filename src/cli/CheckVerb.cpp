@@ -6,6 +6,7 @@
 
 #include <array>
 
+#include "store/StoreLog.h"
 #include "store/pim/PimStore.h"
 
 namespace quill {
@@ -40,12 +41,18 @@ void PrintText(const StoreHealth& health, QTextStream& out) {
   out << TextOf(health.Index).Sentence << Qt::endl;
 }
 
+// Without the folders: a store whose index is broken does not open them.
+bool Open(PimStore& store) {
+  const QuietStoreLog quiet;
+  return store.Create() == 0 && store.Logon() == 0;
+}
+
 }  // namespace
 
 int RunCheck(const VerbCall& call, const Console& console) {
-  PimStore store(call.Where.StoreFile);
-  // Without the folders: a store whose index is broken does not open them.
-  if (store.Create() != 0 || store.Logon() != 0) return Fail(console, store.LastError());
+  PimStore store(call.Where.StoreFile, {.Access = StoreAccess::AtLeastReading});
+  if (!Open(store))
+    return Fail(console, QStringLiteral("%1: %2").arg(call.Where.StoreFile, store.LastError()));
   const StoreHealth health = store.Check();
   (IsGiven(call, kJsonOption) ? PrintJson : PrintText)(health, console.Out);
   const bool isRight =

@@ -54,10 +54,16 @@ constexpr auto kOptions = std::to_array<ProgramOption>({
     {{u"--show", u"NAME", u"show this contact in the window"}, ApplyShow},
     {{u"--new", u"TEXT", u"begin a new contact in the window"}, ApplyNew},
     {{u"--version", u"", u"print the version"}, ApplyVersion},
-    {{u"--help", u"", u"print this"}, ApplyHelp},
+    {{u"--help", u"", u"print this, as do -h and the command help"}, ApplyHelp},
 });
 
-const ProgramOption* FindProgramOption(const QString& name) {
+constexpr QStringView kOptionSign = u"--";
+constexpr QStringView kShortHelp = u"-h";
+constexpr QStringView kHelpWord = u"help";  // not a verb: with one behind it tells of that one
+constexpr QStringView kLongHelp = u"--help";
+
+const ProgramOption* FindProgramOption(const QString& word) {
+  const QStringView name = word == kShortHelp ? kLongHelp : QStringView(word);
   const auto found =
       std::find_if(kOptions.begin(), kOptions.end(),
                    [&name](const ProgramOption& option) { return option.Shown.Name == name; });
@@ -78,12 +84,14 @@ bool ApplyVerbOption(const Option& option, const QString& value, CommandLine& li
   return true;
 }
 
-// Takes the value of an option: behind its equals sign, else the next word. Returns what is wrong.
+// Takes the value of an option: behind its equals sign, else the next word, which then is more
+// likely an option whose predecessor lacks its value when it looks like one. Returns what is wrong.
 QString TakeValue(QStringList& words, const Option& option, std::optional<QString>& value) {
   if (option.Value.isEmpty())
     return value ? QStringLiteral("%1 takes no value").arg(option.Name) : QString();
   if (value) return {};
-  if (words.isEmpty()) return QStringLiteral("%1 needs a value").arg(option.Name);
+  if (words.isEmpty() || words.first().startsWith(kOptionSign))
+    return QStringLiteral("%1 needs a value").arg(option.Name);
   value = words.takeFirst();
   return {};
 }
@@ -108,6 +116,10 @@ QString TakeOption(QStringList& words, CommandLine& line) {
 
 void TakeWord(const QString& word, CommandLine& line) {
   const bool isFirst = !line.Called && line.Arguments.isEmpty();
+  if (isFirst && word == kHelpWord) {
+    line.Kind = CommandKind::Help;
+    return;
+  }
   const Verb* verb = isFirst ? FindVerb(word) : nullptr;
   if (verb) {
     line.Called = verb;

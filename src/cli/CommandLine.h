@@ -1,5 +1,6 @@
 // The command line taken apart. Options may stand before and behind the first word, as "--home DIR"
-// or "--home=DIR"; behind "--" every word is a file.
+// or "--home=DIR", the only way for a value that begins with "--"; behind "--" every
+// word is a file.
 #pragma once
 
 #include <QMap>

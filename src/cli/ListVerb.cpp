@@ -23,11 +23,13 @@ int PrintRows(ContactsFolder& contacts, ContactPrinter printer) {
 }  // namespace
 
 int RunList(const VerbCall& call, const Console& console) {
-  PimStore store(call.Where.StoreFile);
-  const StoreOpening opening(store);
+  PimStore store(call.Where.StoreFile, {.Access = StoreAccess::AtLeastReading});
+  const StoreOpening opening(store, call.Where.StoreFile);
   if (!opening.Succeeded()) return Fail(console, opening.Problem());
   const PrintForm form = IsGiven(call, kJsonOption) ? PrintForm::Json : PrintForm::Names;
-  return PrintRows(*store.Contacts(), {form, console.Out});
+  const int exitCode = PrintRows(*store.Contacts(), {form, console.Out});
+  if (exitCode == kExitPartly) Complain(console, QStringLiteral("there are no contacts yet"));
+  return exitCode;
 }
 
 }  // namespace quill

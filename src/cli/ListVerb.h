@@ -6,7 +6,7 @@
 namespace quill {
 
 // One name on a line, or a JSON array of the contacts with what a row of the list holds. An empty
-// store answers kExitPartly.
+// store answers kExitPartly, and says so.
 int RunList(const VerbCall& call, const Console& console);
 
 }  // namespace quill

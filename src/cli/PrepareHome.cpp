@@ -5,15 +5,12 @@
 #include "store/pim/PimStore.h"
 
 namespace quill {
-namespace {
 
 Places PlacesOf(const CommandLine& line, const QProcessEnvironment& environment) {
   if (line.Home) return HomePlaces(*line.Home, environment);
   if (line.Demo) return HomePlaces(SampleHome(environment), environment);
   return UserPlaces(environment);
 }
-
-}  // namespace
 
 std::optional<Places> PrepareHome(const CommandLine& line, const QProcessEnvironment& environment,
                                   const Console& console) {

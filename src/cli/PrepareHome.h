@@ -12,6 +12,8 @@
 
 namespace quill {
 
+Places PlacesOf(const CommandLine& line, const QProcessEnvironment& environment);
+
 // Nothing on failure; the console was told why.
 std::optional<Places> PrepareHome(const CommandLine& line, const QProcessEnvironment& environment,
                                   const Console& console);

@@ -14,6 +14,7 @@
 #include "infrared/ObexReceiving.h"
 #include "infrared/ObexReception.h"
 #include "infrared/ObexTcpTransport.h"
+#include "infrared/PeerAddress.h"
 #include "platform/JsonRegistry.h"
 #include "platform/QtTimers.h"
 #include "store/pim/PimStore.h"
@@ -57,8 +58,12 @@ QString ReadTask(const VerbCall& call, ReceiveTask& task) {
     if (!count) return QStringLiteral("%1 goes from 1 to %2").arg(kCountOption).arg(kObexMostCards);
     task.Count = *count;
   }
-  const QString peer = ValueOf(call, kTrustOption);
-  if (!peer.isEmpty() && !settings.TrustedPeers.contains(peer)) settings.TrustedPeers += peer;
+  if (IsGiven(call, kTrustOption)) {
+    const QString peer = PeerAddress(ValueOf(call, kTrustOption));
+    if (peer.isEmpty())
+      return QStringLiteral("\"%1\" is no address").arg(ValueOf(call, kTrustOption));
+    if (!settings.TrustedPeers.contains(peer)) settings.TrustedPeers += peer;
+  }
   return {};
 }
 
@@ -126,7 +131,7 @@ int RunReceive(const VerbCall& call, const Console& console) {
   if (IsGiven(call, kSaveOption) && !WriteInfraredSettings(registry, task.Settings))
     return Fail(console, QStringLiteral("cannot keep the settings"));
   PimStore store(call.Where.StoreFile);
-  const StoreOpening opening(store);
+  const StoreOpening opening(store, call.Where.StoreFile);
   if (!opening.Succeeded()) return Fail(console, opening.Problem());
   return Receipt(store, registry, std::move(task), console).Run();
 }

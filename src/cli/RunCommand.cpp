@@ -12,18 +12,15 @@ int RunCalledVerb(const CommandLine& line, const QProcessEnvironment& environmen
   return line.Called->Run({*places, line.Arguments, line.VerbOptions}, console);
 }
 
-}  // namespace
-
-int RunCommand(const CommandLine& line, const QProcessEnvironment& environment,
-               const Console& console) {
+int Run(const CommandLine& line, const QProcessEnvironment& environment, const Console& console) {
   switch (line.Kind) {
     case CommandKind::RunVerb:
       return RunCalledVerb(line, environment, console);
     case CommandKind::Help:
-      console.Out << HelpText(line.Called) << Qt::flush;
+      console.Out << HelpText(line.Called);
       return kExitDone;
     case CommandKind::Version:
-      console.Out << "Quill (Quillbook) " QUILL_VERSION << Qt::endl;
+      console.Out << "Quill (Quillbook) " QUILL_VERSION "\n";
       return kExitDone;
     case CommandKind::Wrong:
     case CommandKind::Window:
@@ -32,6 +29,17 @@ int RunCommand(const CommandLine& line, const QProcessEnvironment& environment,
   Complain(console, line.Problem);
   console.Err << "quill --help says what there is" << Qt::endl;
   return kExitFailed;
+}
+
+}  // namespace
+
+int RunCommand(const CommandLine& line, const QProcessEnvironment& environment,
+               const Console& console) {
+  const int exitCode = Run(line, environment, console);
+  console.Out.flush();
+  // Who failed has said why.
+  if (exitCode == kExitFailed || console.Out.status() == QTextStream::Ok) return exitCode;
+  return Fail(console, QStringLiteral("the output cannot be written"));
 }
 
 }  // namespace quill

@@ -8,7 +8,8 @@
 
 namespace quill {
 
-// For every kind of line but Window. Returns the process' exit code.
+// For every kind of line but Window. Returns the process' exit code, which is kExitFailed when the
+// results could not be written.
 int RunCommand(const CommandLine& line, const QProcessEnvironment& environment,
                const Console& console);
 

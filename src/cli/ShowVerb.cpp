@@ -24,8 +24,8 @@ int PrintFound(ContactsFolder& contacts, const ContactCollection& found, Contact
 int RunShow(const VerbCall& call, const Console& console) {
   const QString& name = call.Arguments.first();
   if (name.isEmpty()) return Fail(console, QStringLiteral("show needs a name"));
-  PimStore store(call.Where.StoreFile);
-  const StoreOpening opening(store);
+  PimStore store(call.Where.StoreFile, {.Access = StoreAccess::AtLeastReading});
+  const StoreOpening opening(store, call.Where.StoreFile);
   ContactsFolder* contacts = opening.Succeeded() ? store.Contacts() : nullptr;
   const auto found = contacts ? FindByName(*contacts, contacts->Items(), name)
                               : std::optional<ContactCollection>();

@@ -2,10 +2,12 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <utility>
 
 #include "app/MemoTaking.h"
 #include "app/RequestChannel.h"
+#include "cli/AskedContact.h"
 #include "cli/ImportVerb.h"
 #include "cli/PrepareHome.h"
 
@@ -35,10 +37,13 @@ void ExplainMissingDisplay(const Console& console) {
       << Qt::endl;
 }
 
-// A word that is no file is more likely a command mistyped: said before anything else happens.
+// A first word that is no file is more likely a command mistyped: said before anything else
+// happens. Later ones are told by the import, after it has brought in the others; it knows nothing
+// of memos.
 bool FilesExist(const CommandLine& line, const Console& console) {
   for (const QString& file : line.Arguments) {
-    if (QFileInfo::exists(file)) continue;
+    const bool isImported = file != line.Arguments.first() && !IsMemoFile(file);
+    if (isImported || QFileInfo::exists(file)) continue;
     Complain(console, QStringLiteral("there is neither a file nor a command %1").arg(file));
     return false;
   }
@@ -61,16 +66,33 @@ bool BringIn(const CommandLine& line, const Places& places, const Console& conso
   return RunImport({places, line.Arguments, {}}, console) != kExitFailed;
 }
 
+QString RefusalText(const Request& request) {
+  switch (request.Kind) {
+    case RequestKind::Activate:
+      return QStringLiteral("the open window could not come to the front");
+    case RequestKind::Show:
+      return QStringLiteral("there is no contact \"%1\"").arg(request.Text);
+    case RequestKind::New:
+    case RequestKind::Open:
+      break;
+  }
+  return QStringLiteral("the open window could not do it");
+}
+
 int HandOver(const Request& request, RequestOutcome outcome, const Console& console) {
   if (outcome == RequestOutcome::Done) return kExitDone;
   if (outcome == RequestOutcome::Unreached) {
     Complain(console, QStringLiteral("a window of this home is open, but does not answer"));
     return kExitFailed;
   }
-  Complain(console, request.Kind == RequestKind::Activate
-                        ? QStringLiteral("the open window could not come to the front")
-                        : QStringLiteral("the open window could not do it"));
+  Complain(console, RefusalText(request));
   return kExitPartly;
+}
+
+// What was asked of a new window alone.
+int WithoutScale(int exitCode, const Console& console) {
+  Complain(console, QStringLiteral("the window is open already and keeps its scale"));
+  return std::max(exitCode, kExitPartly);
 }
 
 WindowStart Ended(int exitCode) { return {nullptr, exitCode}; }
@@ -85,7 +107,10 @@ WindowStart OpenOrHandOver(const CommandLine& line, const Places& places, const 
     // Nobody there may mean that the window was closing, and its lock is free now.
     if (sent == RequestOutcome::Unreached) taken = lock->Take();
   }
-  if (taken == LockOutcome::HeldByOther) return Ended(HandOver(request, sent, console));
+  if (taken == LockOutcome::HeldByOther) {
+    const int exitCode = HandOver(request, sent, console);
+    return Ended(line.AskedScale ? WithoutScale(exitCode, console) : exitCode);
+  }
   if (taken == LockOutcome::Failed) {
     Complain(console, lock->Reason());
     return Ended(kExitFailed);
@@ -98,6 +123,21 @@ WindowStart OpenOrHandOver(const CommandLine& line, const Places& places, const 
   return {std::make_unique<Program>(std::move(options)), kExitDone};
 }
 
+WindowStart StartInHome(CommandLine line, const QProcessEnvironment& environment,
+                        const Console& console) {
+  const auto places = PrepareHome(line, environment, console);
+  if (!places || !BringIn(line, *places, console)) return Ended(kExitFailed);
+  if (line.FirstRequest) line.FirstRequest = WithWholeName(*line.FirstRequest, *places, console);
+  return OpenOrHandOver(line, *places, console);
+}
+
+WindowStart Telling(const QString& problem, const Places& places) {
+  ProgramOptions options;
+  options.Where = places;
+  options.Problem = problem;
+  return {std::make_unique<Program>(std::move(options)), kExitFailed};
+}
+
 }  // namespace
 
 WindowStart StartWindow(const CommandLine& words, const QProcessEnvironment& environment,
@@ -108,9 +148,13 @@ WindowStart StartWindow(const CommandLine& words, const QProcessEnvironment& env
     ExplainMissingDisplay(console);
     return Ended(kExitFailed);
   }
-  const auto places = PrepareHome(line, environment, console);
-  if (!places || !BringIn(line, *places, console)) return Ended(kExitFailed);
-  return OpenOrHandOver(line, *places, console);
+  if (console.IsTerminal) return StartInHome(line, environment, console);
+  QString messages;
+  QTextStream err(&messages);
+  WindowStart start = StartInHome(line, environment, {console.Out, err});
+  console.Err << messages << Qt::flush;
+  if (start.Running || start.ExitCode != kExitFailed) return start;
+  return Telling(messages, PlacesOf(line, environment));
 }
 
 }  // namespace quill

@@ -17,9 +17,10 @@ struct WindowStart {
   int ExitCode = 0;                  // of the process, then
 };
 
-// Brings the line's contacts in first; a file that cannot be read ends the start. A window that is
-// open gets the line's request, which its memo files are too, or is asked to come to the front.
-// Needs an application object.
+// Brings the line's contacts in first; a file that cannot be read ends the start. What ends it once
+// the home is looked at is shown by a window as well, as the program's Problem, where nobody
+// watches the console. A window that is open gets the line's request, which its memo files are too,
+// or is asked to come to the front. Needs an application object.
 WindowStart StartWindow(const CommandLine& words, const QProcessEnvironment& environment,
                         const Console& console);
 

@@ -4,6 +4,8 @@
 
 #include <utility>
 
+#include "infrared/PeerAddress.h"
+
 namespace quill {
 namespace {
 
@@ -12,18 +14,11 @@ constexpr qint64 kReadAtOnce = 64 * 1024;
 // A peer that does not read the answers gets no more of them.
 constexpr qint64 kMostUnread = 64 * 1024;
 
-QString AddressOf(const QTcpSocket& socket) {
-  const QHostAddress address = socket.peerAddress();
-  bool isOlderKind = false;
-  const quint32 older = address.toIPv4Address(&isOlderKind);
-  return isOlderKind ? QHostAddress(older).toString() : address.toString();
-}
-
 }  // namespace
 
 ObexTcpPeer::ObexTcpPeer(std::unique_ptr<QTcpSocket> socket, ObexHost& host, Timers& timers)
     : m_socket(std::move(socket)), m_host(host), m_timers(timers), m_inbox({.Cards = host.Room()}) {
-  m_offer.Peer = AddressOf(*m_socket);
+  m_offer.Peer = PeerAddress(m_socket->peerAddress());
   m_socket->setReadBufferSize(kReadAtOnce);
   QTcpSocket* context = m_socket.get();
   QObject::connect(context, &QTcpSocket::readyRead, context, [this] { Read(); });

@@ -1,6 +1,7 @@
 #include "list/ListLayout.h"
 
 #include <algorithm>
+#include <array>
 
 #include "list/RowIcons.h"
 #include "list/Selection.h"
@@ -23,7 +24,11 @@ constexpr Rgb kIconColor = 0x2F5568;
 
 constexpr QStringView kNoCompany = u"<None>";
 constexpr QStringView kNoName = u"(no name)";  // spoken only
-constexpr QStringView kEmptyHint = u"Add people: quill import FILE.vcf";
+constexpr std::array<QStringView, 3> kEmptyHint{
+    u"\"New\" adds a person. A hold on the title",
+    u"bar offers \"Import...\", and a terminal",
+    u"quill import FILE.vcf",
+};
 
 QRect RowRectangle(int row) { return {0, row * kListRowHeight, kListWidth, kListRowHeight}; }
 
@@ -100,12 +105,19 @@ PaintedRow LayOutEnd(int row) {
 }
 
 PaintedRow LayOutHint() {
-  const QRect text(kFirstColumn, 0, kListWidth - 2 * kFirstColumn, kListRowHeight);
-  return {.Rectangle = RowRectangle(0),
-          .SpokenName = kEmptyHint.toString(),
-          .Role = PaintedRole::Text,
-          .Items = {{.Rectangle = text, .Text = kEmptyHint.toString(), .Color = kListHintColor},
-                    Separator(0)}};
+  const int count = static_cast<int>(kEmptyHint.size());
+  PaintedRow hint{.Rectangle = {0, 0, kListWidth, count * kListRowHeight},
+                  .Role = PaintedRole::Text,
+                  .Items = {Separator(0)}};
+  QStringList lines;
+  for (int n = 0; n < count; ++n) {
+    lines.append(kEmptyHint[static_cast<std::size_t>(n)].toString());
+    hint.Items.push_back({.Rectangle = ColumnRectangle(n, kFirstColumn, kWholeColumnWidth),
+                          .Text = lines.last(),
+                          .Color = kListHintColor});
+  }
+  hint.SpokenName = lines.join(u' ');
+  return hint;
 }
 
 bool IsEmptyStore(const ListState& list) {

@@ -1,5 +1,9 @@
 #include "list/PendingRequest.h"
 
+#include <QLoggingCategory>
+
+#include <utility>
+
 #include "platform/TextFitting.h"
 #include "store/ContactStore.h"
 #include "store/Restriction.h"
@@ -9,6 +13,15 @@ namespace quill {
 PendingRequest g_pendingRequest;
 
 namespace {
+
+Q_LOGGING_CATEGORY(logRequests, "quill.list")
+
+// There is one place, and whoever asked before has been told that it will be done.
+void Replace(PendingRequest& request, PendingRequest next) {
+  if (request.Kind != PendingKind::None)
+    qCWarning(logRequests) << "a request that waits gives way to a later one";
+  request = std::move(next);
+}
 
 Oid FindByName(const QString& fileAs) {
   const ContactCollection named = RestrictContacts(
@@ -28,7 +41,7 @@ RequestAnswer TakeRequest(PendingRequest& request, int kind, const QString& text
   const auto asked = static_cast<PendingKind>(kind);
   switch (asked) {
     case PendingKind::New:
-      request = {.Kind = asked, .Text = CutText(text, kRequestTextLimit)};
+      Replace(request, {.Kind = asked, .Text = CutText(text, kRequestTextLimit)});
       return RequestAnswer::Kept;
     case PendingKind::Show:
     case PendingKind::ShowAgain:
@@ -36,12 +49,12 @@ RequestAnswer TakeRequest(PendingRequest& request, int kind, const QString& text
     default:
       return RequestAnswer::Ignored;
   }
-  request = {.Kind = asked, .Contact = FindByName(text)};
+  Replace(request, {.Kind = asked, .Contact = FindByName(text)});
   return NamesNobody(request) ? RequestAnswer::NotFound : RequestAnswer::Kept;
 }
 
 void TakeMemo(PendingRequest& request, const QString& path) {
-  if (request.Kind != PendingKind::Memos) request = {.Kind = PendingKind::Memos};
+  if (request.Kind != PendingKind::Memos) Replace(request, {.Kind = PendingKind::Memos});
   request.Memos.append(path);
 }
 

@@ -23,7 +23,7 @@ enum class PendingKind {
 inline constexpr qsizetype kRequestTextLimit = 128;  // UTF-16 units; what is longer is cut
 
 // The latest request takes the place of an earlier one, also when it names nobody: then the user is
-// told so.
+// told so. That one gave way is said on the log.
 struct PendingRequest {
   PendingKind Kind = PendingKind::None;
   Oid Contact = 0;         // to be shown; 0 when the text names nobody

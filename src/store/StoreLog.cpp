@@ -4,4 +4,10 @@ namespace quill {
 
 Q_LOGGING_CATEGORY(storeLog, "quill.store")
 
+QuietStoreLog::QuietStoreLog() {
+  QLoggingCategory::setFilterRules(QStringLiteral("quill.store.warning=false"));
+}
+
+QuietStoreLog::~QuietStoreLog() { QLoggingCategory::setFilterRules(QString()); }
+
 }  // namespace quill

@@ -9,6 +9,9 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <utility>
+
 #include "app/ui/ShellInfrared.h"
 #include "list/ListState.h"
 #include "memo/MemoState.h"
@@ -16,6 +19,7 @@
 #include "platform/ui/Dialog.h"
 #include "platform/ui/OuterWindow.h"
 #include "platform/ui/Screen.h"
+#include "platform/ui/TextLabel.h"
 #include "platform_ui/ScreenInput.h"
 #include "platform_ui/Steps.h"
 #include "resources/Ids.h"
@@ -33,6 +37,7 @@ constexpr Scale kStartScale{4};
 class ContactsAppTest : public testing::Test {
  protected:
   ContactsAppTest() : m_program(OptionsAt(m_home.path())) {}
+  explicit ContactsAppTest(ProgramOptions options) : m_program(std::move(options)) {}
   ~ContactsAppTest() override {
     CloseSession();
     g_store = {};
@@ -43,8 +48,8 @@ class ContactsAppTest : public testing::Test {
 
   // Runs a shell; the steps are taken in whatever loop waits, the last one must end it.
   ShellEnd Run(const std::function<std::vector<Step>()>& steps) {
-    CContactsApp app(m_program,
-                     {kStartScale, ScaleOrigin::Settled, ReadShellSettings(*g_services.Registry)});
+    CContactsApp app(m_program, {kStartScale, ScaleOrigin::Settled,
+                                 ReadShellSettings(*g_services.Registry), m_caret});
     m_app = &app;
     for (QWidget* window : QApplication::topLevelWidgets())
       if (auto* outer = qobject_cast<COuterWindow*>(window)) m_outer = outer;
@@ -78,6 +83,7 @@ class ContactsAppTest : public testing::Test {
   CContactsApp* m_app = nullptr;
   COuterWindow* m_outer = nullptr;
   CScreen* m_screen = nullptr;
+  std::optional<int> m_caret;  // in the search box, as a shell before left it
 };
 
 TEST_F(ContactsAppTest, ShowsTheFrameWithAnOpenSessionAndEndsWhenItsWindowIsClosed) {
@@ -163,6 +169,35 @@ TEST_F(ContactsAppTest, WhatStandsInTheSearchBoxOutlivesAChangeOfScale) {
     return std::vector<Step>{[this, &text] { text = SearchBox()->text(); }, Closing()};
   });
   EXPECT_EQ(text, QStringLiteral("Kim"));
+}
+
+TEST_F(ContactsAppTest, TheSearchBoxKeepsTheKeyboardThroughAChangeOfScale) {
+  const ShellEnd end = Run([this] {
+    return std::vector<Step>{[this] {
+                               EXPECT_FALSE(SearchBox()->hasFocus()) << "at first";
+                               SearchBox()->setText(QStringLiteral("Kim"));
+                               SearchBox()->setFocus();
+                               SearchBox()->setCursorPosition(1);
+                             },
+                             Key(Qt::Key_Plus, Qt::ControlModifier)};
+  });
+  ASSERT_TRUE(end.Next.has_value());
+  EXPECT_EQ(end.Next->SearchCaret, 1);
+  m_caret = end.Next->SearchCaret;
+  Run([this] {
+    return std::vector<Step>{[this] {
+                               EXPECT_TRUE(SearchBox()->hasFocus());
+                               EXPECT_EQ(SearchBox()->cursorPosition(), 1);
+                             },
+                             Closing()};
+  });
+}
+
+TEST_F(ContactsAppTest, TheListKeepsTheKeyboardThroughAChangeOfScale) {
+  const ShellEnd end =
+      Run([this] { return std::vector<Step>{Key(Qt::Key_Plus, Qt::ControlModifier)}; });
+  ASSERT_TRUE(end.Next.has_value());
+  EXPECT_FALSE(end.Next->SearchCaret);
 }
 
 TEST_F(ContactsAppTest, FullScreenEndsTheShellAndIsRemembered) {
@@ -254,6 +289,33 @@ TEST_F(ContactsAppTest, AStoreThatIsNoStoreIsToldInAWindowThatTheUserSees) {
                              },
                              Closing()};
   });
+}
+
+class ContactsAppThatCannotStart : public ContactsAppTest {
+ protected:
+  ContactsAppThatCannotStart() : ContactsAppTest(Failed()) {}
+  static ProgramOptions Failed() {
+    ProgramOptions options = OptionsAt(QStringLiteral("/nowhere"));
+    options.Problem = QStringLiteral("quill: no permission\n");
+    return options;
+  }
+};
+
+TEST_F(ContactsAppThatCannotStart, SaysSoAndEnds) {
+  const ShellEnd end = Run([this] {
+    return std::vector<Step>{[this] {
+                               ASSERT_EQ(m_screen->Topmost()->Kind(), WindowKind::Message);
+                               EXPECT_TRUE(m_screen->Topmost()->isVisible());
+                               const auto* const text =
+                                   m_screen->Topmost()->findChild<CTextLabel*>();
+                               ASSERT_NE(text, nullptr);
+                               EXPECT_EQ(text->text(), QStringLiteral("no permission"));
+                               EXPECT_EQ(g_store.Provider, nullptr);
+                             },
+                             Key(Qt::Key_Return)};
+  });
+  EXPECT_EQ(m_program.ExitCode(end.ExitCode), 2);
+  EXPECT_FALSE(end.Next.has_value());
 }
 
 TEST_F(ContactsAppTest, AScaleCommandForcedPastTheSmallestScaleDoesNothing) {

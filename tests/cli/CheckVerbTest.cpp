@@ -70,7 +70,8 @@ TEST_F(CheckVerb, SaysWhyAFileIsNoStoreAndLeavesIt) {
   file.close();
   EXPECT_EQ(Run({u"check"_qs}), kExitFailed);
   EXPECT_EQ(TakeOut(), "");
-  EXPECT_EQ(TakeErr(), "quill: the file is damaged or not a store\n");
+  EXPECT_EQ(TakeErr(),
+            "quill: " + Home().toStdString() + "/store.db: the file is damaged or not a store\n");
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   EXPECT_EQ(file.readAll(), "My dear diary");
 }

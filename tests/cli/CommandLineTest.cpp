@@ -33,6 +33,9 @@ INSTANTIATE_TEST_SUITE_P(
                     WrongCase{"list --nonsense=3", "unknown option --nonsense"},
                     WrongCase{"-platform offscreen", "unknown option -platform"},
                     WrongCase{"--home", "--home needs a value"},
+                    WrongCase{"--home --demo", "--home needs a value"},
+                    WrongCase{"--show -- Ann", "--show needs a value"},
+                    WrongCase{"import --charset --home x1", "--charset needs a value"},
                     WrongCase{"--home=", "--home does not understand \"\""},
                     WrongCase{"--demo=1", "--demo takes no value"},
                     WrongCase{"list --json=1", "--json takes no value"},
@@ -77,7 +80,7 @@ TEST(CommandLine, TakesValuesBehindAnEqualsSign) {
 }
 
 TEST(CommandLine, TakesAValueThatLooksLikeAnOption) {
-  EXPECT_EQ(Parse("--new --demo").FirstRequest, (Request{RequestKind::New, u"--demo"_qs, {}}));
+  EXPECT_EQ(Parse("--new=--demo").FirstRequest, (Request{RequestKind::New, u"--demo"_qs, {}}));
 }
 
 TEST(CommandLine, LooksTheFirstWordUp) {
@@ -127,6 +130,21 @@ TEST(CommandLine, HelpAndVersionGoBeforeAllElse) {
   const CommandLine help = Parse("import --help");
   EXPECT_EQ(help.Kind, CommandKind::Help);
   EXPECT_EQ(help.Called, FindVerb(u"import"_qs));
+}
+
+TEST(CommandLine, HelpHasSeveralNames) {
+  for (const char* words : {"-h", "help", "--help", "help a.vcf", "--home /tmp/h help"}) {
+    const CommandLine line = Parse(words);
+    EXPECT_EQ(line.Kind, CommandKind::Help) << words;
+    EXPECT_FALSE(line.Called) << words;
+  }
+  for (const char* words : {"list -h", "help list", "-h list"}) {
+    const CommandLine line = Parse(words);
+    EXPECT_EQ(line.Kind, CommandKind::Help) << words;
+    EXPECT_EQ(line.Called, FindVerb(u"list"_qs)) << words;
+  }
+  EXPECT_EQ(Parse("./help").Arguments, QStringList{u"./help"_qs});
+  EXPECT_EQ(Parse("show help").Arguments, QStringList{u"help"_qs});
 }
 
 TEST(HelpText, NamesEveryVerbAndOption) {

@@ -84,11 +84,19 @@ TEST_F(ExportVerb, WritesToStandardOutput) {
 TEST_F(ExportVerb, LeavesTheOldFileWhenThereIsNothing) {
   MakeFile(u"out.vcf"_qs, "old");
   EXPECT_EQ(Run({u"export"_qs, OutPath()}), kExitPartly);
-  EXPECT_EQ(TakeErr(), "quill: there are no such contacts\n");
+  EXPECT_EQ(TakeErr(), "quill: there are no contacts yet\n");
   EXPECT_EQ(TakeOut(), "");
   EXPECT_EQ(Content(OutPath()), "old");
   EXPECT_EQ(Run({u"export"_qs, m_folder.filePath(u"new.vcf"_qs)}), kExitPartly);
   EXPECT_EQ(Files(), QStringList{u"out.vcf"_qs});
+}
+
+TEST_F(ExportVerb, SaysThatNobodyIsChosen) {
+  BringIn(kCards);
+  for (const QString& choice : {u"--category=Work"_qs, u"--contact=Zed"_qs}) {
+    EXPECT_EQ(Run({u"export"_qs, choice, OutPath()}), kExitPartly);
+    EXPECT_EQ(TakeErr(), "quill: there are no such contacts\n") << choice.toStdString();
+  }
 }
 
 TEST_F(ExportVerb, TakesThePlaceOfAnOldFile) {

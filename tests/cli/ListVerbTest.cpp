@@ -26,6 +26,7 @@ TEST_F(ListVerb, OfAnEmptyStoreSaysNothingWasFound) {
   EXPECT_EQ(TakeOut(), "");
   EXPECT_EQ(Run({u"list"_qs, u"--json"_qs}), kExitPartly);
   EXPECT_EQ(TakeOut(), "[]\n");
+  EXPECT_EQ(TakeErr(), "quill: there are no contacts yet\nquill: there are no contacts yet\n");
 }
 
 TEST_F(ListVerb, PrintsNamesInTheOrderOfTheList) {

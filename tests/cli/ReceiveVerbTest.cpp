@@ -130,13 +130,15 @@ TEST_P(WrongReceiveOption, IsToldBeforeAnythingIsDone) {
   EXPECT_EQ(Kept(), InfraredSettings());
 }
 
-INSTANTIATE_TEST_SUITE_P(Obex, WrongReceiveOption,
-                         testing::Values(WrongCase{"--port", "65536", "65536 is no port"},
-                                         WrongCase{"--port", "-1", "-1 is no port"},
-                                         WrongCase{"--port", "x", "x is no port"},
-                                         WrongCase{"--count", "0", "--count goes from 1 to 1000"},
-                                         WrongCase{"--count", "1001",
-                                                   "--count goes from 1 to 1000"}));
+INSTANTIATE_TEST_SUITE_P(
+    Obex, WrongReceiveOption,
+    testing::Values(WrongCase{"--port", "65536", "65536 is no port"},
+                    WrongCase{"--port", "-1", "-1 is no port"},
+                    WrongCase{"--port", "x", "x is no port"},
+                    WrongCase{"--trust", "not an address", "\"not an address\" is no address"},
+                    WrongCase{"--trust", "", "\"\" is no address"},
+                    WrongCase{"--count", "0", "--count goes from 1 to 1000"},
+                    WrongCase{"--count", "1001", "--count goes from 1 to 1000"}));
 
 }  // namespace
 }  // namespace quill

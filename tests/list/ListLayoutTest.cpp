@@ -166,17 +166,23 @@ TEST(ListLayout, RowsAreSpokenWholeHoweverShortTheyArePainted) {
   EXPECT_EQ(LayOut(list)[1].SpokenName, QStringLiteral("C1, N1"));
 }
 
-TEST(ListLayout, AnEmptyStoreShowsOneLineOnHowToAddPeople) {
+TEST(ListLayout, AnEmptyStoreShowsHowToAddPeople) {
   const std::vector<PaintedRow> rows = LayOut(ListState());
   ASSERT_EQ(rows.size(), 1U);
   EXPECT_EQ(rows[0].Role, PaintedRole::Text);
   EXPECT_EQ(rows[0].Key, 0);
   EXPECT_FALSE(rows[0].State & PaintedStateFlag::Selectable);
   const std::vector<PaintedItem> texts = TextsOf(rows[0]);
-  ASSERT_EQ(texts.size(), 1U);
-  EXPECT_EQ(texts[0].Text, rows[0].SpokenName);
-  EXPECT_TRUE(texts[0].Text.contains(QStringLiteral("import")));
-  EXPECT_TRUE(QRect(0, 0, 225, 16).contains(texts[0].Rectangle));
+  ASSERT_EQ(texts.size(), 3U);
+  QStringList lines;
+  for (std::size_t n = 0; n < 3; ++n) {
+    lines.append(texts[n].Text);
+    EXPECT_TRUE(QRect(0, 16 * static_cast<int>(n), 225, 16).contains(texts[n].Rectangle)) << n;
+    EXPECT_TRUE(rows[0].Rectangle.contains(texts[n].Rectangle)) << n;
+  }
+  EXPECT_EQ(rows[0].SpokenName, lines.join(u' '));
+  for (const char* way : {"New", "Import...", "quill import FILE.vcf"})
+    EXPECT_TRUE(rows[0].SpokenName.contains(QLatin1String(way))) << way;
 }
 
 TEST(ListLayout, AFilterThatFindsNobodyShowsNoSuchLine) {

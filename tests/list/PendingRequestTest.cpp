@@ -115,6 +115,18 @@ TEST_F(PendingRequestTest, ALaterNewContactTakesThePlaceOfOneToBeShown) {
   EXPECT_EQ(m_request.Contact, 0);
 }
 
+TEST_F(PendingRequestTest, OneThatGivesWayIsLogged) {
+  const auto logged = [this](int kind) {
+    testing::internal::CaptureStderr();
+    TakeRequest(m_request, kind, u"Kim"_qs);
+    return testing::internal::GetCapturedStderr().find("gives way") != std::string::npos;
+  };
+  EXPECT_FALSE(logged(2)) << "nothing waited";
+  EXPECT_TRUE(logged(2));
+  EXPECT_TRUE(logged(1));
+  EXPECT_FALSE(logged(3)) << "unknown, and ignored";
+}
+
 class UnknownRequest : public PendingRequestTest, public testing::WithParamInterface<int> {};
 
 TEST_P(UnknownRequest, IsIgnored) {

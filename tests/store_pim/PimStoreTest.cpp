@@ -11,63 +11,16 @@
 #include <csignal>
 
 #include "store/pim/Database.h"
+#include "store_pim/StoreFileFixture.h"
 #include "store_pim/TemporaryStore.h"
 
 namespace quill {
 namespace {
 
-QByteArray BytesOf(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
-}
+using test::BytesOf;
+using test::Write;
 
-void Write(const QString& path, const QByteArray& bytes) {
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  ASSERT_EQ(file.write(bytes), bytes.size());
-}
-
-class PimStoreFile : public testing::Test {
- protected:
-  QString Path() const { return m_folder.filePath(QStringLiteral("store.db")); }
-
-  // A step fails with the code and a reason, and the file is left byte for byte.
-  void ExpectRefused(int code) {
-    const QByteArray before = BytesOf(Path());
-    const QStringList files = QDir(m_folder.path()).entryList();
-    {
-      PimStore store(Path());
-      EXPECT_EQ(test::OpenAll(store), code);
-      EXPECT_FALSE(store.LastError().isEmpty());
-      EXPECT_EQ(store.Contacts(), nullptr);
-      store.Close();
-      EXPECT_FALSE(store.LastError().isEmpty());
-    }
-    EXPECT_EQ(BytesOf(Path()), before);
-    EXPECT_EQ(QDir(m_folder.path()).entryList(), files);
-  }
-
-  // The file of a store with some contacts, its log written back.
-  void MakeStore() {
-    PimStore store(Path());
-    ASSERT_EQ(test::OpenAll(store), 0);
-    const auto transaction = store.Begin();
-    for (int i = 0; i < 200; ++i) {
-      ContactRecord record;
-      record[ContactField::FileAs] = QStringLiteral("N%1").arg(i);
-      ASSERT_NE(store.Contacts()->Save(0, record, {}), 0);
-    }
-    ASSERT_TRUE(transaction->Commit());
-  }
-
-  void RunOnFile(const QByteArray& sql) {
-    Database database;
-    ASSERT_EQ(database.Open(Path()), 0);
-    ASSERT_EQ(database.Execute(sql), 0);
-  }
-
-  QTemporaryDir m_folder;
-};
+class PimStoreFile : public test::StoreFileFixture {};
 
 TEST_F(PimStoreFile, AStoreIsMadeWithTheFoldersAboveIt) {
   const QString path = m_folder.filePath(QStringLiteral("a/b c/store.db"));
@@ -193,47 +146,10 @@ TEST_F(PimStoreFile, StepsOutOfOrderFail) {
   EXPECT_EQ(store.Contacts(), nullptr);
 }
 
-// Whoever runs the tests, the place is not his to write to.
-class OrdinaryUser {
- public:
-  OrdinaryUser() : m_user(geteuid()) {
-    constexpr uid_t kNobody = 65534;
-    EXPECT_EQ(seteuid(m_user == 0 ? kNobody : m_user), 0);
-  }
-  ~OrdinaryUser() { EXPECT_EQ(seteuid(m_user), 0); }
-  Q_DISABLE_COPY_MOVE(OrdinaryUser)
-
- private:
-  uid_t m_user;
-};
-
-class ReadOnlyPlace : public PimStoreFile {
- protected:
-  void Protect() {
-    using enum QFileDevice::Permission;
-    QFile::setPermissions(Path(), ReadOwner | ReadGroup | ReadOther);
-    QFile::setPermissions(m_folder.path(),
-                          ReadOwner | ExeOwner | ReadGroup | ExeGroup | ReadOther | ExeOther);
-  }
-  ~ReadOnlyPlace() override {
-    using enum QFileDevice::Permission;
-    QFile::setPermissions(m_folder.path(), ReadOwner | WriteOwner | ExeOwner);
-  }
-};
-
-TEST_F(ReadOnlyPlace, AStoreThereIsRefused) {
-  MakeStore();
-  Protect();
-  const OrdinaryUser user;
-  ExpectRefused(SQLITE_READONLY);
-}
-
-TEST_F(ReadOnlyPlace, AStoreIsNotMadeThere) {
-  Protect();
-  const OrdinaryUser user;
-  PimStore store(Path());
-  EXPECT_EQ(store.Create(), SQLITE_CANTOPEN);
-  EXPECT_FALSE(QFile::exists(Path()));
+TEST_F(PimStoreFile, WhoAtLeastReadsMayWriteWhereHeCan) {
+  PimStore store(Path(), {.Access = StoreAccess::AtLeastReading});
+  ASSERT_EQ(test::OpenAll(store), 0);
+  EXPECT_EQ(store.Contacts()->Save(0, {}, {}), 1);
 }
 
 // No file grows beyond a size, as on a full disk.

@@ -10,6 +10,7 @@
 #include "app/SampleSounds.h"
 #include "app/ui/AboutDialog.h"
 #include "app/ui/ContactsDoc.h"
+#include "app/ui/ExchangeReport.h"
 #include "app/ui/FileExchange.h"
 #include "app/ui/MainFrame.h"
 #include "app/ui/ShellCommands.h"
@@ -95,10 +96,11 @@ void CContactsApp::InitInstance() {
   AcceptDrops();
   FollowInfrared();
   ShowMainWindow();  // before the session: opening it may have to show a message
+  if (!m_program.Problem().isEmpty()) return TellProblem();
   Listen();
   m_program.TakeFirstStart() ? SetUp() : m_frame->View().ShowState();
   if (m_screen->IsClosing()) return;
-  m_frame->View().FocusList();
+  RestoreFocus();
   m_frame->WatchStore();
   QTimer::singleShot(0, m_frame.get(), [this] {
     // A refusal is logged there, and in the exit code.
@@ -109,6 +111,19 @@ void CContactsApp::InitInstance() {
 void CContactsApp::SetUp() {
   m_frame->View().OnInitialUpdate(m_program.Store());
   MakeSampleSounds(*g_services.Files);
+}
+
+// And nothing else: the window is here for that alone.
+void CContactsApp::TellProblem() {
+  ExchangeReport report;
+  report.Target().Err << m_program.Problem();
+  report.Show(kExitFailed, {});
+  m_screen->CloseAll();
+}
+
+void CContactsApp::RestoreFocus() {
+  m_start.SearchCaret ? m_frame->View().FocusSearch(*m_start.SearchCaret)
+                      : m_frame->View().FocusList();
 }
 
 void CContactsApp::AcceptDrops() {
@@ -210,7 +225,7 @@ void CContactsApp::ToggleFullScreen() {
 void CContactsApp::LeaveFor(Scale next) {
   CommitInput();
   WriteShellSettings(*g_services.Registry, m_settings);  // a failure is logged: this run goes on
-  Leave({0, ShellStart{next, ScaleOrigin::Settled, m_settings}});
+  Leave({0, ShellStart{next, ScaleOrigin::Settled, m_settings, m_frame->View().SearchCaret()}});
 }
 
 void CContactsApp::Leave(const ShellEnd& end) {

@@ -31,6 +31,7 @@ struct ShellStart {
   Scale At;
   ScaleOrigin Origin = ScaleOrigin::Settled;
   ShellSettings Settings = {};  // as they are now, whether or not they could be stored
+  std::optional<int> SearchCaret = std::nullopt;  // in the search box, when that has the keyboard
 };
 
 // How a shell ended: with an exit code, or to be made again.
@@ -68,6 +69,8 @@ class CContactsApp {
   Scale FittedScale() const;
   void InitInstance();
   void SetUp();
+  void TellProblem();
+  void RestoreFocus();
   void ShowMainWindow();
   bool MayLeave() const;
   void LeaveFor(Scale next);

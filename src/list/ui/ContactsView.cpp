@@ -261,6 +261,15 @@ void CContactsView::FocusSearch() {
   m_searchEdit->selectAll();
 }
 
+std::optional<int> CContactsView::SearchCaret() const {
+  return m_searchEdit->hasFocus() ? std::optional(m_searchEdit->cursorPosition()) : std::nullopt;
+}
+
+void CContactsView::SetSearchCaret(int caret) {
+  m_searchEdit->setFocus();
+  m_searchEdit->setCursorPosition(caret);
+}
+
 void CContactsView::RunScrollAction(int action) {
   switch (action) {
     case QAbstractSlider::SliderSingleStepSub:

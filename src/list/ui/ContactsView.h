@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 #include "list/KeyMoves.h"
 #include "list/ListState.h"
@@ -62,6 +63,11 @@ class CContactsView : public QWidget, public TimerTarget {
   void Relayout();
   void FocusList();
   void FocusSearch();
+  // Where the caret stands in the search box, in UTF-16 units; nothing while the box does not have
+  // the keyboard.
+  std::optional<int> SearchCaret() const;
+  // Gives it the keyboard.
+  void SetSearchCaret(int caret);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -3,10 +3,12 @@
 #include <sqlite3.h>
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 
 #include "store/StoreLog.h"
+#include "store/pim/StoreFile.h"
 
 namespace quill {
 
@@ -36,17 +38,38 @@ void CountRollback(void* rollbacks) { ++*static_cast<qint64*>(rollbacks); }
 Database::~Database() { Close(); }
 
 int Database::Open(const QString& path) {
+  const int code = OpenBy(QFile::encodeName(path), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+  if (code != SQLITE_OK || !IsReadOnly()) return code;
+  Fail(SQLITE_READONLY, QStringLiteral("the file can only be read"));
   Close();
-  const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
-  int code = sqlite3_open_v2(QFile::encodeName(path).constData(), &m_handle, flags, nullptr);
-  if (code == SQLITE_OK && sqlite3_db_readonly(m_handle, "main") == 1) {
-    code = Fail(SQLITE_READONLY, QStringLiteral("the file can only be read"));
-  } else if (code != SQLITE_OK) {
-    code = Fail(code);
+  return SQLITE_READONLY;
+}
+
+int Database::OpenForReading(const QString& path) {
+  const QFileInfo log(StoreLogPath(path));
+  const bool isOpenElsewhere = log.exists() && QFileInfo::exists(StoreLogIndexPath(path));
+  if (log.size() == 0 && !isOpenElsewhere) {
+    // Nobody writes it. Unless told so, SQLite would make a log to read with.
+    return OpenBy("file:" + QFile::encodeName(path).toPercentEncoding("/") + "?immutable=1",
+                  SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
   }
+  if (const int code = OpenBy(QFile::encodeName(path), SQLITE_OPEN_READONLY)) return code;
+  if (Number("SELECT count(*) FROM sqlite_master")) return SQLITE_OK;
+  const int code = Fail(m_failureCode, QStringLiteral("the file can only be read, and not without "
+                                                      "writing while %1 is beside it")
+                                           .arg(log.fileName()));
+  Close();
+  return code;
+}
+
+int Database::OpenBy(const QByteArray& name, int flags) {
+  Close();
+  const int code =
+      sqlite3_open_v2(name.constData(), &m_handle, flags | SQLITE_OPEN_NOMUTEX, nullptr);
   if (code != SQLITE_OK) {
+    Fail(code);
     Close();
-    return code;
+    return m_failureCode;
   }
   sqlite3_busy_handler(m_handle, PauseWhileBusy, nullptr);
   sqlite3_rollback_hook(m_handle, CountRollback, &m_rollbacks);
@@ -61,6 +84,8 @@ void Database::Close() {
   if (code != SQLITE_OK) qCCritical(storeLog) << "The store does not close, code" << code;
   m_handle = nullptr;
 }
+
+bool Database::IsReadOnly() const { return sqlite3_db_readonly(m_handle, "main") == 1; }
 
 QString Database::Path() const { return QFile::decodeName(sqlite3_db_filename(m_handle, "main")); }
 

@@ -36,7 +36,11 @@ class Database {
   // Opens for reading and writing; where there is no file, the first write makes one. ":memory:" is
   // a store without a file. A file that can only be read is a failure.
   int Open(const QString& path);
+  // For a file that can only be read, at an absolute path. Where the log of what was written last
+  // is beside it and cannot be read without writing, that is a failure.
+  int OpenForReading(const QString& path);
   void Close();
+  bool IsReadOnly() const;
   sqlite3* Handle() const { return m_handle; }
   // Empty for a store without a file.
   QString Path() const;
@@ -72,6 +76,7 @@ class Database {
   int Fail(int code, const QString& text = {});
 
  private:
+  int OpenBy(const QByteArray& name, int flags);
   bool BeginBy(const QByteArray& sql);
 
   sqlite3* m_handle = nullptr;

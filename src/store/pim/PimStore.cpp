@@ -75,7 +75,11 @@ int PimStore::Create() {
 
 int PimStore::OpenFile() {
   m_database = std::make_shared<Database>();
-  if (const int code = m_database->Open(m_path)) return code;
+  const auto readOnly = m_path == kWithoutFile ? std::nullopt : ExamineWriting(m_path);
+  if (readOnly && m_options.Access == StoreAccess::Writing)
+    return m_database->Fail(readOnly->Code, readOnly->Reason);
+  const int opened = readOnly ? m_database->OpenForReading(m_path) : m_database->Open(m_path);
+  if (opened != SQLITE_OK) return opened;
   const auto fault = ExamineHeader(m_database->FirstBytes(kStoreHeaderSize));
   return fault ? m_database->Fail(fault->Code, fault->Reason) : SQLITE_OK;
 }
@@ -90,7 +94,7 @@ int PimStore::Logon() {
   if (!m_database) return Refuse(SQLITE_MISUSE, QStringLiteral("the store is not open"));
   if (const int code = RegisterFunctions(*m_database)) return code;
   if (const int code = PrepareSchema(*m_database)) return code;
-  PurgeJournals(*m_database);
+  if (!m_database->IsReadOnly()) PurgeJournals(*m_database);
   return SQLITE_OK;
 }
 

@@ -15,8 +15,14 @@ class PimCalendar;
 class PimCategories;
 class PimContacts;
 
+enum class StoreAccess {
+  Writing,
+  AtLeastReading,  // a file that can only be read is opened all the same
+};
+
 struct PimStoreOptions {
   qsizetype AppointmentInkLimit = 64 * 1024;  // bytes of ink that one appointment takes
+  StoreAccess Access = StoreAccess::Writing;
 };
 
 class PimStore : public StoreProvider {

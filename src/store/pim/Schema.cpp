@@ -65,6 +65,9 @@ int PrepareSchema(Database& database) {
   const SchemaState state = Examine(database);
   if (state == SchemaState::Refused) return database.FailureCode();
   if (state != SchemaState::Current) {
+    if (database.IsReadOnly())
+      return database.Fail(SQLITE_READONLY,
+                           QStringLiteral("the file has to be written before it can be read"));
     if (const int code = BringUpToDate(database)) return code;
   }
   // Only now, so that the identity of a new file stands in the file itself and not in its log.

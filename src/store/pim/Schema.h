@@ -17,7 +17,8 @@ class Database;
 
 // For a connection just opened. Makes the tables in a new file, brings a file of an older version
 // up to date (Migration.h), refuses a file of another program or of a newer version untouched, and
-// sets how the connection writes: each commit is durable, and readers do not wait for writers.
+// sets how the connection writes: each commit is durable, and readers do not wait for writers. A
+// file that can only be read must be one of this version.
 // Returns 0 or the failure.
 int PrepareSchema(Database& database);
 

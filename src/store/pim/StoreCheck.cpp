@@ -50,6 +50,7 @@ QStringList FileFaults(Database& database) {
 }
 
 IndexCondition Rebuild(Database& database) {
+  if (database.IsReadOnly()) return IndexCondition::Different;
   return RebuildListIndex(database) == 0 && ListIndexFaults(database).isEmpty()
              ? IndexCondition::Rebuilt
              : IndexCondition::Different;
@@ -74,7 +75,8 @@ QStringList ListIndexFaults(Database& database) {
 StoreHealth CheckStore(Database& database) {
   StoreHealth health{.FileFaults = FileFaults(database)};
   if (!health.FileFaults.isEmpty()) return health;
-  if (!database.Begin()) {
+  const bool mayRebuild = !database.IsReadOnly();
+  if (!(mayRebuild ? database.Begin() : database.BeginReading())) {
     health.IndexFaults.append(database.FailureText());
     return health;
   }

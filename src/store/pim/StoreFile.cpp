@@ -2,8 +2,12 @@
 
 #include <sqlite3.h>
 
+#include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace quill {
 
@@ -13,6 +17,10 @@ namespace {
 constexpr QByteArrayView kMagic("SQLite format 3\0", 16);
 constexpr qsizetype kUserVersionAt = 60;
 constexpr qsizetype kApplicationIdAt = 68;
+
+bool MayWrite(const QString& path) {
+  return ::faccessat(AT_FDCWD, QFile::encodeName(path).constData(), W_OK, AT_EACCESS) == 0;
+}
 
 quint32 NumberAt(const QByteArray& header, qsizetype place) {
   return qFromBigEndian<quint32>(header.constData() + place);
@@ -35,6 +43,20 @@ std::optional<StoreFileFault> ExaminePlace(const QString& path) {
   if (!info.exists() || info.isFile()) return std::nullopt;
   return StoreFileFault{SQLITE_CANTOPEN, QStringLiteral("not a file")};
 }
+
+std::optional<StoreFileFault> ExamineWriting(const QString& path) {
+  if (!QFileInfo::exists(path)) return std::nullopt;
+  if (!MayWrite(path))
+    return StoreFileFault{SQLITE_READONLY, QStringLiteral("the file can only be read")};
+  if (MayWrite(QFileInfo(path).path())) return std::nullopt;
+  if (MayWrite(StoreLogPath(path)) && MayWrite(StoreLogIndexPath(path))) return std::nullopt;
+  return StoreFileFault{SQLITE_READONLY,
+                        QStringLiteral("the file can only be read: its folder cannot be written")};
+}
+
+QString StoreLogPath(const QString& path) { return path + QStringLiteral("-wal"); }
+
+QString StoreLogIndexPath(const QString& path) { return path + QStringLiteral("-shm"); }
 
 std::optional<StoreFileFault> ExamineHeader(const QByteArray& header) {
   if (header.isEmpty()) return std::nullopt;

@@ -25,6 +25,15 @@ StoreFileFault NewerStoreFault(qint64 version);
 // is a file, or none yet.
 std::optional<StoreFileFault> ExaminePlace(const QString& path);
 
+// Why the file there cannot be written, though perhaps read: it says so itself, or nothing can be
+// made beside it; nothing when it can be, or when there is none.
+std::optional<StoreFileFault> ExamineWriting(const QString& path);
+
+// What SQLite keeps beside the file while somebody has it open, or after he was killed: the log of
+// what was written last, and the log's index.
+QString StoreLogPath(const QString& path);
+QString StoreLogIndexPath(const QString& path);
+
 inline constexpr int kStoreHeaderSize = 100;  // bytes
 // What speaks against a file that begins with these bytes; nothing when it is a store, or empty and
 // so can become one. A file without an application id is left to a closer look.
