@@ -37,17 +37,6 @@ auto FindDraft(std::vector<Draft>& drafts, int number) {
   return std::ranges::find(drafts, number, &Draft::Number);
 }
 
-// What was entered, over what the contact is now.
-ContactRecord Merged(const Draft& draft, const ContactRecord& now) {
-  ContactRecord merged = now;
-  for (const ContactFieldRow& row : kContactFields)
-    if (draft.Record[row.Field] != draft.Opened[row.Field])
-      merged[row.Field] = draft.Record[row.Field];
-  for (const ContactDateRow& row : kContactDates)
-    if (draft.Record.*row.Date != draft.Opened.*row.Date) merged.*row.Date = draft.Record.*row.Date;
-  return merged;
-}
-
 SheetRecord NewSheetOf(const Draft& draft) {
   g_contactInk.Bytes = draft.Ink;
   return SheetOf(0, draft.FileAs, draft.Record);
@@ -56,13 +45,23 @@ SheetRecord NewSheetOf(const Draft& draft) {
 // LoadSheet has read the contact, its ink included.
 SheetRecord SheetOver(const Draft& draft, const SheetRecord& now) {
   if (draft.Ink != draft.OpenedInk) g_contactInk.Bytes = draft.Ink;
-  SheetRecord sheet = SheetOf(now.Oid, now.FileAs, Merged(draft, now.Opened));
+  SheetRecord sheet = SheetOf(now.Oid, now.FileAs, EnteredOver(draft, now.Opened));
   sheet.Opened = now.Opened;
   sheet.OpenedInk = now.OpenedInk;
   return sheet;
 }
 
 }  // namespace
+
+ContactRecord EnteredOver(const Draft& draft, const ContactRecord& now) {
+  ContactRecord merged = now;
+  for (const ContactFieldRow& row : kContactFields)
+    if (draft.Record[row.Field] != draft.Opened[row.Field])
+      merged[row.Field] = draft.Record[row.Field];
+  for (const ContactDateRow& row : kContactDates)
+    if (draft.Record.*row.Date != draft.Opened.*row.Date) merged.*row.Date = draft.Record.*row.Date;
+  return merged;
+}
 
 int SaveDraft(const Draft& draft) {
   RecoveryFiles* const files = g_services.Recovery;

@@ -27,6 +27,10 @@ struct Draft {
   bool operator==(const Draft&) const = default;
 };
 
+// What was entered, over what the contact is now: a field that was left as it was keeps what another
+// program may have put there.
+ContactRecord EnteredOver(const Draft& draft, const ContactRecord& now);
+
 // Keeps it beside the others, or in place of the one of its number. Durable: it outlives a crash.
 // Returns its number, 0 when it could not be kept.
 int SaveDraft(const Draft& draft);

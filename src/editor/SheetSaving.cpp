@@ -20,9 +20,25 @@ bool IsChanged(const SheetRecord& sheet, const Draft& now) {
   return now.Record != sheet.Opened || now.Ink != sheet.OpenedInk;
 }
 
-bool Write(const Draft& draft) {
+// The contact as it is to be, its ink in g_contactInk; nothing when it cannot be read. Another
+// program may have changed it since the sheet was opened.
+std::optional<ContactRecord> Changed(const Draft& draft) {
+  ContactRecord now;
+  if (ReadContact(ContactSelector(draft.Oid), now) == 0) return std::nullopt;
+  if (draft.Ink != draft.OpenedInk) g_contactInk.Bytes = draft.Ink;
+  return EnteredOver(draft, now);
+}
+
+std::optional<ContactRecord> New(const Draft& draft) {
   g_contactInk.Bytes = draft.Ink;
-  return WriteContact(draft.Oid, draft.Record) != 0;
+  return draft.Record;
+}
+
+bool Write(const Draft& draft) {
+  const auto transaction = g_store.Provider ? g_store.Provider->Begin() : nullptr;
+  if (!transaction) return false;
+  const auto record = draft.Oid == 0 ? New(draft) : Changed(draft);
+  return record && WriteContact(draft.Oid, *record) != 0 && transaction->Commit();
 }
 
 SheetOutcome Forget(const Draft& draft, SheetOutcome outcome) {
@@ -39,7 +55,9 @@ SheetOutcome SaveSheet(const SheetRecord& sheet, const Settings& settings) {
   const bool isWorthSaving = HasAnythingToSave(sheet);
   if (isWorthSaving && Write(draft)) return Forget(draft, SheetOutcome::Written);
   if (!isWorthSaving && !IsChanged(sheet, draft)) return Forget(draft, SheetOutcome::NothingToSave);
-  return SaveDraft(draft) != 0 ? SheetOutcome::KeptAsDraft : SheetOutcome::Lost;
+  if (SaveDraft(draft) != 0) return SheetOutcome::KeptAsDraft;
+  g_contactInk.Bytes = draft.Ink;
+  return SheetOutcome::NotKept;
 }
 
 std::optional<Draft> EnteredSoFar(const SheetRecord& sheet, const Settings& settings) {

@@ -64,6 +64,59 @@ TEST_F(SheetSavingTest, AnExistingContactIsWrittenUnderItsOldName) {
   EXPECT_EQ(Stored(kim).BodyInk, "ink");
 }
 
+// Saves what another program might have, while the sheet of this contact is open.
+class SheetBesideAnother : public SheetSavingTest {
+ protected:
+  SheetBesideAnother() {
+    m_other.Record[FileAs] = QStringLiteral("Kim");
+    m_other.BodyInk = "ink";
+  }
+  void SaveByAnother(Oid oid) {
+    ASSERT_EQ(m_store.Contacts()->Save(oid, m_other.Record, m_other.BodyInk), oid);
+  }
+
+  ContactItem m_other;
+};
+
+TEST_F(SheetBesideAnother, OnlyWhatWasEnteredReplacesWhatAnotherProgramWroteMeanwhile) {
+  const Oid kim = Add(QStringLiteral("Kim"), "ink");
+  SheetRecord sheet = LoadSheet(kim, m_state);
+  Type(sheet, RowSet::Basic, 1, QStringLiteral("Pilot"));
+  Type(sheet, RowSet::Basic, 2, QStringLiteral("Here"));
+  m_other.Record[Department] = QStringLiteral("There");
+  m_other.Record[Spouse] = QStringLiteral("Lee");
+  m_other.Record.Birthday.Year = 1970;
+  m_other.BodyInk = "more ink";
+  SaveByAnother(kim);
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::Written);
+  EXPECT_EQ(Stored(kim).Record[JobTitle], QStringLiteral("Pilot"));
+  EXPECT_EQ(Stored(kim).Record[Department], QStringLiteral("Here"));
+  EXPECT_EQ(Stored(kim).Record[Spouse], QStringLiteral("Lee"));
+  EXPECT_EQ(Stored(kim).Record.Birthday.Year, 1970);
+  EXPECT_EQ(Stored(kim).BodyInk, "more ink");
+}
+
+TEST_F(SheetBesideAnother, InkThatWasWrittenReplacesInk) {
+  const Oid kim = Add(QStringLiteral("Kim"), "ink");
+  const SheetRecord sheet = LoadSheet(kim, m_state);
+  m_other.BodyInk = "more ink";
+  SaveByAnother(kim);
+  g_contactInk.Bytes = "own ink";
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::Written);
+  EXPECT_EQ(Stored(kim).BodyInk, "own ink");
+}
+
+TEST_F(SheetBesideAnother, AContactThatIsGoneOrCannotBeReadBecomesADraft) {
+  const Oid kim = Add(QStringLiteral("Kim"), "ink");
+  SheetRecord sheet = LoadSheet(kim, m_state);
+  Type(sheet, RowSet::Basic, 1, QStringLiteral("Pilot"));
+  m_store.Faults().Read = kim;
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::KeptAsDraft);
+  EXPECT_EQ(Stored(kim).Record[JobTitle], QString());
+  EXPECT_EQ(LoadDraft()->Record[JobTitle], QStringLiteral("Pilot"));
+  EXPECT_EQ(LoadDraft()->Ink, "ink");
+}
+
 TEST_F(SheetSavingTest, AnAreaCodeAloneIsNoNumber) {
   m_settings.AreaCodePrefix = QStringLiteral("02-");
   SheetRecord sheet = LoadSheet(0, m_state);
@@ -182,11 +235,13 @@ TEST_F(SheetSavingTest, OtherDraftsStayWhenASheetIsWritten) {
   EXPECT_EQ(LoadDraft()->FileAs, QStringLiteral("other"));
 }
 
-TEST_F(SheetSavingTest, WhereNoDraftCanBeKeptTheSheetIsLost) {
+TEST_F(SheetSavingTest, WhereNoDraftCanBeKeptTheInkStays) {
   g_services.Recovery = nullptr;
   SheetRecord sheet = LoadSheet(0, m_state);
   Type(sheet, RowSet::Basic, 9, QStringLiteral("kim@example.com"));
-  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::Lost);
+  g_contactInk.Bytes = "ink";
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::NotKept);
+  EXPECT_EQ(g_contactInk.Bytes, "ink");
 }
 
 }  // namespace
