@@ -33,6 +33,7 @@ OperationTable AllOperations() {
   Append(table, RecordOperations());
   Append(table, InkOperations());
   Append(table, InfraredOperations());
+  Append(table, WidgetOperations());
   return table;
 }
 

@@ -63,6 +63,7 @@ OperationTable SettingsOperations();
 OperationTable RecordOperations();
 OperationTable InkOperations();
 OperationTable InfraredOperations();
+OperationTable WidgetOperations();
 
 // The answer of the operation with this name; unknown ones are refused.
 Answer RunOperation(const OperationTable& table, const Request& request, OperationContext& context);

@@ -30,10 +30,9 @@ ShellSettings ReadShellSettings(const RegistryStore& registry) {
 
 bool WriteShellSettings(RegistryStore& registry, const ShellSettings& settings) {
   const auto quarters = static_cast<quint32>(settings.WindowScale.Quarters);
-  const bool scale = registry.PutNumber(ShellKey(), ScaleName(), quarters * kHundredthsPerQuarter);
-  const bool fullScreen = !settings.FullScreen || registry.PutNumber(ShellKey(), FullScreenName(),
-                                                                     *settings.FullScreen ? 1 : 0);
-  return scale && fullScreen;
+  std::vector<RegistryEntry> values = {{ScaleName(), quarters * kHundredthsPerQuarter}};
+  if (settings.FullScreen) values.push_back({FullScreenName(), *settings.FullScreen ? 1U : 0U});
+  return registry.Put(ShellKey(), values);
 }
 
 }  // namespace quill

@@ -54,7 +54,9 @@ SheetOutcome SaveSheet(const SheetRecord& sheet, const Settings& settings) {
   if (HasAnythingToSave(sheet) && Write(draft, settings))
     return Forget(draft, SheetOutcome::Written);
   if (!IsChanged(sheet, draft)) return Forget(draft, SheetOutcome::NothingToSave);
-  return SaveDraft(draft) != 0 ? SheetOutcome::KeptAsDraft : SheetOutcome::Lost;
+  if (SaveDraft(draft) != 0) return SheetOutcome::KeptAsDraft;
+  g_contactInk.Bytes = draft.Ink;
+  return SheetOutcome::NotKept;
 }
 
 std::optional<Draft> EnteredSoFar(const SheetRecord& sheet, const Settings& settings) {

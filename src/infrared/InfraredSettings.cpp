@@ -29,9 +29,9 @@ QString ReadText(const RegistryStore& registry, const QString& name) {
   return text.left(text.indexOf(QChar::Null));
 }
 
-bool WriteText(RegistryStore& registry, const QString& name, const QString& text) {
+QByteArray BlockOf(const QString& text) {
   QStringEncoder encode(QStringEncoder::Utf16LE);
-  return registry.PutText(Key(), name, encode(text + QChar::Null));
+  return encode(text + QChar::Null);
 }
 
 }  // namespace
@@ -51,23 +51,22 @@ InfraredSettings ReadInfraredSettings(const RegistryStore& registry) {
 }
 
 bool WriteInfraredSettings(RegistryStore& registry, const InfraredSettings& settings) {
-  const bool port = registry.PutNumber(Key(), PortName(), settings.Port);
-  const bool network = registry.PutNumber(Key(), LocalNetworkName(), settings.LocalNetwork ? 1 : 0);
-  const bool peers =
-      WriteText(registry, TrustedPeersName(), settings.TrustedPeers.join(kBetweenPeers));
-  const bool last = WriteText(registry, LastReceiverName(), settings.LastReceiver);
-  return port && network && peers && last;
+  return registry.Put(Key(),
+                      {{PortName(), quint32{settings.Port}},
+                       {LocalNetworkName(), settings.LocalNetwork ? 1U : 0U},
+                       {TrustedPeersName(), BlockOf(settings.TrustedPeers.join(kBetweenPeers))},
+                       {LastReceiverName(), BlockOf(settings.LastReceiver)}});
 }
 
 bool TrustPeer(RegistryStore& registry, const QString& peer) {
   QStringList peers = ReadInfraredSettings(registry).TrustedPeers;
   if (peers.contains(peer)) return true;
   peers.append(peer);
-  return WriteText(registry, TrustedPeersName(), peers.join(kBetweenPeers));
+  return registry.PutText(Key(), TrustedPeersName(), BlockOf(peers.join(kBetweenPeers)));
 }
 
 bool RememberReceiver(RegistryStore& registry, const QString& receiver) {
-  return WriteText(registry, LastReceiverName(), receiver);
+  return registry.PutText(Key(), LastReceiverName(), BlockOf(receiver));
 }
 
 }  // namespace quill

@@ -57,17 +57,10 @@ RegistryKeyState JsonRegistry::Create(const QString& key) {
   return Replace(std::move(keys)) ? RegistryKeyState::Created : RegistryKeyState::Failed;
 }
 
-bool JsonRegistry::PutNumber(const QString& key, const QString& name, quint32 value) {
-  return Put(key, name, value);
-}
-
-bool JsonRegistry::PutText(const QString& key, const QString& name, const QByteArray& block) {
-  return Put(key, name, block);
-}
-
-bool JsonRegistry::Put(const QString& key, const QString& name, const RegistryValue& value) {
+bool JsonRegistry::Put(const QString& key, const std::vector<RegistryEntry>& values) {
   RegistryKeys keys = m_keys;
-  RegistryValueIn(RegistryKeyIn(keys, key), name) = value;
+  RegistryKey& changed = RegistryKeyIn(keys, key);
+  for (const RegistryEntry& entry : values) RegistryValueIn(changed, entry.Name) = entry.Value;
   return Replace(std::move(keys));
 }
 

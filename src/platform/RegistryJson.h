@@ -11,11 +11,10 @@
 
 #include <map>
 #include <optional>
-#include <variant>
+
+#include "platform/RegistryStore.h"
 
 namespace quill {
-
-using RegistryValue = std::variant<quint32, QByteArray>;
 
 // Spelling is the name as it was first put; the maps go by RegistryFold of it.
 struct RegistryNamedValue {

@@ -7,6 +7,8 @@
 
 #include <optional>
 #include <span>
+#include <variant>
+#include <vector>
 
 namespace quill {
 
@@ -19,6 +21,14 @@ struct RegistryTextRead {
   int Size = 0;
 };
 
+// A number, or a text's block.
+using RegistryValue = std::variant<quint32, QByteArray>;
+
+struct RegistryEntry {
+  QString Name;
+  RegistryValue Value;
+};
+
 class RegistryStore {
  public:
   virtual ~RegistryStore() = default;
@@ -26,10 +36,15 @@ class RegistryStore {
   // Opens the key, making it when it is missing; tells which.
   virtual RegistryKeyState Create(const QString& key) = 0;
 
-  // Each makes the key when it is missing, and replaces the value whatever its type was. False when
-  // it could not be stored; the old value stays then.
-  virtual bool PutNumber(const QString& key, const QString& name, quint32 value) = 0;
-  virtual bool PutText(const QString& key, const QString& name, const QByteArray& block) = 0;
+  // Makes the key when it is missing, and replaces the values whatever their types were: all of
+  // them or, when they could not be stored, none. False then.
+  virtual bool Put(const QString& key, const std::vector<RegistryEntry>& values) = 0;
+  bool PutNumber(const QString& key, const QString& name, quint32 value) {
+    return Put(key, {{name, value}});
+  }
+  bool PutText(const QString& key, const QString& name, const QByteArray& block) {
+    return Put(key, {{name, block}});
+  }
 
   // Nothing when there is no such number.
   virtual std::optional<quint32> QueryNumber(const QString& key, const QString& name) const = 0;

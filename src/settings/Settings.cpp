@@ -48,15 +48,14 @@ void ReadValues(const RegistryStore& registry, Settings& settings) {
   settings.AreaCodeValue = ReadAreaCode(registry);
 }
 
+// In one, so that nothing that happens meanwhile leaves a part of them.
 void WriteValues(RegistryStore& registry, const Settings& settings) {
-  const std::array written = {
-      registry.PutNumber(Key(), kAbcName.toString(), settings.Abc),
-      registry.PutNumber(Key(), kNameName.toString(), settings.Name),
-      registry.PutNumber(Key(), kAreaCodeName.toString(), settings.AreaCode),
-      registry.PutText(Key(), kAreaCodeValueName.toString(), AreaCodeBlock(settings.AreaCodeValue)),
-  };
-  if (!std::all_of(written.begin(), written.end(), [](bool done) { return done; }))
-    qCWarning(logSettings) << "some settings could not be stored";
+  const bool isWritten =
+      registry.Put(Key(), {{kAbcName.toString(), settings.Abc},
+                           {kNameName.toString(), settings.Name},
+                           {kAreaCodeName.toString(), settings.AreaCode},
+                           {kAreaCodeValueName.toString(), AreaCodeBlock(settings.AreaCodeValue)}});
+  if (!isWritten) qCWarning(logSettings) << "the settings could not be stored";
 }
 
 QString PrefixOf(const QString& areaCode) {

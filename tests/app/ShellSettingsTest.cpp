@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/JsonRegistry.h"
+#include "support/CountingRegistry.h"
 
 namespace quill {
 namespace {
@@ -15,7 +15,7 @@ const QString kKey = u"\\Software\\Fennick\\Quill\\Shell"_qs;
 class ShellSettingsIn : public testing::Test {
  protected:
   QTemporaryDir m_folder;
-  JsonRegistry m_registry{m_folder.filePath(u"settings.json"_qs)};
+  test::CountingRegistry m_registry{m_folder.filePath(u"settings.json"_qs)};
 };
 
 TEST_F(ShellSettingsIn, AnEmptyRegistryAreTheDefaults) {
@@ -32,6 +32,7 @@ TEST_F(ShellSettingsIn, AScaleAloneLeavesFullScreenToTheScreen) {
 TEST_F(ShellSettingsIn, TheRegistrySurviveTheProcess) {
   const ShellSettings settings{Scale{5}, true};
   EXPECT_TRUE(WriteShellSettings(m_registry, settings));
+  EXPECT_EQ(m_registry.Puts(), 1);
   const JsonRegistry again(m_folder.filePath(u"settings.json"_qs));
   EXPECT_EQ(ReadShellSettings(again), settings);
 }

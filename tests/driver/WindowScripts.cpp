@@ -64,6 +64,17 @@ TEST(AboutBox, ClosesByTheTitleBarsButtonsAndByKeys) {
   }
 }
 
+TEST(Widgets, AreCountedByClassAndNoneIsLeftOfAWindowThatWasClosed) {
+  ReadyDriver driver;
+  const QJsonValue before = driver.Result(R"({"op":"widgets"})", u"widgets");
+  EXPECT_EQ(before[u"MainFrame"], 1);
+  EXPECT_TRUE(before[u"AboutDialog"].isUndefined());
+  driver.Do(R"({"op":"command","id":57664})");
+  EXPECT_EQ(driver.Result(R"({"op":"widgets"})", u"widgets")[u"AboutDialog"], 1);
+  driver.Do(R"({"op":"cancel"})");
+  EXPECT_EQ(driver.Result(R"({"op":"widgets"})", u"widgets"), before);
+}
+
 TEST(Commands, DisabledOnesAreRefused) {
   ReadyDriver driver;
   EXPECT_EQ(driver.AskForLine(R"({"op":"command","id":40015})"),

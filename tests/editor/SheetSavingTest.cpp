@@ -271,11 +271,13 @@ TEST_F(SheetSavingTest, OtherDraftsStayWhenASheetIsWritten) {
   EXPECT_EQ(LoadDraft()->FileAs, QStringLiteral("other"));
 }
 
-TEST_F(SheetSavingTest, WhereNoDraftCanBeKeptTheSheetIsLost) {
+TEST_F(SheetSavingTest, WhereNoDraftCanBeKeptTheInkStays) {
   g_services.Recovery = nullptr;
   SheetRecord sheet = LoadSheet(0, m_state);
   Type(sheet, RowSet::Basic, 9, QStringLiteral("kim@example.com"));
-  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::Lost);
+  g_contactInk.Bytes = "ink";
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::NotKept);
+  EXPECT_EQ(g_contactInk.Bytes, "ink");
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "SheetFixture.h"
 #include "editor/Draft.h"
+#include "support/ScriptedPrompt.h"
 
 namespace quill {
 namespace {
@@ -85,6 +86,25 @@ TEST_F(EditRecordSheetTest, OKLeavesNoDraftOfWhatWasWritten) {
   });
   EXPECT_EQ(LoadDraft(), std::nullopt);
   EXPECT_EQ(Count(AllContacts()), 1);
+}
+
+TEST_F(EditRecordSheetTest, WhatCanNeitherBeStoredNorBecomeADraftStaysInTheSheetUntilItCan) {
+  test::ScriptedPrompt prompt({PromptAnswer::OK});
+  g_services.Prompt = &prompt;
+  const Oid kim = AddKim();
+  InSheet(kim, [&] {
+    TypeInRow(1, QStringLiteral("Pilot"));
+    m_store.Faults().Save = true;
+    g_services.Recovery = nullptr;
+    PressOK();
+    EXPECT_EQ(m_screen->Topmost(), m_sheet);
+    EXPECT_EQ(Value(RowSet::Basic, 1), QStringLiteral("Pilot"));
+    m_store.Faults().Save = false;
+    PressOK();
+  });
+  g_services.Prompt = nullptr;
+  EXPECT_EQ(Stored(kim).Record[JobTitle], QStringLiteral("Pilot"));
+  EXPECT_EQ(Stored(kim).BodyInk, "ink");
 }
 
 class DraftBarTest : public EditRecordSheetTest {

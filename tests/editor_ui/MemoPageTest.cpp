@@ -124,8 +124,6 @@ TEST_F(MemoPageTest, OKStoresTheInkAndLeavesNeitherInkNorControl) {
     sheet.OnOK();
   }});
   ASSERT_EQ(sheet.DoModal(), kResultOK);
-  EXPECT_EQ(g_contactInk.Bytes, kOther);
-  sheet.Save();
   EXPECT_EQ(sheet.findChild<InkX*>(), nullptr);
   EXPECT_EQ(g_contactInk.Count(), 0);
   EXPECT_EQ(Stored(kim).BodyInk, kOther);
@@ -292,7 +290,8 @@ TEST_F(MemoPageRecovery, InkThatBecomesADraftIsKeptThereOnly) {
   EXPECT_FALSE(IsKept());
 }
 
-TEST_F(MemoPageRecovery, InkThatCanBeNeitherStoredNorADraftIsStillKept) {
+TEST_F(MemoPageRecovery, InkThatCanBeNeitherStoredNorADraftStaysOnItsPageUntilItCan) {
+  m_prompt.Expect(PromptAnswer::OK);
   WithoutDrafts withoutDrafts(m_home.Recovery);
   InSheet(m_kim, [&] {
     ShowMemo();
@@ -300,6 +299,22 @@ TEST_F(MemoPageRecovery, InkThatCanBeNeitherStoredNorADraftIsStillKept) {
     m_store.Faults().Save = true;
     g_services.Recovery = &withoutDrafts;
     PressOK();
+    EXPECT_TRUE(IsKept());
+    m_store.Faults().Save = false;
+    PressOK();
+  });
+  EXPECT_FALSE(IsKept());
+  EXPECT_NE(Stored(m_kim).BodyInk, QByteArray());
+}
+
+TEST_F(MemoPageRecovery, InkThatCannotBecomeADraftAtTheProgramsEndIsStillKept) {
+  WithoutDrafts withoutDrafts(m_home.Recovery);
+  InSheet(m_kim, [&] {
+    ShowMemo();
+    Draw();
+    g_services.Recovery = &withoutDrafts;
+    m_isEnded = true;
+    m_sheet->EndDialog(kResultCancel);
   });
   EXPECT_TRUE(IsKept());
 }

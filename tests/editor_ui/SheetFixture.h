@@ -39,20 +39,18 @@ class SheetFixture : public ScreenFixture {
     return m_store.Contacts()->Save(0, record, ink);
   }
   // Opens the sheet of a contact, 0 for a new one, acts in it and ends it with Cancel when the test
-  // has not ended it. After OK the sheet was saved.
+  // has not ended it.
   void InSheet(Oid oid, const std::function<void()>& act) {
     CEditRecordSheet sheet(*m_screen, oid == 0 ? QStringLiteral("New") : QStringLiteral("Edit"));
     sheet.SetContact(oid);
     m_sheet = &sheet;
-    int result = kResultCancel;
     {
       Steps steps(*m_screen, {[&] {
         act();
         if (m_screen->Topmost() == &sheet && !m_isEnded) sheet.OnCancel();
       }});
-      result = sheet.DoModal();
+      sheet.DoModal();
     }
-    if (result == kResultOK) sheet.Save();
     m_sheet = nullptr;
     m_isEnded = false;
   }

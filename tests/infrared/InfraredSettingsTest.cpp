@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/JsonRegistry.h"
+#include "support/CountingRegistry.h"
 
 namespace quill {
 namespace {
@@ -17,7 +17,7 @@ class InfraredSettingsIn : public testing::Test {
   InfraredSettings Read() const { return ReadInfraredSettings(m_registry); }
 
   QTemporaryDir m_folder;
-  JsonRegistry m_registry{m_folder.filePath(u"settings.json"_qs)};
+  test::CountingRegistry m_registry{m_folder.filePath(u"settings.json"_qs)};
   const InfraredSettings m_some{7, true, {u"192.168.0.7"_qs, u"::1"_qs}, u"김:8"_qs};
 };
 
@@ -31,6 +31,7 @@ TEST_F(InfraredSettingsIn, AnEmptyRegistryKeepToThisMachine) {
 
 TEST_F(InfraredSettingsIn, TheRegistrySurviveTheProcess) {
   EXPECT_TRUE(WriteInfraredSettings(m_registry, m_some));
+  EXPECT_EQ(m_registry.Puts(), 1);
   const JsonRegistry again(m_folder.filePath(u"settings.json"_qs));
   EXPECT_EQ(ReadInfraredSettings(again), m_some);
   EXPECT_TRUE(WriteInfraredSettings(m_registry, {}));

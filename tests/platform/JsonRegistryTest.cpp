@@ -117,6 +117,15 @@ TEST_F(JsonRegistryTest, PutReplacesAValueWhateverItsTypeWas) {
   EXPECT_EQ(JsonRegistry(File()).QueryNumber(kKey, kNumber), 2U);
 }
 
+TEST_F(JsonRegistryTest, ValuesThatArePutTogetherAreAllStored) {
+  EXPECT_TRUE(JsonRegistry(File()).Put(kKey, {{kNumber, 7U}, {kText, AreaCodeBlock()}}));
+  const JsonRegistry registry(File());
+  EXPECT_EQ(registry.QueryNumber(kKey, kNumber), 7U);
+  QByteArray buffer(520, 'x');
+  EXPECT_EQ(registry.QueryText(kKey, kText, buffer).Status, RegistryStatus::Done);
+  EXPECT_EQ(buffer, AreaCodeBlock());
+}
+
 TEST_F(JsonRegistryTest, TheFolderIsMadeWhenItIsMissing) {
   const QString file = m_folder.filePath(QStringLiteral("a/b/settings.json"));
   JsonRegistry registry(file);

@@ -8,6 +8,7 @@
 
 #include "platform/JsonRegistry.h"
 #include "platform/Services.h"
+#include "support/CountingRegistry.h"
 
 namespace quill {
 namespace {
@@ -56,6 +57,14 @@ TEST_F(SettingsTest, NumbersAreThereAtTheNextStart) {
   SaveSettings(saved);
   EXPECT_EQ(Number("ABC"), 0U);
   EXPECT_EQ(Load(), saved);
+}
+
+TEST_F(SettingsTest, AreSavedInOneWriteSoThatNoPartOfThemIsEverStored) {
+  test::CountingRegistry registry(m_folder.filePath(QStringLiteral("counted.json")));
+  g_services.Registry = &registry;
+  Settings settings{.Abc = 0, .AreaCode = 1, .AreaCodeValue = u"02"_qs};
+  SaveSettings(settings);
+  EXPECT_EQ(registry.Puts(), 1);
 }
 
 TEST_F(SettingsTest, AKeyThatWasThereIsNotFilledWithDefaults) {

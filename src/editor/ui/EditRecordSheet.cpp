@@ -6,6 +6,7 @@
 #include "editor/ui/RecordPage.h"
 #include "exchange/CarriedDetails.h"
 #include "platform/InputPanel.h"
+#include "platform/Prompt.h"
 #include "platform/Services.h"
 #include "platform/ui/Screen.h"
 #include "resources/Ids.h"
@@ -70,12 +71,17 @@ void CEditRecordSheet::OnInitDialog() {
   g_services.Timers->Set(*this, kKeepTimer, kKeepMilliseconds);
 }
 
-void CEditRecordSheet::Save() {
+bool CEditRecordSheet::TakeRows() {
+  if (SaveSheet(m_record, g_settings) == SheetOutcome::NotKept) {
+    g_services.Prompt->Show(
+        {.Text = QStringLiteral("Cannot save. The storage is full or cannot be written.")});
+    return false;
+  }
   m_isDecided = true;
   g_services.Timers->Kill(*this, kKeepTimer);
-  // Ink that is neither stored nor a draft is offered again, as after a crash.
-  if (SaveSheet(m_record, g_settings) != SheetOutcome::Lost) m_memoPage->ForgetUnsaved();
+  m_memoPage->ForgetUnsaved();
   m_memoPage->Discard();
+  return true;
 }
 
 // What the user cancels is meant to go; a draft that was taken back is offered again as it was.

@@ -1,6 +1,8 @@
-// The record sheet: one contact, created or edited on three pages. It edits rows; Save turns them
-// into the contact again and writes it. What is entered outlives a crash as a draft, and a draft is
-// offered to the next new contact.
+// The record sheet: one contact, created or edited on three pages. It edits rows; OK turns them into
+// the contact again and writes it, or keeps a draft. What there is nothing to save of is not
+// written, and nothing is said of it; where neither can be written the user is told, and the sheet
+// stays open. What is entered outlives a crash as a draft, and a draft is offered to the next new
+// contact.
 #pragma once
 
 #include "editor/Draft.h"
@@ -24,10 +26,6 @@ class CEditRecordSheet : public CSheet {
   void SetContact(Oid oid) { m_record.Oid = oid; }
   const SheetRecord& Record() const { return m_record; }
 
-  // To be called after OK, once. What there is nothing to save of is not written, and nothing is
-  // said of it.
-  void Save();
-
   ControlMap Controls() const override;
   CommandRoute Route() const override;
   std::span<const resources::MenuEntry> TitleMenu() const override;
@@ -36,6 +34,7 @@ class CEditRecordSheet : public CSheet {
 
  protected:
   void OnInitDialog() override;
+  bool TakeRows() override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

@@ -10,9 +10,7 @@ namespace quill {
 namespace {
 
 void Run(CEditRecordSheet& sheet, CContactsView& view) {
-  if (sheet.DoModal() != kResultOK) return;
-  sheet.Save();
-  view.Rebuild();
+  if (sheet.DoModal() == kResultOK) view.Rebuild();
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QStandardPaths>
 
 #include "platform/ui/PenStyle.h"
@@ -15,6 +16,9 @@ namespace {
 
 constexpr int kPixelSize = 12;
 constexpr double kSampleWidthLimit = 123;  // Tahoma: 117
+// The style keeps pictures of buttons, boxes and the like under names that are new with each
+// window's palette: most of what it keeps is never asked for again, up to 10 MB of it.
+constexpr int kStylePicturesLimit = 512;  // KB
 
 QFont MakeFont(const QString& family, int pixelSize) {
   QFont font(family);
@@ -75,6 +79,7 @@ QPalette LightPalette() {
 }  // namespace
 
 void SetUpLook(QApplication& application) {
+  QPixmapCache::setCacheLimit(kStylePicturesLimit);
   application.setStyle(new PenStyle);
   application.setPalette(LightPalette());
   application.setFont(ChooseFont());

@@ -66,7 +66,7 @@ void CSheet::LeavePage() {
 void CSheet::OnOK() {
   LeavePage();
   for (CSheetPage* page : m_pages) page->StoreRows();
-  CModalWindow::OnOK();
+  if (TakeRows()) CModalWindow::OnOK();
 }
 
 ControlMap CSheet::Controls() const {

@@ -36,7 +36,7 @@ class CSheet : public CModalWindow {
   CommandRoute Route() const override;
   bool ShowContextMenu() override;
 
-  // Leaves the active page, lets all pages store their rows, and ends with OK.
+  // Leaves the active page, lets all pages store their rows, and ends with OK when they are taken.
   void OnOK() override;
   void OnVisibleAreaChanged(QRect area) override { setGeometry(area); }
 
@@ -46,6 +46,8 @@ class CSheet : public CModalWindow {
   void FocusFirstControl() override;
   // Where the pages stand: all that the tabs leave.
   virtual QRect PageArea() const;
+  // Called on OK with all rows stored. False keeps the sheet open.
+  virtual bool TakeRows() { return true; }
   // Called when another page is shown than before, however that came about.
   virtual void OnPageShown() {}
   bool eventFilter(QObject* watched, QEvent* event) override;
