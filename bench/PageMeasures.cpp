@@ -4,11 +4,13 @@
 #include <QDir>
 #include <QEvent>
 #include <QFile>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTimer>
 #include <QWindow>
 
+#include <functional>
 #include <random>
 
 #include "Ruler.h"
@@ -18,7 +20,9 @@
 #include "list/ListState.h"
 #include "list/ui/ContactListCtrl.h"
 #include "list/ui/ContactsView.h"
+#include "list/ui/RecordOpening.h"
 #include "memo/MemoListing.h"
+#include "platform/ui/Screen.h"
 #include "resources/Ids.h"
 #include "store/Categories.h"
 
@@ -28,6 +32,7 @@ namespace {
 
 constexpr QStringView kFrame = u"16 ms";
 constexpr int kMemos = 2000;
+constexpr int kLetters = 20;
 constexpr int kPauseForWindow = 10;  // milliseconds
 
 class PaintCounter : public QObject {
@@ -55,6 +60,7 @@ class PageMeasures {
     MeasureCategories(ruler);
     m_view.ShowMode(ViewMode::ByName);
     MeasureScrolling(ruler);
+    MeasureSheet(ruler);
     MeasureMemos(ruler);
     return ruler;
   }
@@ -134,6 +140,48 @@ class PageMeasures {
       act(page, QAbstractSlider::SliderPageStepAdd);
       act(line, QAbstractSlider::SliderSingleStepAdd);
     }
+  }
+
+  // Each is a whole visit to the contact in the first row.
+  void MeasureSheet(Ruler& ruler) {
+    const auto addRow = [&ruler](const QString& what) {
+      return ruler.AddRow(QStringLiteral("a contact opened, ") + what, kFrame, Unit::View);
+    };
+    const int look = addRow(QStringLiteral("closed"));
+    const int type = addRow(QStringLiteral("%1 letters typed, closed").arg(kLetters));
+    const int store = addRow(QStringLiteral("a letter typed, stored durably"));
+    for (Rounds rounds = ruler.NewRounds(); rounds.Another();) {
+      ruler.Run(look, [this] { return VisitContact([this] { Screen().Topmost()->OnCancel(); }); });
+      ruler.Run(type, [this] {
+        return VisitContact([this] { TypeLetters(kLetters), Screen().Topmost()->OnCancel(); });
+      });
+      ruler.Run(store, [this] {
+        return VisitContact([this] { TypeLetters(1), Screen().Topmost()->OnOK(); });
+      });
+    }
+  }
+
+  CScreen& Screen() { return *ScreenAround(&m_view); }
+
+  // Once the sheet is painted, does something in it that closes it. True when the list is painted
+  // again.
+  bool VisitContact(std::function<void()> work) {
+    QTimer::singleShot(0, &m_view, std::move(work));
+    return UntilPainted([this] { EditContact(m_view, g_list.Rows[0].Oid); });
+  }
+
+  // Into the second row, the job title, each painted.
+  static void TypeLetters(int count) {
+    for (int row = 0; row < 2; ++row) Press(Qt::Key_Down, {});
+    for (int i = 0; i < count; ++i) Press(Qt::Key_X, QStringLiteral("x"));
+  }
+
+  static void Press(Qt::Key key, const QString& text) {
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent event(type, key, Qt::NoModifier, text);
+      QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
+    }
+    QCoreApplication::sendPostedEvents();
   }
 
   CContactsView& m_view;

@@ -25,9 +25,9 @@ constexpr Rgb kIconColor = 0x2F5568;
 constexpr QStringView kNoCompany = u"<None>";
 constexpr QStringView kNoName = u"(no name)";  // spoken only
 constexpr std::array<QStringView, 3> kEmptyHint{
-    u"\"New\" adds a person. A hold on the title",
-    u"bar offers \"Import...\", and a terminal",
-    u"quill import FILE.vcf",
+    u"Add people: \"New\"",
+    u"or hold the title bar: \"Import...\"",
+    u"or quill import FILE.vcf",
 };
 
 QRect RowRectangle(int row) { return {0, row * kListRowHeight, kListWidth, kListRowHeight}; }

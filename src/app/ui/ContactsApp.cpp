@@ -122,7 +122,7 @@ void CContactsApp::TellProblem() {
 }
 
 void CContactsApp::RestoreFocus() {
-  m_start.SearchCaret ? m_frame->View().FocusSearch(*m_start.SearchCaret)
+  m_start.SearchCaret ? m_frame->View().SetSearchCaret(*m_start.SearchCaret)
                       : m_frame->View().FocusList();
 }
 
