@@ -8,9 +8,9 @@
 #include <cstring>
 
 #include "FuzzTarget.h"
+#include "RestrictionMatch.h"
 #include "store/ContactFields.h"
 #include "store/Restriction.h"
-#include "store/RestrictionMatch.h"
 #include "store/pim/PimStore.h"
 
 namespace quill::test {

@@ -16,9 +16,6 @@ namespace {
 
 constexpr int kPixelSize = 12;
 constexpr double kSampleWidthLimit = 123;  // Tahoma: 117
-// The style keeps pictures of buttons, boxes and the like under names that are new with each
-// window's palette: most of what it keeps is never asked for again, up to 10 MB of it.
-constexpr int kStylePicturesLimit = 512;  // KB
 
 QFont MakeFont(const QString& family, int pixelSize) {
   QFont font(family);
@@ -79,7 +76,9 @@ QPalette LightPalette() {
 }  // namespace
 
 void SetUpLook(QApplication& application) {
-  QPixmapCache::setCacheLimit(kStylePicturesLimit);
+  // The style would keep pictures of buttons, boxes and the like under names that are new with each
+  // window's palette: they are never asked for again, and their names stay even when they go.
+  QPixmapCache::setCacheLimit(0);
   application.setStyle(new PenStyle);
   application.setPalette(LightPalette());
   application.setFont(ChooseFont());
