@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <memory>
 
 #include "ListFilters.h"
@@ -53,7 +54,7 @@ std::optional<std::vector<Measure>> MeasureStore(const QString& storeFile, const
   }
   std::vector<Measure> measures = ruler.Measures();
   measures.push_back({QStringLiteral("memory grown by"), QStringLiteral("16 MB"),
-                      MegabytesText(ResidentMegabytes() - before)});
+                      MegabytesText(std::max(ResidentMegabytes() - before, 0.0))});
   measures.push_back({QStringLiteral("file, before writing"), {}, MegabytesText(fileSize)});
   return measures;
 }

@@ -186,7 +186,7 @@ TEST_F(ContactsAppTest, TheSearchBoxKeepsTheKeyboardThroughAChangeOfScale) {
   m_caret = end.Next->SearchCaret;
   Run([this] {
     return std::vector<Step>{[this] {
-                               EXPECT_TRUE(SearchBox()->hasFocus());
+                               EXPECT_EQ(m_outer->focusWidget(), SearchBox());
                                EXPECT_EQ(SearchBox()->cursorPosition(), 1);
                              },
                              Closing()};

@@ -3,7 +3,6 @@
 #include <QAccessible>
 
 #include "ink_ui/InkFixture.h"
-#include "support/AccessibleEvents.h"
 
 namespace quill {
 namespace {
@@ -33,28 +32,6 @@ TEST_F(InkAccessibilityTest, TheNoticeIsSpokenAndALockedNoteIsReadOnly) {
   EXPECT_EQ(Say(QAccessible::Description),
             QStringLiteral("This is no note; it is kept as it is. 0 strokes"));
   EXPECT_TRUE(Spoken().state().readOnly);
-}
-
-TEST_F(InkAccessibilityTest, WhatIsTypedAndDeletedIsToldWithItsPlace) {
-  Type(QStringLiteral("Kim"));
-  QStringList told;
-  std::vector<int> carets;
-  const test::AccessibleEvents events([&](QAccessibleEvent& event) {
-    if (event.object() != m_ink) return;
-    if (event.type() == QAccessible::TextUpdated) {
-      const auto& text = static_cast<QAccessibleTextUpdateEvent&>(event);
-      told << QStringLiteral("%1: %2 -> %3")
-                  .arg(text.changePosition())
-                  .arg(text.textRemoved(), text.textInserted());
-    }
-    if (event.type() == QAccessible::TextCaretMoved)
-      carets.push_back(static_cast<QAccessibleTextCursorEvent&>(event).cursorPosition());
-  });
-  Input({}, QStringLiteral("철수"));
-  Key(Qt::Key_Home);
-  Key(Qt::Key_Delete);
-  EXPECT_EQ(told, QStringList({QStringLiteral("3:  -> 철수"), QStringLiteral("0: K -> ")}));
-  EXPECT_EQ(carets, (std::vector<int>{5, 0, 0}));
 }
 
 TEST_F(InkAccessibilityTest, ItsTextIsReadWithCaretAndSelection) {

@@ -54,7 +54,7 @@ TEST_F(AccessibleListTest, TheViewIsReadOutFromTopToBottom) {
   for (int i = 0; i < view->childCount(); ++i)
     if (!view->child(i)->text(QAccessible::Name).isEmpty())
       names.append(view->child(i)->text(QAccessible::Name));
-  EXPECT_EQ(names.join(u';').toStdString(), "Search for;Search;Category;Index;Contacts");
+  EXPECT_EQ(names.join(u';').toStdString(), "Search for;Search;Category;Index;Contacts;Scroll bar");
 }
 
 TEST_F(AccessibleListTest, TheIndexStripIsABarOfButtons) {

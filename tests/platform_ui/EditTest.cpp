@@ -95,6 +95,8 @@ struct WayIn {
 void DropOn(CEdit& edit, const QString& text) {
   QMimeData data;
   data.setText(text);
+  QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&edit, &enter);
   QDropEvent event({1000, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QCoreApplication::sendEvent(&edit, &event);
   EXPECT_TRUE(event.isAccepted());

@@ -8,7 +8,6 @@
 #include "platform_ui/SampleWindows.h"
 #include "platform_ui/ScreenFixture.h"
 #include "resources/Ids.h"
-#include "support/AccessibleEvents.h"
 
 namespace quill {
 namespace {
@@ -188,20 +187,6 @@ TEST_F(TitleNoticeTest, IsReadOutAndPressedByAssistiveTechnology) {
   EXPECT_EQ(child.Role(), QAccessible::PushButton);
   child.Press();
   EXPECT_EQ(m_shellRan, m_ran);
-}
-
-TEST_F(TitleNoticeTest, IsAnAlertWhenItComesAndWhenItChangesAlone) {
-  std::vector<QString> alerts;
-  const test::AccessibleEvents events([&](QAccessibleEvent& event) {
-    if (event.type() == QAccessible::Alert && event.object() == &m_bar)
-      alerts.push_back(event.accessibleInterface()->text(QAccessible::Name));
-  });
-  const TitleNotice other{QStringLiteral("Sending"), QStringLiteral("Sending contacts"),
-                          ID_SHELL_SMALLER};
-  m_screen->ShowNotice(other);
-  m_screen->ShowNotice(other);
-  m_screen->ShowNotice(std::nullopt);
-  EXPECT_EQ(alerts, std::vector<QString>{QStringLiteral("Sending contacts")});
 }
 
 TEST_F(TitleNoticeTest, StaysBesideTheCaptionOfEveryWindow) {

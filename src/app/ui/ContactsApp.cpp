@@ -118,7 +118,7 @@ void CContactsApp::TellProblem() {
   ExchangeReport report;
   report.Target().Err << m_program.Problem();
   report.Show(kExitFailed, {});
-  m_screen->CloseAll();
+  QTimer::singleShot(0, m_screen, [this] { m_screen->CloseAll(); });
 }
 
 void CContactsApp::RestoreFocus() {

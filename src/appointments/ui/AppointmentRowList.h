@@ -23,7 +23,7 @@ class CAppointmentRowList : public CPaintedWindow {
 
   std::function<void(std::optional<AppointmentRow> row)> Chosen;
   // The arrow keys made this row the current one.
-  std::function<void(AppointmentRow row)> Reached;
+  std::function<void(AppointmentRow row)> Reached = [](AppointmentRow) {};
 
  protected:
   void PenPress(QPoint at) override;

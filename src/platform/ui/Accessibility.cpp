@@ -163,7 +163,10 @@ class AccessiblePaintedWindow : public QAccessibleWidget {
     return index < RowCount() ? Row(index) : QAccessibleWidget::child(index - RowCount());
   }
   QAccessibleInterface* childAt(int x, int y) const override {
-    if (QAccessibleInterface* const control = QAccessibleWidget::childAt(x, y)) return control;
+    for (int i = 0; i < QAccessibleWidget::childCount(); ++i) {
+      QAccessibleInterface* const control = QAccessibleWidget::child(i);
+      if (!control->state().invisible && control->rect().contains(x, y)) return control;
+    }
     return Row(m_window.RowAt(m_window.mapFromGlobal(QPoint(x, y))));
   }
   QAccessibleInterface* focusChild() const override {
