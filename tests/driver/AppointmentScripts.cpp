@@ -92,7 +92,7 @@ TEST_F(AppointmentScript, OneIsAddedFromTheContactsPopupAndListedThere) {
 
 TEST_F(AppointmentScript, ItIsWithThePopupsContactAlsoWhenTheStoreChangesUnderThePopup) {
   Popup();
-  m_driver.Do(R"({"op":"put","quiet":true,"fields":{"FileAs":"Adams"}})");
+  m_driver.Result(R"({"op":"put","quiet":true,"fields":{"FileAs":"Adams"}})", u"oid");
   m_driver.Do(R"({"op":"notify","param":0})");
   m_driver.Do(R"({"op":"wait","ms":800})");
   Run("choose", 32819);

@@ -148,8 +148,9 @@ TEST_F(RecordScript, WhatAnotherProgramChangedMeanwhileStays) {
   ReadyDriver driver(Arguments());
   const int oid = Put(driver, R"({"FileAs":"Kim","BusinessTelephoneNumber":"1"})");
   OpenFirst(driver);
-  driver.Do(R"({"op":"put","quiet":true,"oid":)" + QByteArray::number(oid) +
-            R"(,"fields":{"BusinessTelephoneNumber":"2","BodyInk":"aW5r"}})");
+  driver.Result(R"({"op":"put","quiet":true,"oid":)" + QByteArray::number(oid) +
+                    R"(,"fields":{"BusinessTelephoneNumber":"2","BodyInk":"aW5r"}})",
+                u"oid");
   EditRow(driver, 1, "Pilot");
   OK(driver);
   const QJsonObject expected{{u"FileAs"_qs, u"Kim"_qs},

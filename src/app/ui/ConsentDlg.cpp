@@ -17,6 +17,7 @@ void ShowText(const CDialog& dialog, int id, const QString& text) {
   auto& label = *qobject_cast<QLabel*>(dialog.Control(id));
   label.setText(ElideText(text, label.width(), NormalTextWidth()));
   label.setAccessibleName(text);
+  label.setVisible(!text.isEmpty());
 }
 
 }  // namespace

@@ -25,6 +25,7 @@ CImportedDetailsDlg::CImportedDetailsDlg(CScreen& screen, const std::vector<Carr
     : CDialog(screen, resources::kImportedDetailsDialog) {
   auto* const text = qobject_cast<QPlainTextEdit*>(Control(ImportedDetailsIds::kText));
   text->setReadOnly(true);
+  text->setAccessibleName(Caption());
   text->setPlainText(TextOf(details));
   auto* const copy = qobject_cast<QPushButton*>(Control(ImportedDetailsIds::kCopy));
   connect(copy, &QPushButton::clicked, this, &CImportedDetailsDlg::Copy);
