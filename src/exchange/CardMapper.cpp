@@ -22,6 +22,9 @@ using Field = ContactField;
 
 constexpr std::array kCompanyParts{Field::CompanyName, Field::Department};
 
+// Of a contact: the store lists it under each. A line with more is carried.
+constexpr qsizetype kMostCategories = 1000;
+
 // True when the field has the text, after it was put there if need be.
 bool PutOrHas(const QString& text, QString& field) {
   if (field.isEmpty()) field = text;
@@ -74,15 +77,18 @@ void PlaceCategories(CardPool& pool, ContactRecord& record) {
   QSet<QString> known(names.begin(), names.end());
   const qsizetype before = names.size();
   for (const CardProperty* categories : pool.All(u"CATEGORIES")) {
+    bool isPlaced = true;
     for (QString name : PartsOf(*categories, u',')) {
       // A comma separates names in the record.
       name = name.replace(u',', u' ').trimmed();
       const bool isName = !name.isEmpty() && name != kNoCategories;
       if (!isName || known.contains(name)) continue;
+      isPlaced = names.size() < kMostCategories;
+      if (!isPlaced) break;
       known.insert(name);
       names.append(name);
     }
-    pool.Take(*categories);
+    if (isPlaced) pool.Take(*categories);
   }
   if (names.size() > before) field = JoinCategories(names);
 }

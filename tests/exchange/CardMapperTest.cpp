@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "exchange/CardSamples.h"
+#include "store/CategoryText.h"
 
 namespace quill::test {
 namespace {
@@ -30,6 +31,17 @@ TEST(CardMapper, TakesNoCategoriesForNoCategoryButShowAllForOne) {
   EXPECT_EQ(ContactOf("FN:x\nCATEGORIES:Show All, No Categories ,Golf\n")
                 .Record[ContactField::Categories],
             u"Show All, Golf");
+}
+
+TEST(CardMapper, PlacesAThousandCategoriesAndCarriesALineWithMore) {
+  QByteArrayList names;
+  for (int i = 0; i < 1001; ++i) names.append(QByteArray::number(i));
+  const ContactItem item = ContactOf("FN:x\nCATEGORIES:" + names.join(',') + '\n');
+  EXPECT_EQ(SplitCategories(item.Record[ContactField::Categories]).size(), 1000);
+  EXPECT_TRUE(item.CarriedLines.startsWith(u"CATEGORIES:0,1,2,"))
+      << item.CarriedLines.left(40).toStdString();
+  names.removeLast();
+  EXPECT_EQ(ContactOf("FN:x\nCATEGORIES:" + names.join(',') + '\n').CarriedLines, QString());
 }
 
 TEST(CardMapper, CarriesNoVersion) { EXPECT_EQ(ContactOf("FN:x\n").CarriedLines, QString()); }
