@@ -41,7 +41,7 @@ find_window() {
 has_ended() { ! kill -0 "$program" 2>/dev/null; }
 
 mkfifo "$scratch/number"
-Xvfb -displayfd 3 -screen 0 800x800x24 -nolisten tcp 3>"$scratch/number" 2>"$scratch/xvfb.err" &
+Xvfb -displayfd 3 -noreset -screen 0 800x800x24 -nolisten tcp 3>"$scratch/number" 2>"$scratch/xvfb.err" &
 server=$!
 read -r -t 20 number <"$scratch/number" || fail "no X server"
 unset WAYLAND_DISPLAY QT_SCALE_FACTOR

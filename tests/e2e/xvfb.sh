@@ -43,10 +43,11 @@ within() {
   done
 }
 
+# Without -noreset it begins anew, and takes nobody meanwhile, whenever its last client has gone.
 start_server() {
   local number
   mkfifo "$scratch/number"
-  Xvfb -displayfd 3 -screen 0 1024x1100x24 -nolisten tcp 3>"$scratch/number" 2>"$scratch/xvfb.err" &
+  Xvfb -displayfd 3 -noreset -screen 0 1024x1100x24 -nolisten tcp 3>"$scratch/number" 2>"$scratch/xvfb.err" &
   server=$!
   read -r -t 20 number <"$scratch/number" || fail "no X server: $(cat "$scratch/xvfb.err")"
   export DISPLAY=:$number
