@@ -7,6 +7,8 @@
 # program is closed by the window manager's delete message with About still open, then once more by
 # its own close button.
 set -euo pipefail
+# shellcheck source=tests/e2e/window.sh
+. "$(dirname "${BASH_SOURCE[0]}")/window.sh"
 
 quill=${1:?path of quill}
 driver=${2:?path of quill-driver}
@@ -33,38 +35,12 @@ fail() {
   exit 1
 }
 
-# within SECONDS COMMAND...: tries the command ten times a second until it succeeds.
-within() {
-  local tries=$(($1 * 10))
-  shift
-  until "$@"; do
-    ((tries-- > 0)) || return 1
-    sleep 0.1
-  done
-}
-
-# Without -noreset it begins anew, and takes nobody meanwhile, whenever its last client has gone.
-start_server() {
-  local number
-  mkfifo "$scratch/number"
-  Xvfb -displayfd 3 -noreset -screen 0 1024x1100x24 -nolisten tcp 3>"$scratch/number" 2>"$scratch/xvfb.err" &
-  server=$!
-  read -r -t 20 number <"$scratch/number" || fail "no X server: $(cat "$scratch/xvfb.err")"
-  export DISPLAY=:$number
-  within 20 xdotool getdisplaygeometry >/dev/null 2>&1 || fail "the X server $number takes nobody"
-}
-
 # Nothing of the caller's desktop reaches the program.
 set_environment() {
   unset WAYLAND_DISPLAY QT_SCALE_FACTOR
   export HOME=$scratch XDG_RUNTIME_DIR=$scratch/runtime LC_ALL=C.UTF-8
   export DBUS_SESSION_BUS_ADDRESS=disabled:
   mkdir -m 700 "$scratch/runtime"
-}
-
-find_window() {
-  window=$(xdotool search --onlyvisible --name "^Quill \(Quillbook\)$" 2>/dev/null | head -n 1)
-  [[ -n $window ]]
 }
 
 start_quill() {
@@ -171,7 +147,7 @@ open_about() {
   same_picture about
 }
 
-start_server
+start_server 1024x1100x24
 set_environment
 start_driver
 
