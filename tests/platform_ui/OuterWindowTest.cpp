@@ -1,5 +1,6 @@
 #include "platform/ui/OuterWindow.h"
 
+#include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QLineEdit>
 #include <QMimeData>
@@ -28,6 +29,16 @@ TEST_F(OuterWindowTest, FullScreenIsAsLargeAsTheDesktopAllows) {
   EXPECT_TRUE(m_outer->isFullScreen());
   EXPECT_EQ(m_screen->geometry().center(), m_outer->rect().center());
   EXPECT_EQ(m_screen->size(), QSize(240, 320));
+}
+
+TEST_F(OuterWindowTest, TellsOnceThatItWasPaintedAndNotWhileItPaints) {
+  int calls = 0;
+  m_outer->Painted = [&calls] { ++calls; };
+  m_outer->repaint();
+  EXPECT_EQ(calls, 0);
+  m_outer->repaint();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(calls, 1);
 }
 
 TEST_F(OuterWindowTest, KeysReachTheScreenWhileNothingInItHasTheFocus) {

@@ -140,7 +140,9 @@ void CContactsApp::FollowInfrared() {
 
 void CContactsApp::ShowMainWindow() {
   m_outer->setWindowTitle(kApplicationTitle.toString());
-  m_outer->setWindowIcon(QIcon::fromTheme(QGuiApplication::desktopFileName()));
+  m_outer->Painted = [this] {  // finding it in the desktop's theme takes as long as all else here
+    m_outer->setWindowIcon(QIcon::fromTheme(QGuiApplication::desktopFileName()));
+  };
   IsFullScreen() ? m_outer->ShowOnFullScreen() : m_outer->ShowWindowed();
   m_outer->raise();
   m_outer->activateWindow();

@@ -5,7 +5,10 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QScreen>
+#include <QTimer>
 #include <QUrl>
+
+#include <utility>
 
 #include "platform/ScreenLayout.h"
 
@@ -66,6 +69,7 @@ void COuterWindow::CentreScreen() {
 
 void COuterWindow::paintEvent(QPaintEvent* event) {
   QPainter(this).fillRect(event->rect(), QColor::fromRgb(kSurround));
+  if (Painted) QTimer::singleShot(0, this, std::exchange(Painted, nullptr));
 }
 
 void COuterWindow::dragEnterEvent(QDragEnterEvent* event) {

@@ -19,6 +19,8 @@ class COuterWindow : public QWidget {
   void ShowOnFullScreen();
   // Called when the desktop asks the window to close; the window itself does not.
   std::function<void()> CloseAsked;
+  // Called once, soon after the window was painted for the first time.
+  std::function<void()> Painted;
   // Files that somebody drops on the window: whether they may just now, and which they were.
   std::function<bool()> MayDrop;
   std::function<void(const QStringList& files)> FilesDropped;
