@@ -11,8 +11,9 @@ namespace {
 
 constexpr QSize kPaper{100, 40};
 
-QImage Draw(const PaintedItem& item) {
-  QImage image(kPaper, QImage::Format_RGB32);
+QImage Draw(const PaintedItem& item, double scale = 1) {
+  QImage image(kPaper * scale, QImage::Format_RGB32);
+  image.setDevicePixelRatio(scale);
   image.fill(Qt::white);
   QPainter painter(&image);
   PaintedRow row;
@@ -70,17 +71,21 @@ TEST_F(RowPainterTest, TextIsClippedToItsRectangle) {
   EXPECT_EQ(ink.right(), area.right());
 }
 
-TEST_F(RowPainterTest, BoldTextHasMoreInk) {
+class BoldTextTest : public RowPainterTest, public testing::WithParamInterface<double> {};
+
+INSTANTIATE_TEST_SUITE_P(Scales, BoldTextTest, testing::Values(1, 1.25, 1.5, 2, 3, 4));
+
+TEST_P(BoldTextTest, HasAtLeastAQuarterMoreInk) {
   const auto inkOf = [](const QImage& image) {
     int ink = 0;
     for (int y = 0; y < image.height(); ++y)
       for (int x = 0; x < image.width(); ++x) ink += 255 - qGray(image.pixel(x, y));
     return ink;
   };
-  PaintedItem item{.Rectangle = {10, 5, 80, 30}, .Text = QStringLiteral("HHH")};
-  const int normal = inkOf(Draw(item));
+  PaintedItem item{.Rectangle = {10, 5, 80, 30}, .Text = QStringLiteral("Basic 김")};
+  const int normal = inkOf(Draw(item, GetParam()));
   item.Weight = TextWeight::Bold;
-  EXPECT_GT(inkOf(Draw(item)), normal);
+  EXPECT_GT(inkOf(Draw(item, GetParam())), normal * 1.25);
 }
 
 TEST_F(RowPainterTest, APictureStaysInItsRectangleAndHasItsColour) {

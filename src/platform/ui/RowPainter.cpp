@@ -54,16 +54,31 @@ qreal TextLeft(const QRect& area, TextAlign alignment, qreal width) {
   return area.left();
 }
 
+// Bold letters are a device pixel thicker, or not even that, where the font has no bold face. On a
+// fine screen this many logical pixels more make up for it.
+qreal MissingThickness(const QPainter& painter) {
+  const qreal ratio = painter.device()->devicePixelRatioF();
+  return ratio > 2 ? 0.5 - 0.5 / ratio : 0;
+}
+
+void DrawBold(QPainter& painter, QPointF at, const QString& text) {
+  const qreal missing = MissingThickness(painter);
+  painter.drawText(at, text);
+  if (missing > 0) painter.drawText(at + QPointF(missing, 0), text);
+}
+
 // Placed by the cell's own height and base line: the metrics of the font differ between platforms.
 void DrawText(QPainter& painter, const PaintedItem& item) {
   const QRect& area = item.Rectangle;
   painter.save();
   painter.setClipRect(area, Qt::IntersectClip);
-  painter.setFont(item.Weight == TextWeight::Bold ? BoldFont() : NormalFont());
+  const bool bold = item.Weight == TextWeight::Bold;
+  painter.setFont(bold ? BoldFont() : NormalFont());
   painter.setPen(QColor::fromRgb(item.Color));
   const qreal width = QFontMetricsF(painter.font()).horizontalAdvance(item.Text);
   const int baseLine = area.top() + (area.height() - kCellHeight) / 2 + kCellAscent;
-  painter.drawText(QPointF(TextLeft(area, item.Alignment, width), baseLine), item.Text);
+  const QPointF at(TextLeft(area, item.Alignment, width), baseLine);
+  bold ? DrawBold(painter, at, item.Text) : painter.drawText(at, item.Text);
   painter.restore();
 }
 
