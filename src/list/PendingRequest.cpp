@@ -20,6 +20,7 @@ Q_LOGGING_CATEGORY(logRequests, "quill.list")
 void Replace(PendingRequest& request, PendingRequest next) {
   if (request.Kind != PendingKind::None)
     qCWarning(logRequests) << "a request that waits gives way to a later one";
+  next.NobodyFound = request.NobodyFound;
   request = std::move(next);
 }
 
@@ -32,7 +33,7 @@ Oid FindByName(const QString& fileAs) {
 
 bool IsThere(Oid contact) {
   ContactRecord record;
-  return contact != 0 && ReadListRow(ContactSelector(contact), record) != 0;
+  return ReadListRow(ContactSelector(contact), record) != 0;
 }
 
 }  // namespace
@@ -49,8 +50,11 @@ RequestAnswer TakeRequest(PendingRequest& request, int kind, const QString& text
     default:
       return RequestAnswer::Ignored;
   }
-  Replace(request, {.Kind = asked, .Contact = FindByName(text)});
-  return NamesNobody(request) ? RequestAnswer::NotFound : RequestAnswer::Kept;
+  const Oid contact = FindByName(text);
+  request.NobodyFound = request.NobodyFound || contact == 0;
+  if (contact == 0) return RequestAnswer::NotFound;
+  Replace(request, {.Kind = asked, .Contact = contact});
+  return RequestAnswer::Kept;
 }
 
 void TakeMemo(PendingRequest& request, const QString& path) {
@@ -58,9 +62,9 @@ void TakeMemo(PendingRequest& request, const QString& path) {
   request.Memos.append(path);
 }
 
-bool NamesNobody(const PendingRequest& request) {
+void DropIfGone(PendingRequest& request) {
   const bool shows = request.Kind == PendingKind::Show || request.Kind == PendingKind::ShowAgain;
-  return shows && !IsThere(request.Contact);
+  if (shows && !IsThere(request.Contact)) request = {.NobodyFound = true};
 }
 
 }  // namespace quill

@@ -22,19 +22,19 @@ enum class PendingKind {
 
 inline constexpr qsizetype kRequestTextLimit = 128;  // UTF-16 units; what is longer is cut
 
-// The latest request takes the place of an earlier one, also when it names nobody: then the user is
-// told so. That one gave way is said on the log.
+// The latest request takes the place of an earlier one. That one gave way is said on the log.
 struct PendingRequest {
   PendingKind Kind = PendingKind::None;
-  Oid Contact = 0;         // to be shown; 0 when the text names nobody
-  QString Text = {};       // of the new contact
-  QStringList Memos = {};  // device paths, to be opened one after the other
+  bool NobodyFound = false;  // a text named nobody, and that is still to be said
+  Oid Contact = 0;           // to be shown
+  QString Text = {};         // of the new contact
+  QStringList Memos = {};    // device paths, to be opened one after the other
 };
 extern PendingRequest g_pendingRequest;
 
 enum class RequestAnswer {
   Ignored,   // an unknown kind
-  NotFound,  // in request now, but no contact is filed under exactly this text
+  NotFound,  // no contact is filed under exactly this text: what waits goes on waiting
   Kept,      // in request now
 };
 // Of several contacts of one name the first in the store's order is meant.
@@ -43,7 +43,7 @@ RequestAnswer TakeRequest(PendingRequest& request, int kind, const QString& text
 // Memos that wait already stay before it.
 void TakeMemo(PendingRequest& request, const QString& path);
 
-// True for a request to show a contact that was not found.
-bool NamesNobody(const PendingRequest& request);
+// Notes that nobody was found when the contact that waits to be shown has gone meanwhile.
+void DropIfGone(PendingRequest& request);
 
 }  // namespace quill

@@ -35,7 +35,8 @@ TEST_F(PendingRequestTest, OfTwoOfOneNameTheFirstInTheStoresOrderIsMeant) {
 TEST_F(PendingRequestTest, ABeginningOfANameIsNotFound) {
   Add(u"Kimberly"_qs);
   EXPECT_EQ(TakeRequest(m_request, 1, u"Kim"_qs), RequestAnswer::NotFound);
-  EXPECT_TRUE(NamesNobody(m_request));
+  EXPECT_TRUE(m_request.NobodyFound);
+  EXPECT_EQ(m_request.Kind, PendingKind::None);
 }
 
 TEST_F(PendingRequestTest, QuotesInANameAreFound) {
@@ -59,34 +60,45 @@ TEST_F(PendingRequestTest, MemosDoNotComeByAMessage) {
   EXPECT_EQ(TakeRequest(m_request, -1, u"\\a.pwi"_qs), RequestAnswer::Ignored);
 }
 
-TEST_F(PendingRequestTest, TheLatestTakesTheEarliersPlaceAlsoWhenItNamesNobody) {
+TEST_F(PendingRequestTest, TheLatestTakesTheEarliersPlace) {
   const Oid kim = Add(u"Kim"_qs);
   const Oid lee = Add(u"Lee"_qs);
   TakeRequest(m_request, 1, u"Kim"_qs);
+  EXPECT_EQ(m_request.Contact, kim);
   TakeRequest(m_request, 1, u"Lee"_qs);
   EXPECT_EQ(m_request.Contact, lee);
-  EXPECT_NE(kim, lee);
-  TakeRequest(m_request, 4, u"Nobody"_qs);
-  EXPECT_EQ(m_request.Kind, PendingKind::ShowAgain);
-  EXPECT_EQ(m_request.Contact, 0);
-  TakeRequest(m_request, 1, u"Kim"_qs);
-  EXPECT_EQ(m_request.Contact, kim);
 }
 
-TEST_F(PendingRequestTest, OnlyOneToShowWithoutAContactNamesNobody) {
+TEST_F(PendingRequestTest, OneThatNamesNobodyTakesNoPlaceAndIsRemembered) {
   const Oid kim = Add(u"Kim"_qs);
-  EXPECT_FALSE(NamesNobody({}));
-  EXPECT_FALSE(NamesNobody({.Kind = PendingKind::New}));
-  EXPECT_FALSE(NamesNobody({.Kind = PendingKind::Show, .Contact = kim}));
-  EXPECT_TRUE(NamesNobody({.Kind = PendingKind::Show}));
-  EXPECT_TRUE(NamesNobody({.Kind = PendingKind::ShowAgain}));
+  const Oid lee = Add(u"Lee"_qs);
+  TakeRequest(m_request, 1, u"Kim"_qs);
+  EXPECT_FALSE(m_request.NobodyFound);
+  EXPECT_EQ(TakeRequest(m_request, 4, u"Nobody"_qs), RequestAnswer::NotFound);
+  EXPECT_EQ(m_request.Contact, kim);
+  TakeRequest(m_request, 1, u"Lee"_qs);
+  EXPECT_EQ(m_request.Contact, lee);
+  EXPECT_TRUE(m_request.NobodyFound);
 }
 
-TEST_F(PendingRequestTest, OneWhoseContactHasGoneWhileItWaitedNamesNobody) {
+TEST_F(PendingRequestTest, OneWhoseContactIsThereOrThatShowsNoneStays) {
+  const Oid kim = Add(u"Kim"_qs);
+  for (PendingRequest request : {PendingRequest{}, PendingRequest{.Kind = PendingKind::New},
+                                 PendingRequest{.Kind = PendingKind::Show, .Contact = kim}}) {
+    const PendingKind kind = request.Kind;
+    DropIfGone(request);
+    EXPECT_EQ(request.Kind, kind);
+    EXPECT_FALSE(request.NobodyFound);
+  }
+}
+
+TEST_F(PendingRequestTest, OneWhoseContactHasGoneWhileItWaitedFindsNobody) {
   const Oid kim = Add(u"Kim"_qs);
   ASSERT_EQ(TakeRequest(m_request, 1, u"Kim"_qs), RequestAnswer::Kept);
   ASSERT_TRUE(m_store.Contacts()->Remove(kim));
-  EXPECT_TRUE(NamesNobody(m_request));
+  DropIfGone(m_request);
+  EXPECT_EQ(m_request.Kind, PendingKind::None);
+  EXPECT_TRUE(m_request.NobodyFound);
 }
 
 TEST_F(PendingRequestTest, ANewContactKeepsItsTextAndNeedsNobodyOfThatName) {
@@ -116,6 +128,7 @@ TEST_F(PendingRequestTest, ALaterNewContactTakesThePlaceOfOneToBeShown) {
 }
 
 TEST_F(PendingRequestTest, OneThatGivesWayIsLogged) {
+  Add(u"Kim"_qs);
   const auto logged = [this](int kind) {
     testing::internal::CaptureStderr();
     TakeRequest(m_request, kind, u"Kim"_qs);

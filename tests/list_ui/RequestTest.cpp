@@ -128,21 +128,36 @@ TEST_F(RequestTest, ANameThatNobodyHasIsSaidOnceAfterTheOpenWindowHasClosed) {
   EXPECT_EQ(ShownTexts(), QStringList(QStringLiteral("Related name not found.")));
 }
 
-TEST_F(RequestTest, AnEarlierRequestIsForgottenForOneThatNamesNobody) {
+TEST_F(RequestTest, AContactThatWaitsIsShownAlthoughALaterRequestNamesNobody) {
   View().OnCopyData(1, QStringLiteral("Lee"));
   View().OnCopyData(1, QStringLiteral("Nobody"));
   m_prompt.Expect(PromptAnswer::OK);
   QCoreApplication::processEvents();
-  m_timers.Advance(1000);
   EXPECT_EQ(ShownTexts(), QStringList(QStringLiteral("Related name not found.")));
+  AdvanceToSheetOf(QStringLiteral("Lee"), 1000);
+  EXPECT_EQ(ShownTexts().size(), 1);
 }
 
-TEST_F(RequestTest, NobodyIsForgottenForALaterContactWhichComesAtItsOwnTime) {
-  View().OnCopyData(1, QStringLiteral("Nobody"));
+TEST_F(RequestTest, BehindAnOpenWindowBothWaitAndNobodyIsSaidFirst) {
+  {
+    const test::ViewFrame other(*m_screen);
+    View().OnCopyData(1, QStringLiteral("Nobody"));
+    View().OnCopyData(1, QStringLiteral("Lee"));
+    QCoreApplication::processEvents();
+    m_timers.Advance(1000);
+    EXPECT_EQ(ShownTexts(), QStringList());
+  }
+  m_prompt.Expect(PromptAnswer::OK);
+  AdvanceToSheetOf(QStringLiteral("Lee"), 100);
+  EXPECT_EQ(ShownTexts().size(), 1);
+}
+
+TEST_F(RequestTest, ThatAContactWentWhileItWaitedIsSaid) {
   View().OnCopyData(1, QStringLiteral("Lee"));
-  QCoreApplication::processEvents();
-  AdvanceToSheetOf(QStringLiteral("Lee"), 1000);
-  EXPECT_EQ(ShownTexts(), QStringList());
+  ASSERT_TRUE(DeleteContact(g_list.Rows[1].Oid));
+  m_prompt.Expect(PromptAnswer::OK);
+  m_timers.Advance(1000);
+  EXPECT_EQ(ShownTexts(), QStringList(QStringLiteral("Related name not found.")));
 }
 
 TEST_F(RequestTest, NoSheetOpensUntilThePenIsUp) {

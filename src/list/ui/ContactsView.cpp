@@ -7,7 +7,6 @@
 
 #include <utility>
 
-#include "editor/SheetState.h"
 #include "editor/ui/ContactSummaryCard.h"
 #include "list/CategoryLabelLayout.h"
 #include "list/ContactPopup.h"
@@ -15,7 +14,6 @@
 #include "list/ListAreas.h"
 #include "list/MemoPage.h"
 #include "list/PageBuilding.h"
-#include "list/PendingRequest.h"
 #include "list/Search.h"
 #include "list/Selection.h"
 #include "list/StartUp.h"
@@ -30,9 +28,9 @@
 #include "list/ui/ListKeyCommands.h"
 #include "list/ui/MemoCommands.h"
 #include "list/ui/RecordOpening.h"
+#include "list/ui/RequestOpening.h"
 #include "list/ui/SettingsCommands.h"
 #include "list/ui/ViewModeCommands.h"
-#include "platform/Prompt.h"
 #include "platform/Services.h"
 #include "platform/ui/Edit.h"
 #include "platform/ui/InputCommit.h"
@@ -65,7 +63,8 @@ CContactsView::CContactsView(QWidget* frame)
       m_modeCommands(MakeViewModeCommands(*this)),
       m_categoryCommands(MakeCategoryCommands(*this)),
       m_settingsCommands(MakeSettingsCommands(*this)),
-      m_keyCommands(MakeListKeyCommands(*this)) {
+      m_keyCommands(MakeListKeyCommands(*this)),
+      m_requests(std::make_unique<RequestOpening>(*this)) {
   MakeControls();
   PlaceControls();
   ShowPage();
@@ -124,7 +123,7 @@ void CContactsView::OnInitialUpdate(StoreProvider& provider) {
 
 void CContactsView::ShowState() {
   m_searchEdit->setText(g_list.SearchEntry);
-  WaitForPending();  // a request may have come to the shell before
+  m_requests->Await();  // a request may have come to the shell before
   g_list.RebuildDue ? Rebuild() : ShowPage();
 }
 
@@ -148,7 +147,6 @@ void CContactsView::OnStoreNotice(int first, int) {
 }
 
 void CContactsView::OnTimer(int id) {
-  if (id == kRequestTimer) return OpenPending();
   if (id != kNoticeTimer || IsInUse()) return;
   g_services.Timers->Kill(*this, kNoticeTimer);
   ShowWaiting(false);
@@ -169,49 +167,10 @@ void CContactsView::ShowWaiting(bool waiting) {
 }
 
 bool CContactsView::OnCopyData(int kind, const QString& text) {
-  const RequestAnswer answer = TakeRequest(g_pendingRequest, kind, text);
-  if (answer != RequestAnswer::Ignored) WaitForPending();
-  // Said as soon as may be, but whoever asks must not wait for the message box.
-  if (answer == RequestAnswer::NotFound)
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-          if (NamesNobody(g_pendingRequest)) OpenPending();
-        },
-        Qt::QueuedConnection);
-  return answer == RequestAnswer::Kept;
+  return m_requests->OnCopyData(kind, text);
 }
 
-void CContactsView::OpenMemoFile(const QString& path) {
-  TakeMemo(g_pendingRequest, path);
-  WaitForPending();
-}
-
-void CContactsView::WaitForPending() {
-  if (g_pendingRequest.Kind != PendingKind::None)
-    g_services.Timers->Set(*this, kRequestTimer, kRequestMilliseconds);
-}
-
-void CContactsView::OpenPending() {
-  const CScreen* const screen = ScreenAround(this);
-  // The timer goes on until what is open has closed and the pen is up.
-  if (screen && (!screen->IsIdle() || screen->IsPenDown())) return;
-  g_services.Timers->Kill(*this, kRequestTimer);
-  ShowRequest(std::exchange(g_pendingRequest, {}));
-}
-
-void CContactsView::ShowRequest(const PendingRequest& request) {
-  if (request.Kind == PendingKind::New) {
-    g_sheet.SeedText = request.Text;
-    MakeNewContact(*this);
-  } else if (request.Kind == PendingKind::Memos) {
-    OpenMemoFiles(*this, request.Memos);
-  } else if (NamesNobody(request)) {
-    g_services.Prompt->Show({.Text = QStringLiteral("Related name not found.")});
-  } else {
-    EditContact(*this, request.Contact);
-  }
-}
+void CContactsView::OpenMemoFile(const QString& path) { m_requests->OpenMemoFile(path); }
 
 void CContactsView::Rebuild() {
   BuildPage(g_list);

@@ -9,7 +9,6 @@
 
 #include "list/KeyMoves.h"
 #include "list/ListState.h"
-#include "list/PendingRequest.h"
 #include "list/Scrolling.h"
 #include "platform/CommandTarget.h"
 #include "platform/Timers.h"
@@ -25,6 +24,7 @@ class CCategoryLabel;
 class CContactSummaryCard;
 class CContactListCtrl;
 class CIndexStrip;
+class RequestOpening;
 
 class CContactsView : public QWidget, public TimerTarget {
   Q_OBJECT
@@ -44,11 +44,8 @@ class CContactsView : public QWidget, public TimerTarget {
   // The store's change notice. first is 1 for a change of this program itself; any other rebuilds
   // the list half a second after the last notice, and not while a menu is open or the pen is down.
   void OnStoreNotice(int first, int second);
-  // A request by another program. True when it will be shown: as soon as no dialog and no menu is
-  // open and the pen is up. That nobody has the name asked for is said then, too, unless another
-  // request has come meanwhile.
+  // What other programs ask: see RequestOpening.
   bool OnCopyData(int kind, const QString& text);
-  // The same for a memo file, by its device path.
   void OpenMemoFile(const QString& path);
   void OnTimer(int id) override;
 
@@ -80,9 +77,6 @@ class CContactsView : public QWidget, public TimerTarget {
   void Scroll(ScrollRequest request, int thumb);
   void MoveRow(KeyMove move);
   void OpenRow(int row);
-  void WaitForPending();
-  void OpenPending();
-  void ShowRequest(const PendingRequest& request);
   void ShowCard(int row, QPoint at);
   void DismissCard();
   void ShowRowPopup(int row, QPoint at);
@@ -106,6 +100,7 @@ class CContactsView : public QWidget, public TimerTarget {
   std::unique_ptr<CommandTarget> m_categoryCommands;
   std::unique_ptr<CommandTarget> m_settingsCommands;
   std::unique_ptr<CommandTarget> m_keyCommands;
+  std::unique_ptr<RequestOpening> m_requests;
 };
 
 }  // namespace quill
