@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QToolButton>
 
 #include "platform/Services.h"
@@ -206,6 +207,15 @@ TEST_F(DatePickerTest, ACalendarThatIsCancelledChangesNothing) {
              [this](CCalendarDlg&) { m_input.Key(Qt::Key_Escape); });
   EXPECT_EQ(m_picker.Date(), QDate(1990, 5, 12));
   EXPECT_EQ(m_changes, 0);
+}
+
+TEST_F(DatePickerTest, TodayIsTheDayOnWhichItIsTappedAlsoAfterMidnight) {
+  InCalendar([this] { m_picker.OpenCalendar(); },
+             [this](CCalendarDlg& calendar) {
+               m_clock.Set(QDateTime({2004, 9, 16}, {0, 0, 1}));
+               qobject_cast<QPushButton*>(calendar.Control(CalendarIds::kToday))->click();
+             });
+  EXPECT_EQ(m_picker.Date(), QDate(2004, 9, 16));
 }
 
 TEST_F(DatePickerTest, ADayChosenFromTheCalendarTurnsTheCheckOn) {

@@ -13,7 +13,7 @@ class CCalendarView;
 class CCalendarDlg : public CDialog {
   Q_OBJECT
  public:
-  CCalendarDlg(CScreen& screen, QDate date, QDate today);
+  CCalendarDlg(CScreen& screen, QDate date);
 
   // After OK: the chosen day, always among the calendar's.
   QDate Date() const { return m_date; }

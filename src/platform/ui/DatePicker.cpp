@@ -10,8 +10,6 @@
 #include <utility>
 
 #include "platform/CalendarLayout.h"
-#include "platform/Clock.h"
-#include "platform/Services.h"
 #include "platform/ui/CalendarDlg.h"
 #include "platform/ui/DateEdit.h"
 #include "platform/ui/InputCommit.h"
@@ -88,7 +86,7 @@ void CDatePicker::OpenCalendar() {
   if (!screen) return;
   setFocus(Qt::MouseFocusReason);
   CommitInput();
-  CCalendarDlg calendar(*screen, ShownDate(), g_services.Clock->Now().date());
+  CCalendarDlg calendar(*screen, ShownDate());
   if (calendar.DoModal() == kResultOK) ChooseDate(calendar.Date());
 }
 
