@@ -158,6 +158,47 @@ TEST_F(DraftBarTest, GivesWayToThePanel) {
   });
 }
 
+TEST_F(DraftBarTest, UnderThePanelAKeyInAFieldShowsItAndTheNextOneRestores) {
+  InSheet(0, [&] {
+    TapRow(2);
+    ASSERT_TRUE(m_panel.IsUp());
+    m_input.Key(Qt::Key_R, Qt::ControlModifier);
+    ASSERT_NE(Button(RecordSheetIds::kRestoreDraft), nullptr);
+    EXPECT_TRUE(Button(RecordSheetIds::kRestoreDraft)->hasFocus());
+    EXPECT_EQ(Value(RowSet::Basic, 1), QString());
+    m_input.Key(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(Value(RowSet::Basic, 1), QStringLiteral("Pilot"));
+  });
+}
+
+TEST_F(DraftBarTest, UnderThePanelAKeyInAPartShowsItAndTheNextOneDiscards) {
+  InSheet(0, [&] {
+    TapRow(8);
+    TapPart({100, 25});
+    m_input.Key(Qt::Key_D, Qt::ControlModifier);
+    ASSERT_NE(Button(RecordSheetIds::kDiscardDraft), nullptr);
+    EXPECT_TRUE(Button(RecordSheetIds::kDiscardDraft)->hasFocus());
+    EXPECT_NE(LoadDraft(), std::nullopt);
+    m_input.Key(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(LoadDraft(), std::nullopt);
+  });
+}
+
+TEST_F(DraftBarTest, UnderThePanelTabLeadsToItToo) {
+  InSheet(0, [&] {
+    m_sheet->ShowPage(1);
+    TapRow(kRecordRowCount - 1);
+    ASSERT_TRUE(m_panel.IsUp());
+    m_input.Key(Qt::Key_Tab);
+    ASSERT_NE(Button(RecordSheetIds::kRestoreDraft), nullptr);
+    EXPECT_TRUE(Button(RecordSheetIds::kRestoreDraft)->hasFocus());
+    m_input.Key(Qt::Key_Tab);
+    m_input.Key(Qt::Key_Tab);
+    EXPECT_EQ(Rows().EditedRow(), 0);
+    EXPECT_EQ(Button(RecordSheetIds::kRestoreDraft), nullptr);
+  });
+}
+
 TEST_F(DraftBarTest, IsReachedByTabFromBothEndsOfTheRows) {
   InSheet(0, [&] {
     m_input.Key(Qt::Key_Backtab, Qt::ShiftModifier);

@@ -142,7 +142,7 @@ void CEditRecordSheet::HideDraftBar() {
     ActivePage()->setFocus(Qt::ActiveWindowFocusReason);
     focusNextPrevChild(true);
   }
-  m_draftBar->hide();
+  m_draftBar->Withdraw();
 }
 
 // What was entered until now becomes a draft of its own.
