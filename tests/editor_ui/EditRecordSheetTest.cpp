@@ -1,5 +1,6 @@
 #include "editor/ui/EditRecordSheet.h"
 
+#include <QLabel>
 #include <QPushButton>
 
 #include "SheetFixture.h"
@@ -56,16 +57,16 @@ TEST_F(EditRecordSheetTest, CancelWritesNothingAndKeepsNoDraft) {
     m_timers.Advance(2000);
   });
   EXPECT_EQ(Stored(kim).Record[JobTitle], QString());
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(kim), std::nullopt);
 }
 
 TEST_F(EditRecordSheetTest, WhatIsTypedIsKeptAgainstACrashTwoSecondsLater) {
   InSheet(0, [&] {
     TypeInRow(1, QStringLiteral("Pilot"));
     m_timers.Advance(1999);
-    EXPECT_EQ(LoadDraft(), std::nullopt);
+    EXPECT_EQ(LoadDraft(0), std::nullopt);
     m_timers.Advance(1);
-    EXPECT_EQ(LoadDraft()->Record[JobTitle], QStringLiteral("Pilot"));
+    EXPECT_EQ(LoadDraft(0)->Record[JobTitle], QStringLiteral("Pilot"));
   });
 }
 
@@ -75,7 +76,7 @@ TEST_F(EditRecordSheetTest, WhatTheProgramsEndClosesIsKept) {
     m_isEnded = true;
     m_sheet->EndDialog(kResultCancel);
   });
-  EXPECT_EQ(LoadDraft()->Record[JobTitle], QStringLiteral("Pilot"));
+  EXPECT_EQ(LoadDraft(0)->Record[JobTitle], QStringLiteral("Pilot"));
 }
 
 TEST_F(EditRecordSheetTest, OKLeavesNoDraftOfWhatWasWritten) {
@@ -84,7 +85,7 @@ TEST_F(EditRecordSheetTest, OKLeavesNoDraftOfWhatWasWritten) {
     m_timers.Advance(2000);
     PressOK();
   });
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
   EXPECT_EQ(Count(AllContacts()), 1);
 }
 
@@ -124,7 +125,7 @@ TEST_F(DraftBarTest, OffersTheDraftToANewContactAndMovesNothing) {
     EXPECT_EQ(Value(RowSet::Basic, 1), QStringLiteral("Pilot"));
     EXPECT_EQ(Button(RecordSheetIds::kRestoreDraft), nullptr);
   });
-  EXPECT_NE(LoadDraft(), std::nullopt) << "until it is saved";
+  EXPECT_NE(LoadDraft(0), std::nullopt) << "until it is saved";
 }
 
 TEST_F(DraftBarTest, ADraftThatWasTakenBackAndCancelledIsOfferedAsItWas) {
@@ -132,13 +133,47 @@ TEST_F(DraftBarTest, ADraftThatWasTakenBackAndCancelledIsOfferedAsItWas) {
     Button(RecordSheetIds::kRestoreDraft)->click();
     TypeInRow(1, QStringLiteral("Painter"));
     m_timers.Advance(2000);
-    EXPECT_EQ(LoadDraft()->Record[JobTitle], QStringLiteral("Painter"));
+    EXPECT_EQ(LoadDraft(0)->Record[JobTitle], QStringLiteral("Painter"));
   });
-  EXPECT_EQ(LoadDraft()->Record[JobTitle], QStringLiteral("Pilot"));
+  EXPECT_EQ(LoadDraft(0)->Record[JobTitle], QStringLiteral("Pilot"));
 }
 
-TEST_F(DraftBarTest, IsNotThereForAnExistingContact) {
+TEST_F(DraftBarTest, IsNotThereForAContactThatTheDraftDoesNotBelongTo) {
   InSheet(AddKim(), [&] { EXPECT_EQ(Button(RecordSheetIds::kRestoreDraft), nullptr); });
+}
+
+TEST_F(DraftBarTest, OffersAContactItsOwnDraftAndANewOneTheOther) {
+  const Oid kim = AddKim();
+  Draft own{.Oid = kim, .FileAs = QStringLiteral("Kim")};
+  own.Record[JobTitle] = QStringLiteral("Painter");
+  ASSERT_NE(SaveDraft(own), 0);
+  InSheet(0, [&] {
+    Button(RecordSheetIds::kRestoreDraft)->click();
+    EXPECT_EQ(Value(RowSet::Basic, 1), QStringLiteral("Pilot"));
+  });
+  InSheet(kim, [&] {
+    ASSERT_NE(Button(RecordSheetIds::kRestoreDraft), nullptr);
+    Button(RecordSheetIds::kRestoreDraft)->click();
+    PressOK();
+  });
+  EXPECT_EQ(Stored(kim).Record[JobTitle], QStringLiteral("Painter"));
+  EXPECT_EQ(Stored(kim).BodyInk, "ink");
+  EXPECT_EQ(LoadDraft(kim), std::nullopt);
+  EXPECT_NE(LoadDraft(0), std::nullopt);
+}
+
+TEST_F(DraftBarTest, OnceItIsAnsweredTheNextDraftIsOfferedAtTheNextOpening) {
+  Draft later;
+  later.Record[JobTitle] = QStringLiteral("Painter");
+  ASSERT_NE(SaveDraft(later), 0);
+  for (const QString& title : {QStringLiteral("Painter"), QStringLiteral("Pilot")})
+    InSheet(0, [&] {
+      const QLabel& text = *m_sheet->findChild<COfferBar*>()->findChild<QLabel*>();
+      EXPECT_EQ(text.accessibleName(), QStringLiteral("Not saved: ") + title);
+      Button(RecordSheetIds::kDiscardDraft)->click();
+      EXPECT_EQ(Button(RecordSheetIds::kDiscardDraft), nullptr);
+    });
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
 }
 
 TEST_F(DraftBarTest, DiscardThrowsTheDraftAway) {
@@ -146,7 +181,7 @@ TEST_F(DraftBarTest, DiscardThrowsTheDraftAway) {
     Button(RecordSheetIds::kDiscardDraft)->click();
     EXPECT_EQ(Button(RecordSheetIds::kDiscardDraft), nullptr);
   });
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
 }
 
 TEST_F(DraftBarTest, GivesWayToThePanel) {
@@ -178,9 +213,9 @@ TEST_F(DraftBarTest, UnderThePanelAKeyInAPartShowsItAndTheNextOneDiscards) {
     m_input.Key(Qt::Key_D, Qt::ControlModifier);
     ASSERT_NE(Button(RecordSheetIds::kDiscardDraft), nullptr);
     EXPECT_TRUE(Button(RecordSheetIds::kDiscardDraft)->hasFocus());
-    EXPECT_NE(LoadDraft(), std::nullopt);
+    EXPECT_NE(LoadDraft(0), std::nullopt);
     m_input.Key(Qt::Key_D, Qt::ControlModifier);
-    EXPECT_EQ(LoadDraft(), std::nullopt);
+    EXPECT_EQ(LoadDraft(0), std::nullopt);
   });
 }
 
@@ -270,7 +305,7 @@ TEST_F(DraftBarTest, RestoringKeepsWhatWasBeingTypedAsADraftOfItsOwn) {
     Button(RecordSheetIds::kRestoreDraft)->click();
     EXPECT_FALSE(RowEdit().isVisible());
     EXPECT_EQ(Value(RowSet::Basic, 2), QString());
-    EXPECT_EQ(LoadDraft()->Record[Department], QStringLiteral("typed"));
+    EXPECT_EQ(LoadDraft(0)->Record[Department], QStringLiteral("typed"));
   });
 }
 

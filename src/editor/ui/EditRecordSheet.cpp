@@ -63,10 +63,10 @@ CEditRecordSheet::~CEditRecordSheet() {
 }
 
 void CEditRecordSheet::OnInitDialog() {
-  const bool isNew = m_record.Oid == 0;
-  m_record = LoadSheet(m_record.Oid, g_sheet);
+  const Oid opened = m_record.Oid;
+  m_record = LoadSheet(opened, g_sheet);
   CSheet::OnInitDialog();
-  if (isNew) m_offered = LoadDraft();
+  m_offered = LoadDraft(opened);
   OfferDraft();
   g_services.Timers->Set(*this, kKeepTimer, kKeepMilliseconds);
 }
