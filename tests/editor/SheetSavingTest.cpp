@@ -211,7 +211,8 @@ TEST_F(SheetSavingTest, WhatOneContactDeletedMeanwhileWasToHoldBecomesADraft) {
   SheetRecord sheet = LoadSheet(kim, m_state);
   Type(sheet, RowSet::Basic, 1, QStringLiteral("Painter"));
   m_store.Contacts()->Remove(kim);
-  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::KeptAsDraft);
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::KeptOfDeleted);
+  EXPECT_EQ(LoadDraft(0)->Record[JobTitle], QStringLiteral("Painter"));
 }
 
 TEST_F(SheetSavingTest, OfAContactDeletedMeanwhileInWhichNothingWasEnteredNothingIsKept) {

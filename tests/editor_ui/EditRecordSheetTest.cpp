@@ -108,6 +108,39 @@ TEST_F(EditRecordSheetTest, WhatCanNeitherBeStoredNorBecomeADraftStaysInTheSheet
   EXPECT_EQ(Stored(kim).BodyInk, "ink");
 }
 
+TEST_F(EditRecordSheetTest, OfAContactDeletedMeanwhileTheUserIsToldWhereWhatWasEnteredIs) {
+  test::ScriptedPrompt prompt({PromptAnswer::OK});
+  g_services.Prompt = &prompt;
+  const Oid kim = AddKim();
+  InSheet(kim, [&] {
+    TypeInRow(1, QStringLiteral("Pilot"));
+    m_store.Contacts()->Remove(kim);
+    PressOK();
+  });
+  ASSERT_EQ(prompt.Shown().size(), 1U);
+  EXPECT_EQ(prompt.Shown()[0].Text,
+            QStringLiteral("The contact was deleted meanwhile. "
+                           "What was entered is offered to the next new contact."));
+  InSheet(0, [&] {
+    Button(RecordSheetIds::kRestoreDraft)->click();
+    EXPECT_EQ(Value(RowSet::Basic, 1), QStringLiteral("Pilot"));
+    EXPECT_EQ(Value(RowSet::Basic, 0), QStringLiteral("Kim"));
+  });
+  g_services.Prompt = nullptr;
+}
+
+TEST_F(EditRecordSheetTest, OfAContactDeletedMeanwhileThatIsGivenUpNothingIsSaid) {
+  test::ScriptedPrompt prompt;
+  g_services.Prompt = &prompt;
+  const Oid kim = AddKim();
+  InSheet(kim, [&] {
+    TypeInRow(1, QStringLiteral("Pilot"));
+    m_store.Contacts()->Remove(kim);
+  });
+  g_services.Prompt = nullptr;
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
+}
+
 class DraftBarTest : public EditRecordSheetTest {
  protected:
   void SetUp() override {

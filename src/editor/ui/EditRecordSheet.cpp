@@ -21,6 +21,8 @@ namespace {
 constexpr int kKeepTimer = 2;
 constexpr int kKeepMilliseconds = 2000;
 
+void Tell(const QString& text) { g_services.Prompt->Show({.Text = text}); }
+
 }  // namespace
 
 CEditRecordSheet::CEditRecordSheet(CScreen& screen, const QString& caption)
@@ -72,15 +74,19 @@ void CEditRecordSheet::OnInitDialog() {
 }
 
 bool CEditRecordSheet::TakeRows() {
-  if (SaveSheet(m_record, g_settings) == SheetOutcome::NotKept) {
-    g_services.Prompt->Show(
-        {.Text = QStringLiteral("Cannot save. The storage is full or cannot be written.")});
+  const SheetOutcome outcome = SaveSheet(m_record, g_settings);
+  if (outcome == SheetOutcome::NotKept) {
+    Tell(QStringLiteral("Cannot save. The storage is full or cannot be written."));
     return false;
   }
   m_isDecided = true;
   g_services.Timers->Kill(*this, kKeepTimer);
   m_memoPage->ForgetUnsaved();
   m_memoPage->Discard();
+  if (outcome == SheetOutcome::KeptOfDeleted)
+    Tell(
+        QStringLiteral("The contact was deleted meanwhile. "
+                       "What was entered is offered to the next new contact."));
   return true;
 }
 
