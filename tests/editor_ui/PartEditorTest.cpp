@@ -118,6 +118,18 @@ TEST_F(PartEditorTest, ArrowKeysLeadThroughTheLinesOfAStreetAndOutOfThem) {
   });
 }
 
+TEST_F(PartEditorTest, WhatIsTypedBeforeAPartIsChosenIsInTheFirstNameOrTheStreet) {
+  InSheet(AddKim(), [&] {
+    TapRow(0);
+    m_input.Type(QStringLiteral("Jae"));
+    EXPECT_EQ(Value(RowSet::NameParts, 1), QStringLiteral("Jae"));
+    m_panel.Lower();
+    TapRow(8);
+    m_input.Type(QStringLiteral("Hill 2"));
+    EXPECT_EQ(Value(RowSet::WorkAddress, 0), QStringLiteral("Hill 2"));
+  });
+}
+
 TEST_F(PartEditorTest, TheDetailPageHasTheHomeAddress) {
   const Oid kim = AddKim();
   InSheet(kim, [&] {
