@@ -37,6 +37,15 @@ auto FindDraft(std::vector<Draft>& drafts, int number) {
   return std::ranges::find(drafts, number, &Draft::Number);
 }
 
+bool IsThere(Oid oid) {
+  ContactRecord row;
+  return ReadListRow(ContactSelector(oid), row) != 0;
+}
+
+bool BelongsTo(Oid oid, const Draft& draft) {
+  return draft.Oid == oid || (oid == 0 && !IsThere(draft.Oid));
+}
+
 bool HasEnteredName(const Draft& draft) {
   return std::ranges::any_of(RulesOf(RowSet::NameParts), [&](const RowRule& rule) {
     return draft.Record[*rule.Field] != draft.Opened[*rule.Field];
@@ -75,11 +84,14 @@ int SaveDraft(const Draft& draft) {
   return WriteDrafts(*files, drafts) ? number : 0;
 }
 
-std::optional<Draft> LoadDraft() {
+std::optional<Draft> LoadDraft(Oid oid) {
   RecoveryFiles* const files = g_services.Recovery;
   if (!files) return std::nullopt;
-  const std::vector<Draft> drafts = ReadDrafts(*files);
-  return drafts.empty() ? std::nullopt : std::optional(drafts.back());
+  std::vector<Draft> drafts = ReadDrafts(*files);
+  std::ranges::reverse(drafts);
+  const auto found =
+      std::ranges::find_if(drafts, [oid](const Draft& draft) { return BelongsTo(oid, draft); });
+  return found == drafts.end() ? std::nullopt : std::optional(*found);
 }
 
 QString TitleOf(const Draft& draft) {

@@ -31,8 +31,9 @@ struct Draft {
 // Returns its number, 0 when it could not be kept.
 int SaveDraft(const Draft& draft);
 
-// The one of the greatest number, which is the latest.
-std::optional<Draft> LoadDraft();
+// The latest one that belongs to the contact. To 0, a new contact, those belong that were entered
+// for a new one and those whose contact is no longer there: so every draft is offered somewhere.
+std::optional<Draft> LoadDraft(Oid oid);
 
 // The name that it is filed under or would be, else the first thing that was entered.
 QString TitleOf(const Draft& draft);

@@ -73,6 +73,8 @@ bool IsStreet(RowSet parts, int row) {
   return row == 0 && (parts == RowSet::WorkAddress || parts == RowSet::HomeAddress);
 }
 
+int PartTypedFirst(RowSet parts) { return parts == RowSet::NameParts ? 1 : 0; }
+
 std::vector<PaintedRow> LayOutParts(std::span<const RecordRow> rows, RowSet parts, int current,
                                     const TextWidth& width) {
   std::vector<PaintedRow> painted;

@@ -29,6 +29,9 @@ QRect PartEditorArea(RowSet parts);
 // Whether the row is edited in several lines.
 bool IsStreet(RowSet parts, int row);
 
+// The row that typing begins with: of a name the first name, since few have a title.
+int PartTypedFirst(RowSet parts);
+
 // One painted row for each part, with its index as key. Current is the row that is edited, -1 none:
 // its value is not painted, since the field over it covers less than the row.
 std::vector<PaintedRow> LayOutParts(std::span<const RecordRow> rows, RowSet parts, int current,

@@ -40,6 +40,18 @@ bool Write(const Draft& draft, const Settings& settings) {
   return draft.Oid == 0 ? WriteNew(draft) : WriteOver(draft, settings);
 }
 
+// What a store in trouble does not find may be there.
+bool IsDeleted(Oid oid) {
+  if (oid == 0 || !g_store.Provider) return false;
+  ContactRecord row;
+  return ReadListRow(ContactSelector(oid), row) == 0 && g_store.Provider->LastError().isEmpty();
+}
+
+SheetOutcome Keep(const Draft& draft) {
+  if (SaveDraft(draft) == 0) return SheetOutcome::NotKept;
+  return IsDeleted(draft.Oid) ? SheetOutcome::KeptOfDeleted : SheetOutcome::KeptAsDraft;
+}
+
 SheetOutcome Forget(const Draft& draft, SheetOutcome outcome) {
   // One that stays is offered again, which does no harm.
   if (draft.Number != 0) DiscardDraft(draft.Number);
@@ -54,9 +66,9 @@ SheetOutcome SaveSheet(const SheetRecord& sheet, const Settings& settings) {
   if (HasAnythingToSave(sheet) && Write(draft, settings))
     return Forget(draft, SheetOutcome::Written);
   if (!IsChanged(sheet, draft)) return Forget(draft, SheetOutcome::NothingToSave);
-  if (SaveDraft(draft) != 0) return SheetOutcome::KeptAsDraft;
-  g_contactInk.Bytes = draft.Ink;
-  return SheetOutcome::NotKept;
+  const SheetOutcome outcome = Keep(draft);
+  if (outcome == SheetOutcome::NotKept) g_contactInk.Bytes = draft.Ink;
+  return outcome;
 }
 
 std::optional<Draft> EnteredSoFar(const SheetRecord& sheet, const Settings& settings) {

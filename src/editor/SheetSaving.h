@@ -11,6 +11,7 @@ enum class SheetOutcome {
   Written,
   NothingToSave,  // nor anything to keep, also where the store could not write
   KeptAsDraft,    // entered, but not worth writing, or the store could not write it
+  KeptOfDeleted,  // as a draft: meanwhile the contact was deleted
   NotKept,        // nor could a draft be kept
 };
 

@@ -120,6 +120,24 @@ TEST_F(KeyboardScript, ThePanelComesAndGoes) {
   EXPECT_EQ(m_driver.Result(R"({"op":"panel"})", u"panel"), false);
 }
 
+TEST_F(KeyboardScript, WhatIsTypedIntoANewContactAtOnceIsItsName) {
+  Press("Ctrl+N");
+  Type("Minsu");
+  Press("Ctrl+Return");
+  const QJsonObject fields = m_driver.Result(R"({"op":"contact","oid":5})", u"fields").toObject();
+  EXPECT_EQ(fields.value(u"FirstName"), QStringLiteral("Minsu"));
+}
+
+TEST_F(KeyboardScript, ADraftThatThePanelHidesIsShownThenRestored) {
+  Press("Ctrl+N Down Down Down Down Down Down Down");
+  Type("직함");
+  Press("Ctrl+Return Ctrl+N Tab Tab Tab Tab Tab Tab Tab");
+  EXPECT_EQ(m_driver.Result(R"({"op":"panel"})", u"panel"), true);
+  Press("Ctrl+R Ctrl+R");
+  EXPECT_EQ(m_driver.Result(R"({"op":"rows"})", u"rows").toArray()[1].toObject().value(u"value"),
+            QStringLiteral("직함"));
+}
+
 TEST_F(KeyboardScript, ADraftThatIsOfferedIsRestored) {
   Press("Ctrl+N Down Down Down Down Down Down Down");
   Type("직함");

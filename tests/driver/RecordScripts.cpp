@@ -286,6 +286,9 @@ TEST_F(RecordScript, WhatTheStoreCouldNotWriteIsOfferedAfterARestart) {
   }
   ReadyDriver driver(Arguments());
   driver.Do(kNew);
+  EXPECT_FALSE(driver.Ask(R"({"op":"get","id":1101})")[u"ok"].toBool());
+  driver.Do(R"({"op":"cancel"})");
+  OpenFirst(driver);
   ClickControl(driver, 1101);
   EXPECT_EQ(RowValue(driver, 0), QStringLiteral("Kim")) << "as when it is opened";
   EXPECT_EQ(RowValue(driver, 3), QStringLiteral("Newer"));

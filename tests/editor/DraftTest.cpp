@@ -38,23 +38,45 @@ class DraftTest : public test::FreshState {
 
 TEST_F(DraftTest, ADraftComesBackWhole) {
   EXPECT_EQ(SaveDraft(test::FullDraft(0)), 1);
-  EXPECT_EQ(LoadDraft(), test::FullDraft(1));
+  EXPECT_EQ(LoadDraft(test::FullDraft(0).Oid), test::FullDraft(1));
 }
 
 TEST_F(DraftTest, WithoutAnyThereIsNone) {
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
   EXPECT_TRUE(FilesAtHome().isEmpty());
 }
 
 TEST_F(DraftTest, ASecondDraftStandsBesideTheFirstAndIsOfferedBeforeIt) {
   EXPECT_EQ(SaveDraft(Named(QStringLiteral("first"))), 1);
   EXPECT_EQ(SaveDraft(Named(QStringLiteral("second"))), 2);
-  EXPECT_EQ(LoadDraft()->FileAs, QStringLiteral("second"));
+  EXPECT_EQ(LoadDraft(0)->FileAs, QStringLiteral("second"));
   EXPECT_TRUE(DiscardDraft(2));
-  EXPECT_EQ(LoadDraft()->FileAs, QStringLiteral("first"));
+  EXPECT_EQ(LoadDraft(0)->FileAs, QStringLiteral("first"));
   EXPECT_TRUE(DiscardDraft(1));
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
   EXPECT_TRUE(FilesAtHome().isEmpty());
+}
+
+TEST_F(DraftTest, EachIsOfferedToTheContactThatItBelongsTo) {
+  const Oid kim = m_store.Contacts()->Save(0, {}, {});
+  const Oid lee = m_store.Contacts()->Save(0, {}, {});
+  SaveDraft({.Oid = kim, .FileAs = QStringLiteral("Kim, first")});
+  SaveDraft(Named(QStringLiteral("new")));
+  SaveDraft({.Oid = kim, .FileAs = QStringLiteral("Kim, again")});
+  EXPECT_EQ(LoadDraft(kim)->FileAs, QStringLiteral("Kim, again"));
+  EXPECT_EQ(LoadDraft(0)->FileAs, QStringLiteral("new"));
+  EXPECT_EQ(LoadDraft(lee), std::nullopt);
+  DiscardDraft(3);
+  EXPECT_EQ(LoadDraft(kim)->FileAs, QStringLiteral("Kim, first"));
+}
+
+TEST_F(DraftTest, ThatOfAContactThatIsGoneIsOfferedToANewOne) {
+  const Oid kim = m_store.Contacts()->Save(0, {}, {});
+  SaveDraft(Named(QStringLiteral("new")));
+  SaveDraft({.Oid = kim, .FileAs = QStringLiteral("Kim")});
+  EXPECT_EQ(LoadDraft(0)->FileAs, QStringLiteral("new"));
+  m_store.Contacts()->Remove(kim);
+  EXPECT_EQ(LoadDraft(0)->FileAs, QStringLiteral("Kim"));
 }
 
 TEST_F(DraftTest, ADraftThatIsSavedAgainTakesItsOwnPlace) {
@@ -63,32 +85,32 @@ TEST_F(DraftTest, ADraftThatIsSavedAgainTakesItsOwnPlace) {
   Draft first = Named(QStringLiteral("first again"));
   first.Number = 1;
   EXPECT_EQ(SaveDraft(first), 1);
-  EXPECT_EQ(LoadDraft()->FileAs, QStringLiteral("second"));
+  EXPECT_EQ(LoadDraft(0)->FileAs, QStringLiteral("second"));
   DiscardDraft(2);
-  EXPECT_EQ(LoadDraft(), first);
+  EXPECT_EQ(LoadDraft(0), first);
 }
 
 TEST_F(DraftTest, ADraftWhoseNumberIsGoneIsKeptUnderANewOne) {
   Draft draft = Named(QStringLiteral("Kim"));
   draft.Number = 9;
   EXPECT_EQ(SaveDraft(draft), 1);
-  EXPECT_EQ(LoadDraft()->Number, 1);
+  EXPECT_EQ(LoadDraft(0)->Number, 1);
 }
 
 TEST_F(DraftTest, DiscardingWhatIsNotThereIsDone) {
   EXPECT_TRUE(DiscardDraft(1));
   SaveDraft(Named(QStringLiteral("Kim")));
   EXPECT_TRUE(DiscardDraft(2));
-  EXPECT_TRUE(LoadDraft());
+  EXPECT_TRUE(LoadDraft(0));
 }
 
 TEST_F(DraftTest, ADamagedFileIsPutAsideAndDraftsGoOn) {
   PutFile("{ damaged");
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
   EXPECT_EQ(FilesAtHome(), QStringList(QStringLiteral("recovery-drafts.json.bad")));
   PutFile("damaged again");
   EXPECT_EQ(SaveDraft(Named(QStringLiteral("Kim"))), 1);
-  EXPECT_EQ(LoadDraft()->FileAs, QStringLiteral("Kim"));
+  EXPECT_EQ(LoadDraft(0)->FileAs, QStringLiteral("Kim"));
   EXPECT_EQ(FilesAtHome().size(), 3);
 }
 
@@ -98,13 +120,13 @@ TEST_F(DraftTest, WhatCannotBeWrittenIsNotKeptAndTheOldOnesStay) {
   g_services.Recovery = &nowhere;
   EXPECT_EQ(SaveDraft(Named(QStringLiteral("second"))), 0);
   g_services.Recovery = &m_home.Recovery;
-  EXPECT_EQ(LoadDraft()->FileAs, QStringLiteral("first"));
+  EXPECT_EQ(LoadDraft(0)->FileAs, QStringLiteral("first"));
 }
 
 TEST_F(DraftTest, WithoutRecoveryFilesThereAreNoDrafts) {
   g_services.Recovery = nullptr;
   EXPECT_EQ(SaveDraft(Named(QStringLiteral("Kim"))), 0);
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
   EXPECT_TRUE(DiscardDraft(1));
 }
 

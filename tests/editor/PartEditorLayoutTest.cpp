@@ -46,6 +46,14 @@ TEST(PartEditorLayout, AnAddressBeginsWithAHigherRow) {
   }
 }
 
+TEST(PartEditorLayout, TypingBeginsWithTheFirstNameAndTheStreet) {
+  for (const auto& [parts, field] :
+       {std::pair(RowSet::NameParts, ContactField::FirstName),
+        std::pair(RowSet::WorkAddress, ContactField::BusinessAddressStreet),
+        std::pair(RowSet::HomeAddress, ContactField::HomeAddressStreet)})
+    EXPECT_EQ(FindRule(parts, PartTypedFirst(parts))->Field, field);
+}
+
 TEST(PartEditorLayout, OnlyTheFirstPartOfAnAddressIsAStreet) {
   EXPECT_TRUE(IsStreet(RowSet::WorkAddress, 0));
   EXPECT_TRUE(IsStreet(RowSet::HomeAddress, 0));

@@ -51,7 +51,7 @@ TEST_F(SheetSavingTest, ANewContactIsWrittenAndTheStoreFilesIt) {
   EXPECT_EQ(StoredFirst().Record[FileAs], QStringLiteral("Kim, Minsu"));
   EXPECT_EQ(StoredFirst().BodyInk, "ink");
   EXPECT_EQ(g_contactInk.Count(), 0);
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
 }
 
 TEST_F(SheetSavingTest, AnExistingContactIsWrittenUnderItsOldName) {
@@ -117,7 +117,7 @@ TEST_F(ChangedElsewhereTest, WhatCannotBeReadIsNotWrittenOver) {
   EXPECT_EQ(SaveSheet(m_sheet, m_settings), SheetOutcome::KeptAsDraft);
   m_store.Faults().Read = 0;
   EXPECT_EQ(Stored(m_kim).Record, m_elsewhere);
-  EXPECT_EQ(LoadDraft()->Record[JobTitle], QStringLiteral("Painter"));
+  EXPECT_EQ(LoadDraft(m_kim)->Record[JobTitle], QStringLiteral("Painter"));
 }
 
 TEST_F(ChangedElsewhereTest, WithoutASessionWhatWasEnteredBecomesADraft) {
@@ -149,7 +149,7 @@ TEST_F(SheetSavingTest, AnAreaCodeAloneIsNoNumber) {
 TEST_F(SheetSavingTest, AnEmptySheetWritesNothingAndLeavesNoDraft) {
   EXPECT_EQ(SaveSheet(LoadSheet(0, m_state), m_settings), SheetOutcome::NothingToSave);
   EXPECT_EQ(Count(AllContacts()), 0);
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
 }
 
 TEST_F(SheetSavingTest, ASheetWithOnlyTheAreaCodeLeavesNoDraft) {
@@ -168,14 +168,14 @@ TEST_F(SheetSavingTest, WhatIsNotWorthWritingBecomesADraft) {
   EXPECT_EQ(g_contactInk.Count(), 0);
   Draft expected{.Number = 1, .Ink = "ink"};
   expected.Record[Email1Address] = QStringLiteral("kim@example.com");
-  EXPECT_EQ(LoadDraft(), expected);
+  EXPECT_EQ(LoadDraft(0), expected);
 }
 
 TEST_F(SheetSavingTest, InkAloneBecomesADraft) {
   const SheetRecord sheet = LoadSheet(0, m_state);
   g_contactInk.Bytes = "ink";
   EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::KeptAsDraft);
-  EXPECT_EQ(LoadDraft()->Ink, "ink");
+  EXPECT_EQ(LoadDraft(0)->Ink, "ink");
 }
 
 TEST_F(SheetSavingTest, AContactWithoutAnyNameThatWasNotChangedLeavesNoDraft) {
@@ -188,8 +188,8 @@ TEST_F(SheetSavingTest, AContactWithoutAnyNameThatWasNotChangedLeavesNoDraft) {
   sheet = LoadSheet(oid, m_state);
   Type(sheet, RowSet::Basic, 1, QStringLiteral("Painter"));
   EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::KeptAsDraft);
-  EXPECT_EQ(LoadDraft()->Oid, oid);
-  EXPECT_EQ(LoadDraft()->Ink, "ink");
+  EXPECT_EQ(LoadDraft(oid)->Oid, oid);
+  EXPECT_EQ(LoadDraft(oid)->Ink, "ink");
 }
 
 TEST_F(SheetSavingTest, WhatTheStoreCannotWriteBecomesADraftWithItsInk) {
@@ -203,7 +203,7 @@ TEST_F(SheetSavingTest, WhatTheStoreCannotWriteBecomesADraftWithItsInk) {
   expected.Ink = expected.OpenedInk = "ink";
   expected.Record[FileAs] = expected.Opened[FileAs] = QStringLiteral("Kim");
   expected.Record[JobTitle] = QStringLiteral("Painter");
-  EXPECT_EQ(LoadDraft(), expected);
+  EXPECT_EQ(LoadDraft(kim), expected);
 }
 
 TEST_F(SheetSavingTest, WhatOneContactDeletedMeanwhileWasToHoldBecomesADraft) {
@@ -211,7 +211,8 @@ TEST_F(SheetSavingTest, WhatOneContactDeletedMeanwhileWasToHoldBecomesADraft) {
   SheetRecord sheet = LoadSheet(kim, m_state);
   Type(sheet, RowSet::Basic, 1, QStringLiteral("Painter"));
   m_store.Contacts()->Remove(kim);
-  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::KeptAsDraft);
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::KeptOfDeleted);
+  EXPECT_EQ(LoadDraft(0)->Record[JobTitle], QStringLiteral("Painter"));
 }
 
 TEST_F(SheetSavingTest, OfAContactDeletedMeanwhileInWhichNothingWasEnteredNothingIsKept) {
@@ -219,14 +220,15 @@ TEST_F(SheetSavingTest, OfAContactDeletedMeanwhileInWhichNothingWasEnteredNothin
   const SheetRecord sheet = LoadSheet(kim, m_state);
   m_store.Contacts()->Remove(kim);
   EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::NothingToSave);
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
 }
 
 TEST_F(SheetSavingTest, WhatTheStoreCannotWriteAndNobodyEnteredIsNotKept) {
-  const SheetRecord sheet = LoadSheet(Add(QStringLiteral("Kim")), m_state);
+  const Oid kim = Add(QStringLiteral("Kim"));
+  const SheetRecord sheet = LoadSheet(kim, m_state);
   m_store.Faults().Save = true;
   EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::NothingToSave);
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(kim), std::nullopt);
 }
 
 TEST_F(SheetSavingTest, ARestoredDraftThatIsWrittenIsADraftNoLonger) {
@@ -234,33 +236,33 @@ TEST_F(SheetSavingTest, ARestoredDraftThatIsWrittenIsADraftNoLonger) {
   Type(sheet, RowSet::Basic, 9, QStringLiteral("kim@example.com"));
   g_contactInk.Bytes = "ink";
   SaveSheet(sheet, m_settings);
-  SheetRecord restored = SheetOfDraft(*LoadDraft(), m_state);
+  SheetRecord restored = SheetOfDraft(*LoadDraft(0), m_state);
   Type(restored, RowSet::NameParts, 3, QStringLiteral("Kim"));
   EXPECT_EQ(SaveSheet(restored, m_settings), SheetOutcome::Written);
   EXPECT_EQ(StoredFirst().Record[Email1Address], QStringLiteral("kim@example.com"));
   EXPECT_EQ(StoredFirst().BodyInk, "ink");
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
 }
 
 TEST_F(SheetSavingTest, ARestoredDraftThatIsStillNotWorthWritingTakesItsOwnPlace) {
   SheetRecord sheet = LoadSheet(0, m_state);
   Type(sheet, RowSet::Basic, 9, QStringLiteral("kim@example.com"));
   SaveSheet(sheet, m_settings);
-  SheetRecord restored = SheetOfDraft(*LoadDraft(), m_state);
+  SheetRecord restored = SheetOfDraft(*LoadDraft(0), m_state);
   EXPECT_EQ(SaveSheet(restored, m_settings), SheetOutcome::KeptAsDraft);
-  EXPECT_EQ(LoadDraft()->Number, 1);
+  EXPECT_EQ(LoadDraft(0)->Number, 1);
   DiscardDraft(1);
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
 }
 
 TEST_F(SheetSavingTest, ARestoredDraftThatIsEmptiedIsGone) {
   SheetRecord sheet = LoadSheet(0, m_state);
   Type(sheet, RowSet::Basic, 9, QStringLiteral("kim@example.com"));
   SaveSheet(sheet, m_settings);
-  SheetRecord restored = SheetOfDraft(*LoadDraft(), m_state);
+  SheetRecord restored = SheetOfDraft(*LoadDraft(0), m_state);
   Type(restored, RowSet::Basic, 9, {});
   EXPECT_EQ(SaveSheet(restored, m_settings), SheetOutcome::NothingToSave);
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
 }
 
 TEST_F(SheetSavingTest, OtherDraftsStayWhenASheetIsWritten) {
@@ -268,7 +270,7 @@ TEST_F(SheetSavingTest, OtherDraftsStayWhenASheetIsWritten) {
   SheetRecord sheet = LoadSheet(0, m_state);
   Type(sheet, RowSet::Basic, 3, QStringLiteral("Rosewood"));
   EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::Written);
-  EXPECT_EQ(LoadDraft()->FileAs, QStringLiteral("other"));
+  EXPECT_EQ(LoadDraft(0)->FileAs, QStringLiteral("other"));
 }
 
 TEST_F(SheetSavingTest, WhereNoDraftCanBeKeptTheInkStays) {

@@ -1,5 +1,6 @@
 #include "editor/ui/EditRecordSheet.h"
 
+#include <QLabel>
 #include <QPushButton>
 
 #include "SheetFixture.h"
@@ -56,16 +57,16 @@ TEST_F(EditRecordSheetTest, CancelWritesNothingAndKeepsNoDraft) {
     m_timers.Advance(2000);
   });
   EXPECT_EQ(Stored(kim).Record[JobTitle], QString());
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(kim), std::nullopt);
 }
 
 TEST_F(EditRecordSheetTest, WhatIsTypedIsKeptAgainstACrashTwoSecondsLater) {
   InSheet(0, [&] {
     TypeInRow(1, QStringLiteral("Pilot"));
     m_timers.Advance(1999);
-    EXPECT_EQ(LoadDraft(), std::nullopt);
+    EXPECT_EQ(LoadDraft(0), std::nullopt);
     m_timers.Advance(1);
-    EXPECT_EQ(LoadDraft()->Record[JobTitle], QStringLiteral("Pilot"));
+    EXPECT_EQ(LoadDraft(0)->Record[JobTitle], QStringLiteral("Pilot"));
   });
 }
 
@@ -75,7 +76,7 @@ TEST_F(EditRecordSheetTest, WhatTheProgramsEndClosesIsKept) {
     m_isEnded = true;
     m_sheet->EndDialog(kResultCancel);
   });
-  EXPECT_EQ(LoadDraft()->Record[JobTitle], QStringLiteral("Pilot"));
+  EXPECT_EQ(LoadDraft(0)->Record[JobTitle], QStringLiteral("Pilot"));
 }
 
 TEST_F(EditRecordSheetTest, OKLeavesNoDraftOfWhatWasWritten) {
@@ -84,7 +85,7 @@ TEST_F(EditRecordSheetTest, OKLeavesNoDraftOfWhatWasWritten) {
     m_timers.Advance(2000);
     PressOK();
   });
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
   EXPECT_EQ(Count(AllContacts()), 1);
 }
 
@@ -107,6 +108,39 @@ TEST_F(EditRecordSheetTest, WhatCanNeitherBeStoredNorBecomeADraftStaysInTheSheet
   EXPECT_EQ(Stored(kim).BodyInk, "ink");
 }
 
+TEST_F(EditRecordSheetTest, OfAContactDeletedMeanwhileTheUserIsToldWhereWhatWasEnteredIs) {
+  test::ScriptedPrompt prompt({PromptAnswer::OK});
+  g_services.Prompt = &prompt;
+  const Oid kim = AddKim();
+  InSheet(kim, [&] {
+    TypeInRow(1, QStringLiteral("Pilot"));
+    m_store.Contacts()->Remove(kim);
+    PressOK();
+  });
+  ASSERT_EQ(prompt.Shown().size(), 1U);
+  EXPECT_EQ(prompt.Shown()[0].Text,
+            QStringLiteral("The contact was deleted meanwhile. "
+                           "What was entered is offered to the next new contact."));
+  InSheet(0, [&] {
+    Button(RecordSheetIds::kRestoreDraft)->click();
+    EXPECT_EQ(Value(RowSet::Basic, 1), QStringLiteral("Pilot"));
+    EXPECT_EQ(Value(RowSet::Basic, 0), QStringLiteral("Kim"));
+  });
+  g_services.Prompt = nullptr;
+}
+
+TEST_F(EditRecordSheetTest, OfAContactDeletedMeanwhileThatIsGivenUpNothingIsSaid) {
+  test::ScriptedPrompt prompt;
+  g_services.Prompt = &prompt;
+  const Oid kim = AddKim();
+  InSheet(kim, [&] {
+    TypeInRow(1, QStringLiteral("Pilot"));
+    m_store.Contacts()->Remove(kim);
+  });
+  g_services.Prompt = nullptr;
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
+}
+
 class DraftBarTest : public EditRecordSheetTest {
  protected:
   void SetUp() override {
@@ -124,7 +158,7 @@ TEST_F(DraftBarTest, OffersTheDraftToANewContactAndMovesNothing) {
     EXPECT_EQ(Value(RowSet::Basic, 1), QStringLiteral("Pilot"));
     EXPECT_EQ(Button(RecordSheetIds::kRestoreDraft), nullptr);
   });
-  EXPECT_NE(LoadDraft(), std::nullopt) << "until it is saved";
+  EXPECT_NE(LoadDraft(0), std::nullopt) << "until it is saved";
 }
 
 TEST_F(DraftBarTest, ADraftThatWasTakenBackAndCancelledIsOfferedAsItWas) {
@@ -132,13 +166,47 @@ TEST_F(DraftBarTest, ADraftThatWasTakenBackAndCancelledIsOfferedAsItWas) {
     Button(RecordSheetIds::kRestoreDraft)->click();
     TypeInRow(1, QStringLiteral("Painter"));
     m_timers.Advance(2000);
-    EXPECT_EQ(LoadDraft()->Record[JobTitle], QStringLiteral("Painter"));
+    EXPECT_EQ(LoadDraft(0)->Record[JobTitle], QStringLiteral("Painter"));
   });
-  EXPECT_EQ(LoadDraft()->Record[JobTitle], QStringLiteral("Pilot"));
+  EXPECT_EQ(LoadDraft(0)->Record[JobTitle], QStringLiteral("Pilot"));
 }
 
-TEST_F(DraftBarTest, IsNotThereForAnExistingContact) {
+TEST_F(DraftBarTest, IsNotThereForAContactThatTheDraftDoesNotBelongTo) {
   InSheet(AddKim(), [&] { EXPECT_EQ(Button(RecordSheetIds::kRestoreDraft), nullptr); });
+}
+
+TEST_F(DraftBarTest, OffersAContactItsOwnDraftAndANewOneTheOther) {
+  const Oid kim = AddKim();
+  Draft own{.Oid = kim, .FileAs = QStringLiteral("Kim")};
+  own.Record[JobTitle] = QStringLiteral("Painter");
+  ASSERT_NE(SaveDraft(own), 0);
+  InSheet(0, [&] {
+    Button(RecordSheetIds::kRestoreDraft)->click();
+    EXPECT_EQ(Value(RowSet::Basic, 1), QStringLiteral("Pilot"));
+  });
+  InSheet(kim, [&] {
+    ASSERT_NE(Button(RecordSheetIds::kRestoreDraft), nullptr);
+    Button(RecordSheetIds::kRestoreDraft)->click();
+    PressOK();
+  });
+  EXPECT_EQ(Stored(kim).Record[JobTitle], QStringLiteral("Painter"));
+  EXPECT_EQ(Stored(kim).BodyInk, "ink");
+  EXPECT_EQ(LoadDraft(kim), std::nullopt);
+  EXPECT_NE(LoadDraft(0), std::nullopt);
+}
+
+TEST_F(DraftBarTest, OnceItIsAnsweredTheNextDraftIsOfferedAtTheNextOpening) {
+  Draft later;
+  later.Record[JobTitle] = QStringLiteral("Painter");
+  ASSERT_NE(SaveDraft(later), 0);
+  for (const QString& title : {QStringLiteral("Painter"), QStringLiteral("Pilot")})
+    InSheet(0, [&] {
+      const QLabel& text = *m_sheet->findChild<COfferBar*>()->findChild<QLabel*>();
+      EXPECT_EQ(text.accessibleName(), QStringLiteral("Not saved: ") + title);
+      Button(RecordSheetIds::kDiscardDraft)->click();
+      EXPECT_EQ(Button(RecordSheetIds::kDiscardDraft), nullptr);
+    });
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
 }
 
 TEST_F(DraftBarTest, DiscardThrowsTheDraftAway) {
@@ -146,7 +214,7 @@ TEST_F(DraftBarTest, DiscardThrowsTheDraftAway) {
     Button(RecordSheetIds::kDiscardDraft)->click();
     EXPECT_EQ(Button(RecordSheetIds::kDiscardDraft), nullptr);
   });
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(0), std::nullopt);
 }
 
 TEST_F(DraftBarTest, GivesWayToThePanel) {
@@ -155,6 +223,47 @@ TEST_F(DraftBarTest, GivesWayToThePanel) {
     EXPECT_EQ(Button(RecordSheetIds::kRestoreDraft), nullptr);
     m_panel.Lower();
     EXPECT_NE(Button(RecordSheetIds::kRestoreDraft), nullptr);
+  });
+}
+
+TEST_F(DraftBarTest, UnderThePanelAKeyInAFieldShowsItAndTheNextOneRestores) {
+  InSheet(0, [&] {
+    TapRow(2);
+    ASSERT_TRUE(m_panel.IsUp());
+    m_input.Key(Qt::Key_R, Qt::ControlModifier);
+    ASSERT_NE(Button(RecordSheetIds::kRestoreDraft), nullptr);
+    EXPECT_TRUE(Button(RecordSheetIds::kRestoreDraft)->hasFocus());
+    EXPECT_EQ(Value(RowSet::Basic, 1), QString());
+    m_input.Key(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(Value(RowSet::Basic, 1), QStringLiteral("Pilot"));
+  });
+}
+
+TEST_F(DraftBarTest, UnderThePanelAKeyInAPartShowsItAndTheNextOneDiscards) {
+  InSheet(0, [&] {
+    TapRow(8);
+    TapPart({100, 25});
+    m_input.Key(Qt::Key_D, Qt::ControlModifier);
+    ASSERT_NE(Button(RecordSheetIds::kDiscardDraft), nullptr);
+    EXPECT_TRUE(Button(RecordSheetIds::kDiscardDraft)->hasFocus());
+    EXPECT_NE(LoadDraft(0), std::nullopt);
+    m_input.Key(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(LoadDraft(0), std::nullopt);
+  });
+}
+
+TEST_F(DraftBarTest, UnderThePanelTabLeadsToItToo) {
+  InSheet(0, [&] {
+    m_sheet->ShowPage(1);
+    TapRow(kRecordRowCount - 1);
+    ASSERT_TRUE(m_panel.IsUp());
+    m_input.Key(Qt::Key_Tab);
+    ASSERT_NE(Button(RecordSheetIds::kRestoreDraft), nullptr);
+    EXPECT_TRUE(Button(RecordSheetIds::kRestoreDraft)->hasFocus());
+    m_input.Key(Qt::Key_Tab);
+    m_input.Key(Qt::Key_Tab);
+    EXPECT_EQ(Rows().EditedRow(), 0);
+    EXPECT_EQ(Button(RecordSheetIds::kRestoreDraft), nullptr);
   });
 }
 
@@ -229,7 +338,7 @@ TEST_F(DraftBarTest, RestoringKeepsWhatWasBeingTypedAsADraftOfItsOwn) {
     Button(RecordSheetIds::kRestoreDraft)->click();
     EXPECT_FALSE(RowEdit().isVisible());
     EXPECT_EQ(Value(RowSet::Basic, 2), QString());
-    EXPECT_EQ(LoadDraft()->Record[Department], QStringLiteral("typed"));
+    EXPECT_EQ(LoadDraft(0)->Record[Department], QStringLiteral("typed"));
   });
 }
 

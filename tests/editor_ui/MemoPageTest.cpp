@@ -148,7 +148,7 @@ TEST_F(MemoPageTest, CancelLeavesTheContactItsNote) {
   });
   EXPECT_EQ(Stored(kim).BodyInk, kNote);
   EXPECT_EQ(g_contactInk.Count(), 0);
-  EXPECT_EQ(LoadDraft(), std::nullopt);
+  EXPECT_EQ(LoadDraft(kim), std::nullopt);
 }
 
 TEST_F(MemoPageTest, DeleteNoteAsksAndANoChangesNothing) {
@@ -185,8 +185,8 @@ TEST_F(MemoPageTest, InkThatOKCouldNotStoreIsADraft) {
     m_store.Faults().Save = true;
     PressOK();
   });
-  ASSERT_TRUE(LoadDraft().has_value());
-  EXPECT_EQ(LoadDraft()->Ink, kOther);
+  ASSERT_TRUE(LoadDraft(kim).has_value());
+  EXPECT_EQ(LoadDraft(kim)->Ink, kOther);
 }
 
 TEST_F(MemoPageTest, InkOfANewContactWithoutAnyNameIsADraft) {
@@ -195,8 +195,8 @@ TEST_F(MemoPageTest, InkOfANewContactWithoutAnyNameIsADraft) {
     Ink()->SetData(kOther);
     PressOK();
   });
-  ASSERT_TRUE(LoadDraft().has_value());
-  EXPECT_EQ(LoadDraft()->Ink, kOther);
+  ASSERT_TRUE(LoadDraft(0).has_value());
+  EXPECT_EQ(LoadDraft(0)->Ink, kOther);
   EXPECT_EQ(Count(AllContacts()), 0);
 }
 
@@ -207,8 +207,8 @@ TEST_F(MemoPageTest, InkThatTheProgramsEndClosesIsADraft) {
     m_isEnded = true;
     m_sheet->EndDialog(kResultCancel);
   });
-  ASSERT_TRUE(LoadDraft().has_value());
-  EXPECT_EQ(LoadDraft()->Ink, kOther);
+  ASSERT_TRUE(LoadDraft(0).has_value());
+  EXPECT_EQ(LoadDraft(0)->Ink, kOther);
 }
 
 // Recovery files in which no drafts can be written.
@@ -286,7 +286,7 @@ TEST_F(MemoPageRecovery, InkThatBecomesADraftIsKeptThereOnly) {
     m_isEnded = true;
     m_sheet->EndDialog(kResultCancel);
   });
-  EXPECT_NE(LoadDraft(), std::nullopt);
+  EXPECT_NE(LoadDraft(m_kim), std::nullopt);
   EXPECT_FALSE(IsKept());
 }
 

@@ -97,6 +97,39 @@ TEST_F(PartEditorTest, AStreetOfSeveralLinesIsKeptWhole) {
   EXPECT_EQ(Stored(kim).Record[BusinessAddressStreet], QStringLiteral("A\nB"));
 }
 
+TEST_F(PartEditorTest, ArrowKeysLeadThroughTheLinesOfAStreetAndOutOfThem) {
+  InSheet(AddKim(), [&] {
+    TapRow(8);
+    TapPart({100, 25});
+    m_input.Key(Qt::Key_Up);
+    EXPECT_TRUE(Control(RecordSheetIds::kStreetEdit).hasFocus());
+    m_input.Key(Qt::Key_Down);
+    EXPECT_TRUE(Control(RecordSheetIds::kStreetEdit).hasFocus());
+    m_input.Key(Qt::Key_Down);
+    EXPECT_TRUE(Control(RecordSheetIds::kAddressPartEdit).hasFocus());
+    m_input.Type(QStringLiteral("Busan"));
+    EXPECT_EQ(Value(RowSet::WorkAddress, 1), QStringLiteral("Busan"));
+    m_input.Key(Qt::Key_Up);
+    EXPECT_TRUE(Control(RecordSheetIds::kStreetEdit).hasFocus());
+    m_input.Key(Qt::Key_Up);
+    m_input.Key(Qt::Key_Up);
+    EXPECT_EQ(Parts(), nullptr);
+    EXPECT_EQ(Rows().EditedRow(), 7);
+  });
+}
+
+TEST_F(PartEditorTest, WhatIsTypedBeforeAPartIsChosenIsInTheFirstNameOrTheStreet) {
+  InSheet(AddKim(), [&] {
+    TapRow(0);
+    m_input.Type(QStringLiteral("Jae"));
+    EXPECT_EQ(Value(RowSet::NameParts, 1), QStringLiteral("Jae"));
+    m_panel.Lower();
+    TapRow(8);
+    m_input.Type(QStringLiteral("Hill 2"));
+    EXPECT_EQ(Value(RowSet::WorkAddress, 0), QStringLiteral("Hill 2"));
+  });
+}
+
 TEST_F(PartEditorTest, TheDetailPageHasTheHomeAddress) {
   const Oid kim = AddKim();
   InSheet(kim, [&] {

@@ -177,6 +177,29 @@ TEST_F(RecordPageTest, TimerOneEditsTheFirstRowOnce) {
   });
 }
 
+TEST_F(RecordPageTest, WhatIsTypedBeforeARowIsChosenIsTheName) {
+  InSheet(0, [&] {
+    m_input.Type(QStringLiteral("Minsu"));
+    EXPECT_EQ(Value(RowSet::NameParts, 1), QStringLiteral("Minsu"));
+    EXPECT_TRUE(m_sheet->Control(RecordSheetIds::kNamePartEdit)->hasFocus());
+    m_sheet->ShowPage(1);
+    m_input.Type(QStringLiteral("01\uAE40"));
+    EXPECT_EQ(Value(RowSet::Detail, 0), QStringLiteral("01\uAE40"));
+    EXPECT_TRUE(RowEdit().hasFocus());
+  });
+}
+
+TEST_F(RecordPageTest, BlanksAndCommandsBeginNoRow) {
+  InSheet(0, [&] {
+    m_input.Type(QStringLiteral(" "));
+    m_input.Key(Qt::Key_A, Qt::ControlModifier);
+    m_input.Key(Qt::Key_Backspace);
+    EXPECT_EQ(Rows().EditedRow(), -1);
+    m_input.Key(Qt::Key_A, Qt::ShiftModifier);
+    EXPECT_EQ(Rows().EditedRow(), 0);
+  });
+}
+
 TEST_F(RecordPageTest, ANameRowShowsTheFileAsUntilTheFirstTap) {
   InSheet(AddKim(), [&] {
     EXPECT_EQ(Value(RowSet::Basic, 0), QStringLiteral("Kim"));

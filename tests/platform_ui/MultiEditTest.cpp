@@ -54,6 +54,58 @@ TEST_F(MultiEditTest, HoldsSeveralLines) {
   EXPECT_EQ(m_edit.toPlainText(), QStringLiteral("one\ntwo\nthree"));
 }
 
+// What the window around it is left of the keys.
+class KeysLeft : public test::SampleFrame {
+ public:
+  using SampleFrame::SampleFrame;
+  QList<int> Keys;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override { Keys.append(event->key()); }
+};
+
+class MultiEditKeysTest : public test::ScreenFixture {
+ protected:
+  MultiEditKeysTest() {
+    m_edit.setGeometry(10, 10, 120, 47);
+    m_edit.show();
+    m_edit.setFocus();
+  }
+
+  KeysLeft m_frame{*m_screen};
+  CMultiEdit m_edit{QStringLiteral("one\ntwo"), &m_frame};
+};
+
+TEST_F(MultiEditKeysTest, UpInTheFirstLineAndDownInTheLastOneAreTheWindows) {
+  m_input.Key(Qt::Key_Down);
+  EXPECT_EQ(m_edit.textCursor().blockNumber(), 1);
+  EXPECT_EQ(m_frame.Keys, QList<int>());
+  m_input.Key(Qt::Key_Down);
+  EXPECT_EQ(m_frame.Keys, QList<int>({Qt::Key_Down}));
+  m_input.Key(Qt::Key_Up);
+  EXPECT_EQ(m_edit.textCursor().blockNumber(), 0);
+  m_input.Key(Qt::Key_Up);
+  EXPECT_EQ(m_frame.Keys, QList<int>({Qt::Key_Down, Qt::Key_Up}));
+}
+
+TEST_F(MultiEditKeysTest, ALineThatIsBrokenIsLeftAtItsEnds) {
+  m_edit.setPlainText(QStringLiteral("a line that is too long for the width of the editor"));
+  m_input.Key(Qt::Key_Down);
+  EXPECT_EQ(m_frame.Keys, QList<int>());
+  EXPECT_GT(m_edit.textCursor().position(), 0);
+  m_edit.moveCursor(QTextCursor::End);
+  m_input.Key(Qt::Key_Down);
+  EXPECT_EQ(m_frame.Keys, QList<int>({Qt::Key_Down}));
+}
+
+TEST_F(MultiEditKeysTest, WithShiftTheySelectAndOfAReadOnlyTextNoneIsLeft) {
+  m_input.Key(Qt::Key_Up, Qt::ShiftModifier);
+  EXPECT_EQ(m_frame.Keys, QList<int>());
+  m_edit.setReadOnly(true);
+  m_input.Key(Qt::Key_Up);
+  EXPECT_EQ(m_frame.Keys, QList<int>());
+}
+
 TEST_F(MultiEditTest, ItsMenuOffersWhatCanBeDone) {
   const auto enabledItems = [this] {
     std::vector<bool> enabled;

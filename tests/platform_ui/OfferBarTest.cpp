@@ -61,7 +61,7 @@ TEST_F(OfferBarTest, HidesWhileTheInputPanelIsUp) {
   EXPECT_FALSE(m_bar.isHidden());
 }
 
-TEST_F(OfferBarTest, TakesTheFocusAtEitherEndUnlessItIsHidden) {
+TEST_F(OfferBarTest, TakesTheFocusAtEitherEndWhileItOffersSomething) {
   EXPECT_FALSE(m_bar.TakeFocus(COfferBar::End::First));
   Offer(QStringLiteral("this"));
   EXPECT_FALSE(m_bar.HasFocus());
@@ -115,9 +115,37 @@ TEST_F(OfferBarTest, KeysOfItsWindowDoTheSame) {
   m_input.Key(Qt::Key_D, Qt::ControlModifier);
   m_input.Key(Qt::Key_D);
   EXPECT_EQ(m_asked, QStringList({QStringLiteral("restore"), QStringLiteral("discard")}));
-  m_bar.hide();
+  m_bar.Withdraw();
+  EXPECT_TRUE(m_bar.isHidden());
   m_input.Key(Qt::Key_R, Qt::ControlModifier);
   EXPECT_EQ(m_asked.size(), 2);
+  EXPECT_FALSE(m_bar.TakeFocus(COfferBar::End::First));
+}
+
+TEST_F(OfferBarTest, HiddenByThePanelItsKeysShowItFirstAndAnswerOnceItIsSeen) {
+  for (const auto& [key, button] :
+       {std::pair(Qt::Key_R, kRestore), std::pair(Qt::Key_D, kDiscard)}) {
+    m_panel.Raise();
+    m_frame.setFocus();
+    Offer(QStringLiteral("this"));
+    ASSERT_TRUE(m_bar.isHidden());
+    m_asked.clear();
+    m_input.Key(key, Qt::ControlModifier);
+    ASSERT_FALSE(m_bar.isHidden());
+    EXPECT_TRUE(m_bar.Controls().at(button)->hasFocus());
+    EXPECT_TRUE(m_asked.isEmpty());
+    m_input.Key(key, Qt::ControlModifier);
+    EXPECT_EQ(m_asked.size(), 1);
+  }
+}
+
+TEST_F(OfferBarTest, HiddenByThePanelItComesForTheFocusAndGoesWithIt) {
+  m_panel.Raise();
+  Offer(QStringLiteral("this"));
+  EXPECT_TRUE(m_bar.TakeFocus(COfferBar::End::Last));
+  EXPECT_TRUE(m_bar.Controls().at(kDiscard)->hasFocus());
+  m_frame.setFocus();
+  EXPECT_TRUE(m_bar.isHidden());
 }
 
 }  // namespace

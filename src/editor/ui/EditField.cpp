@@ -1,5 +1,7 @@
 #include "editor/ui/EditField.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
@@ -28,6 +30,19 @@ EditField FieldOf(QPlainTextEdit& edit) {
           .Copy = [&edit] { edit.copy(); },
           .Paste = [&edit] { edit.paste(); },
           .Clear = [&edit] { edit.textCursor().removeSelectedText(); }};
+}
+
+bool BeginsText(const QKeyEvent& key) {
+  constexpr Qt::KeyboardModifiers kOfLetters =
+      Qt::ShiftModifier | Qt::KeypadModifier | Qt::GroupSwitchModifier;
+  if (key.text().isEmpty() || (key.modifiers() & ~kOfLetters)) return false;
+  const QChar first = key.text().front();
+  return first.isSurrogate() || (first.isPrint() && !first.isSpace());
+}
+
+void HandToField(QKeyEvent& key, const QWidget& from) {
+  QWidget* const field = QApplication::focusWidget();
+  if (field && field != &from) QCoreApplication::sendEvent(field, &key);
 }
 
 }  // namespace quill

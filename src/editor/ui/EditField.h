@@ -3,8 +3,10 @@
 
 #include <functional>
 
+class QKeyEvent;
 class QLineEdit;
 class QPlainTextEdit;
+class QWidget;
 
 namespace quill {
 
@@ -25,5 +27,10 @@ inline constexpr int kLongestText = 1'000'000'000;
 
 EditField FieldOf(QLineEdit& edit);
 EditField FieldOf(QPlainTextEdit& edit);
+
+// Whether this key begins a text where no field is open yet. A blank does not.
+bool BeginsText(const QKeyEvent& key);
+// Gives the key to the field that was opened for it, which has the focus now.
+void HandToField(QKeyEvent& key, const QWidget& from);
 
 }  // namespace quill

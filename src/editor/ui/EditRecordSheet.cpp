@@ -21,6 +21,8 @@ namespace {
 constexpr int kKeepTimer = 2;
 constexpr int kKeepMilliseconds = 2000;
 
+void Tell(const QString& text) { g_services.Prompt->Show({.Text = text}); }
+
 }  // namespace
 
 CEditRecordSheet::CEditRecordSheet(CScreen& screen, const QString& caption)
@@ -63,24 +65,28 @@ CEditRecordSheet::~CEditRecordSheet() {
 }
 
 void CEditRecordSheet::OnInitDialog() {
-  const bool isNew = m_record.Oid == 0;
-  m_record = LoadSheet(m_record.Oid, g_sheet);
+  const Oid opened = m_record.Oid;
+  m_record = LoadSheet(opened, g_sheet);
   CSheet::OnInitDialog();
-  if (isNew) m_offered = LoadDraft();
+  m_offered = LoadDraft(opened);
   OfferDraft();
   g_services.Timers->Set(*this, kKeepTimer, kKeepMilliseconds);
 }
 
 bool CEditRecordSheet::TakeRows() {
-  if (SaveSheet(m_record, g_settings) == SheetOutcome::NotKept) {
-    g_services.Prompt->Show(
-        {.Text = QStringLiteral("Cannot save. The storage is full or cannot be written.")});
+  const SheetOutcome outcome = SaveSheet(m_record, g_settings);
+  if (outcome == SheetOutcome::NotKept) {
+    Tell(QStringLiteral("Cannot save. The storage is full or cannot be written."));
     return false;
   }
   m_isDecided = true;
   g_services.Timers->Kill(*this, kKeepTimer);
   m_memoPage->ForgetUnsaved();
   m_memoPage->Discard();
+  if (outcome == SheetOutcome::KeptOfDeleted)
+    Tell(
+        QStringLiteral("The contact was deleted meanwhile. "
+                       "What was entered is offered to the next new contact."));
   return true;
 }
 
@@ -142,7 +148,7 @@ void CEditRecordSheet::HideDraftBar() {
     ActivePage()->setFocus(Qt::ActiveWindowFocusReason);
     focusNextPrevChild(true);
   }
-  m_draftBar->hide();
+  m_draftBar->Withdraw();
 }
 
 // What was entered until now becomes a draft of its own.

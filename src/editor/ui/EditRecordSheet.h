@@ -1,8 +1,9 @@
 // The record sheet: one contact, created or edited on three pages. It edits rows; OK turns them
 // into the contact again and writes it, or keeps a draft. What there is nothing to save of is not
-// written, and nothing is said of it; where neither can be written the user is told, and the sheet
-// stays open. What is entered outlives a crash as a draft, and a draft is offered to the next new
-// contact.
+// written, and nothing is said of it. The user is told where the contact was deleted meanwhile, and
+// where neither can be written: then the sheet stays open. What is entered outlives a crash as a
+// draft, and a draft is offered where it belongs: when its contact is opened again, else to the
+// next new contact.
 #pragma once
 
 #include "editor/Draft.h"

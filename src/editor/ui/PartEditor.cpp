@@ -101,8 +101,15 @@ void CPartEditor::keyPressEvent(QKeyEvent* event) {
     MovePart(RowMove::Previous);
   else if (event->key() == Qt::Key_Down)
     MovePart(RowMove::Next);
+  else if (m_edited < 0 && BeginsText(*event))
+    BeginTyping(*event);
   else
     CPaintedWindow::keyPressEvent(event);
+}
+
+void CPartEditor::BeginTyping(QKeyEvent& key) {
+  EditPart(PartTypedFirst(m_parts));
+  HandToField(key, *this);
 }
 
 // Asked by its fields, too.

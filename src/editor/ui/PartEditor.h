@@ -1,5 +1,6 @@
 // An editor of the parts behind one row, over the page: a list of labelled parts with an edit field
-// over the part that is edited. What is typed is in the part's row at once.
+// over the part that is edited. What is typed is in the part's row at once; before a part is edited
+// it goes to the one that most begin with.
 #pragma once
 
 #include <functional>
@@ -57,6 +58,7 @@ class CPartEditor : public CPaintedWindow {
   void ShowParts();
   void EndPart();
   void MovePart(RowMove move);
+  void BeginTyping(QKeyEvent& key);
 
   SheetRecord& m_record;
   const RowSet m_parts;

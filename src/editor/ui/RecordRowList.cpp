@@ -232,8 +232,15 @@ void CRecordRowList::keyPressEvent(QKeyEvent* event) {
     MoveAsked(RowMove::Next);
   else if (event->key() == Qt::Key_Space && m_edited >= 0)
     StartEdit(m_edited);
+  else if (m_edited < 0 && BeginsText(*event))
+    BeginTyping(*event);
   else
     CPaintedWindow::keyPressEvent(event);
+}
+
+void CRecordRowList::BeginTyping(QKeyEvent& key) {
+  MoveAsked(RowMove::Next);
+  HandToField(key, *this);
 }
 
 // Asked by its editors, too.

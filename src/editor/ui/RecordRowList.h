@@ -1,4 +1,5 @@
-// A page's rows: paints labels and values, and edits a value in its place. Rows are counted from 0;
+// A page's rows: paints labels and values, and edits a value in its place. What is typed while no
+// row is edited goes to the first one. Rows are counted from 0;
 // points are logical pixels of the list.
 #pragma once
 
@@ -67,6 +68,7 @@ class CRecordRowList : public CPaintedWindow, public TimerTarget {
   void EditDate(int row);
   void EditSound(int row);
   void Tap(QPoint at);
+  void BeginTyping(QKeyEvent& key);
   void StartHold();
   void StopHold();
 

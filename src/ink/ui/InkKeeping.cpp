@@ -64,7 +64,7 @@ void InkKeeping::FindOffers(const QString& name) {
 }
 
 void InkKeeping::PlaceBar() {
-  if (m_offers.empty()) return m_bar->hide();
+  if (m_offers.empty()) return m_bar->Withdraw();
   m_bar->Offer(OfferText(m_offers.front().Ink), m_window.rect());
 }
 

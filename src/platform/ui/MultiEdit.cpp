@@ -19,6 +19,13 @@ constexpr int kFrameDarkness =
 // What was copied elsewhere may have no plain form of its own.
 bool IsRichOnly(const QMimeData& source) { return source.hasHtml() && !source.hasText(); }
 
+// Lines as they are shown: a long one is several.
+bool LeadsOut(const QKeyEvent& key, QTextCursor cursor) {
+  if (key.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier)) return false;
+  if (key.key() == Qt::Key_Up) return !cursor.movePosition(QTextCursor::Up);
+  return key.key() == Qt::Key_Down && !cursor.movePosition(QTextCursor::Down);
+}
+
 }  // namespace
 
 CMultiEdit::CMultiEdit(const QString& text, QWidget* parent) : WithEditMenu(text, parent) {
@@ -36,6 +43,11 @@ bool CMultiEdit::event(QEvent* event) {
   painter.fillRect(rect(), palette().color(QPalette::Base));
   DrawFrame(painter, rect(), palette().color(QPalette::Window).darker(kFrameDarkness).rgb());
   return true;
+}
+
+void CMultiEdit::keyPressEvent(QKeyEvent* event) {
+  const bool isParents = !isReadOnly() && LeadsOut(*event, textCursor());
+  isParents ? event->ignore() : WithEditMenu::keyPressEvent(event);
 }
 
 bool CMultiEdit::canInsertFromMimeData(const QMimeData* source) const {

@@ -1,5 +1,6 @@
 // An editor of plain text with several lines, whose own menu opens inside the frame. Return begins
-// a new line, Tab leaves it, and of what is pasted only the text is taken.
+// a new line, Tab leaves it, and so do Up in its first line and Down in its last one, where the
+// parent has a use for them. Of what is pasted only the text is taken.
 #pragma once
 
 #include <QPlainTextEdit>
@@ -16,6 +17,7 @@ class CMultiEdit : public WithEditMenu<QPlainTextEdit> {
 
  protected:
   bool event(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
   void insertFromMimeData(const QMimeData* source) override;
 };

@@ -53,14 +53,21 @@ void COfferBar::Offer(const QString& text, const QRect& area) {
   m_text->setText(ElideText(OnOneLine(text), kTextArea.width(), NormalTextWidth()));
   m_text->setAccessibleName(text);
   setGeometry(area.left(), area.bottom() + 1 - kHeight, area.width(), kHeight);
+  m_isOffered = true;
   setVisible(!IsPanelUp() || HasFocus());
   raise();
+}
+
+void COfferBar::Withdraw() {
+  m_isOffered = false;
+  hide();
 }
 
 bool COfferBar::HasFocus() const { return isAncestorOf(QApplication::focusWidget()); }
 
 bool COfferBar::TakeFocus(End end) {
-  if (isHidden()) return false;
+  if (!m_isOffered) return false;
+  show();
   end == End::First ? m_restore->setFocus(Qt::TabFocusReason)
                     : m_discard->setFocus(Qt::BacktabFocusReason);
   return true;
@@ -76,7 +83,7 @@ bool COfferBar::focusNextPrevChild(bool next) {
 
 bool COfferBar::eventFilter(QObject* watched, QEvent* event) {
   if (watched == parentWidget())
-    return event->type() == QEvent::KeyPress && !isHidden() &&
+    return event->type() == QEvent::KeyPress && m_isOffered &&
            Answer(*static_cast<QKeyEvent*>(event));
   if (event->type() == QEvent::FocusOut && IsPanelUp() && !HasFocus()) hide();
   return false;
@@ -91,6 +98,7 @@ bool COfferBar::Answer(const QKeyEvent& event) {
   const QKeyCombination keys = event.keyCombination();
   const bool restores = keys == QKeyCombination(Qt::CTRL, Qt::Key_R);
   if (!restores && keys != QKeyCombination(Qt::CTRL, Qt::Key_D)) return false;
+  if (isHidden()) return TakeFocus(restores ? End::First : End::Last);
   (restores ? m_restore : m_discard)->click();
   return true;
 }

@@ -1,6 +1,7 @@
 // Offers something that was not saved over the lower end of a window: to take it back, or to throw
 // it away. It moves nothing of the window. Ctrl+R and Ctrl+D do the same, wherever in the window
-// the focus is.
+// the focus is; while the bar is out of sight they show it with the focus instead, that nobody
+// answers what he does not see.
 #pragma once
 
 #include <QWidget>
@@ -27,11 +28,14 @@ class COfferBar : public QWidget {
   // Shows what is offered, in the lower end of this area of the window. While the input panel is up
   // and the bar has not the focus it hides instead: there is no room to spare then.
   void Offer(const QString& text, const QRect& area);
+  // Nothing is offered any longer.
+  void Withdraw();
   // None while it is hidden.
   ControlMap Controls() const;
 
   bool HasFocus() const;
-  // Gives its first button the focus, or the last one. False while the bar is hidden.
+  // Gives its first button the focus, or the last one, also of a bar that hides from the panel.
+  // False while nothing is offered.
   enum class End { First, Last };
   bool TakeFocus(End end);
 
@@ -53,6 +57,7 @@ class COfferBar : public QWidget {
   QLabel* m_text;
   QPushButton* m_restore;
   QPushButton* m_discard;
+  bool m_isOffered = false;
 };
 
 }  // namespace quill
