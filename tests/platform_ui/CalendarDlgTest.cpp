@@ -2,10 +2,12 @@
 
 #include <QPushButton>
 
+#include "platform/Services.h"
 #include "platform/ui/CalendarView.h"
 #include "platform_ui/AccessibleChild.h"
 #include "platform_ui/DialogFixture.h"
 #include "platform_ui/SampleWindows.h"
+#include "support/FixedClock.h"
 
 namespace quill {
 namespace {
@@ -28,8 +30,18 @@ class CalendarDlgTest : public test::DialogFixture {
     return [this, name] { m_input.Tap(On(name)); };
   }
 
+  // A clock that is there before the dialog asks it.
+  struct Today {
+    explicit Today(QDate date) : Clock(QDateTime(date, {9, 30})) { g_services.Clock = &Clock; }
+    ~Today() { g_services.Clock = nullptr; }
+    Today(const Today&) = delete;
+    Today& operator=(const Today&) = delete;
+    test::FixedClock Clock;
+  };
+
+  Today m_today{{2004, 9, 15}};
   test::SampleFrame m_frame{*m_screen};
-  CCalendarDlg m_dialog{*m_screen, {2004, 9, 8}, {2004, 9, 15}};
+  CCalendarDlg m_dialog{*m_screen, {2004, 9, 8}};
 };
 
 TEST_F(CalendarDlgTest, StandsAboveTheInputPanelAndShowsTheDay) {
@@ -94,7 +106,8 @@ TEST_F(CalendarDlgTest, TabGoesFromTheDaysToTheButtons) {
 }
 
 TEST_F(CalendarDlgTest, DatesBeyondItsEndsBecomeTheNearestWithin) {
-  CCalendarDlg dialog(*m_screen, {1800, 5, 5}, {3004, 9, 15});
+  m_today.Clock.Set(QDateTime({3004, 9, 15}, {9, 30}));
+  CCalendarDlg dialog(*m_screen, {1800, 5, 5});
   EXPECT_EQ(Get<CCalendarView>(dialog, CalendarIds::kMonth).Current(), QDate(1900, 1, 1));
   const Steps steps(*m_screen, {[&] { TapControl(dialog, CalendarIds::kToday); }});
   EXPECT_EQ(dialog.DoModal(), kResultOK);
