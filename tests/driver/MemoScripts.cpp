@@ -187,6 +187,32 @@ TEST_F(MemoScript, AMemoThatAnotherProgramChangesWhileItIsOpenIsSavedBesideTheOt
   EXPECT_TRUE(RecoveryFiles().isEmpty());
 }
 
+TEST_F(MemoScript, AMemoFileThatWasCutOffStaysAsItIs) {
+  const QString name = QStringLiteral("a.pwi");
+  PutMemo(name, {});
+  ReadyDriver driver(Arguments());
+  OpenFirstMemo(driver);
+  for (int i = 0; i < 3; ++i) Write(driver);
+  OK(driver);
+  const QByteArray cut = Content(name)->first(40);
+  PutMemo(name, cut);
+  OpenFirstMemo(driver);
+  Write(driver);
+  EXPECT_EQ(Strokes(driver), 0) << "on a page that is not shown";
+  RunCommand(driver, 32780);
+  RunCommand(driver, 32786);
+  Write(driver);
+  EXPECT_EQ(Strokes(driver), 1);
+  OK(driver);
+  EXPECT_EQ(Message(driver),
+            QStringLiteral(
+                "Not all of the memo can be read, so it stays. Please give this one a new name."));
+  Answer(driver, "OK");
+  OK(driver);
+  EXPECT_EQ(Content(name), cut);
+  EXPECT_TRUE(Content(QStringLiteral("a_Copy.pwi")).has_value());
+}
+
 TEST_F(MemoScript, ThePanelGoesDownWithANameEntryThatIsCancelled) {
   PutMemo(QStringLiteral("a.pwi"), {});
   ReadyDriver driver(Arguments());
