@@ -73,8 +73,10 @@ QString AlarmText(const AppointmentForm& form) {
   return form.Alarm == Alarm::Yes ? time : QStringLiteral("No");
 }
 
+// Without an alarm nothing sounds either.
 bool IsGrey(AppointmentRow row, const AppointmentForm& form) {
-  return row == AppointmentRow::Alarm && form.Alarm == Alarm::No;
+  const bool isAlarms = row == AppointmentRow::Alarm || row == AppointmentRow::Sound;
+  return isAlarms && form.Alarm == Alarm::No;
 }
 
 Rgb ValueColor(AppointmentRow row, const AppointmentForm& form) {
@@ -91,7 +93,7 @@ void AddSoundPictures(const AppointmentForm& form, PaintedRow& painted) {
   for (const resources::Picture* picture : pictures) {
     painted.Items.push_back(
         {.Rectangle = {left, painted.Rectangle.top() + 2, kPictureSize, kPictureSize},
-         .Color = silent ? kGrey : kPictureColor,
+         .Color = silent || IsGrey(AppointmentRow::Sound, form) ? kGrey : kPictureColor,
          .Picture = picture});
     left += kPictureSize;
   }

@@ -21,14 +21,23 @@ bool HasDisplay(const QProcessEnvironment& environment) {
   return false;
 }
 
-void ExplainMissingDisplay(const Console& console) {
+// As one word to a shell.
+QString Quoted(QString text) {
+  return u'\'' + text.replace(u'\'', QStringLiteral("'\\''")) + u'\'';
+}
+
+void ExplainMissingDisplay(const CommandLine& line, const Console& console) {
   Complain(console, QStringLiteral("there is no display to open a window on"));
+  const QString home = line.Home ? u" --home "_qs + Quoted(*line.Home) : QString();
   console.Err
       << "A picture of it all the same, by the program without a screen:\n\n"
-         "  echo '{\"op\":\"screenshot\",\"file\":\"quill.png\",\"scale\":2}' | quill-driver\n\n"
-         "Or a screen that is not there, seen through ssh. On this machine:\n\n"
+         "  echo '{\"op\":\"screenshot\",\"file\":\"quill.png\",\"scale\":2}' | quill-driver"
+      << home
+      << "\n\nOr a screen that is not there, seen through ssh. On this machine:\n\n"
          "  Xvfb :5 -screen 0 1024x800x24 -nolisten tcp &\n"
-         "  DISPLAY=:5 quill &\n"
+         "  DISPLAY=:5 quill"
+      << home
+      << " &\n"
          "  x11vnc -display :5 -localhost -rfbport 5905 -forever\n\n"
          "and on yours:\n\n"
          "  ssh -L 5905:localhost:5905 THIS-MACHINE\n"
@@ -145,7 +154,7 @@ WindowStart StartWindow(const CommandLine& words, const QProcessEnvironment& env
   if (!FilesExist(words, console)) return Ended(kExitFailed);
   const CommandLine line = WithMemosAsked(words);
   if (!HasDisplay(environment)) {
-    ExplainMissingDisplay(console);
+    ExplainMissingDisplay(line, console);
     return Ended(kExitFailed);
   }
   if (console.IsTerminal) return StartInHome(line, environment, console);

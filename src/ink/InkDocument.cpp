@@ -24,10 +24,10 @@ constexpr qint64 kNearlyFull = InkMemory(2000);
 
 qint64 NowInMilliseconds() { return g_services.Clock->Now().toMSecsSinceEpoch(); }
 
-InkNotice NoticeOf(InkReading reading) {
-  switch (reading) {
+InkNotice NoticeOf(const InkContent& content) {
+  switch (content.Reading) {
     case InkReading::Damaged:
-      return InkNotice::Damaged;
+      return content.Note.IsEmpty() ? InkNotice::Lost : InkNotice::Damaged;
     case InkReading::Foreign:
       return InkNotice::Foreign;
     case InkReading::Newer:
@@ -51,7 +51,7 @@ InkDocument::~InkDocument() { m_steps.disconnect(this); }
 void InkDocument::SetData(const QByteArray& data) {
   InkContent content = ReadInk(data);
   m_original = data;
-  m_notice = NoticeOf(content.Reading);
+  m_notice = NoticeOf(content);
   const QSignalBlocker unedited(m_steps);
   m_steps.clear();
   m_leaf.Load(std::move(content.Note));
@@ -79,7 +79,8 @@ bool InkDocument::HasRoomFor(const std::vector<InkStrokePtr>& strokes) const {
 }
 
 bool InkDocument::IsLocked() const {
-  return Notice() == InkNotice::Foreign || Notice() == InkNotice::Newer;
+  const InkNotice notice = Notice();
+  return notice == InkNotice::Lost || notice == InkNotice::Foreign || notice == InkNotice::Newer;
 }
 
 void InkDocument::SetNewPageWidth(quint32 width) {

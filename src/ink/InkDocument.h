@@ -17,6 +17,7 @@ namespace quill {
 enum class InkNotice {
   None,
   Damaged,  // what was saved of it is shown
+  Lost,     // damaged, and nothing was saved of it
   Foreign,  // not a note: nothing is shown
   Newer,    // of a newer version: what is understood is shown
   Full,     // no more ink goes onto the page
@@ -33,7 +34,7 @@ class InkDocument : public QObject {
   // The very bytes that were set while nothing differs from them; none for an empty page.
   QByteArray Data() const;
   InkNotice Notice() const;
-  // A note that is foreign or newer can only be cleared as a whole.
+  // A note that is lost, foreign or newer can only be cleared as a whole.
   bool IsLocked() const;
 
   const InkNote& Note() const { return m_leaf.Note(); }

@@ -10,10 +10,11 @@ namespace quill {
 
 namespace {
 
-// Columns of a row: left edge and width.
+// Columns of a row: left edge and width. The first ends at 80, but the dots of a name in wide
+// letters may go on up to the second.
 constexpr int kFirstColumn = 5;
-constexpr int kFirstColumnWidth = 75;
 constexpr int kSecondColumn = 85;
+constexpr int kFirstColumnWidth = kSecondColumn - kFirstColumn;
 constexpr int kSecondColumnWidth = 110;
 constexpr int kWholeColumnWidth = kListWidth - 2 * kFirstColumn;  // by memo there is only one
 constexpr int kIconLeft = 208;
@@ -27,7 +28,7 @@ constexpr QStringView kNoName = u"(no name)";  // spoken only
 constexpr std::array<QStringView, 3> kEmptyHint{
     u"Add people: \"New\"",
     u"or hold the title bar: \"Import...\"",
-    u"or quill import FILE.vcf",
+    u"or drop vCard files here",
 };
 
 QRect RowRectangle(int row) { return {0, row * kListRowHeight, kListWidth, kListRowHeight}; }

@@ -43,6 +43,15 @@ int SingleSelectedRow(const ListState& list) {
   return KeyOfRow(list, list.CurrentRow) == list.SelectedKeys.front() ? list.CurrentRow : -1;
 }
 
+int FirstSelectedRow(const ListState& list) {
+  int first = -1;
+  for (const int key : list.SelectedKeys) {
+    const int row = RowOfKey(list, key);
+    if (row >= 0 && (first < 0 || row < first)) first = row;
+  }
+  return first >= 0 ? first : list.CurrentRow;
+}
+
 void SelectRow(ListState& list, int row) { SelectRun(list, row, row); }
 
 void SelectRun(ListState& list, int anchor, int row) {
@@ -69,6 +78,11 @@ void KeepSelection(ListState& list) {
   std::erase_if(list.SelectedKeys, [&list](int key) { return !IsItemShown(list, key); });
   const int followed = list.SelectedKeys.empty() ? -1 : RowOfKey(list, list.SelectedKeys.front());
   list.CurrentRow = followed >= 0 ? followed : WithinPage(list, list.CurrentRow);
+}
+
+void SelectInPlace(ListState& list, int row) {
+  const int there = WithinPage(list, row);
+  if (list.SelectedKeys.empty() && there >= 0) SelectRow(list, there);
 }
 
 }  // namespace quill

@@ -22,6 +22,8 @@ int RowOfKey(const ListState& list, int key);
 bool IsKeySelected(const ListState& list, int key);
 // The current row when it alone is selected, else -1: what a single tap's commands act on.
 int SingleSelectedRow(const ListState& list);
+// The uppermost of the selected rows on the page; the current row when none is on it.
+int FirstSelectedRow(const ListState& list);
 
 // Makes this row, which must be selectable, the current one and its key the only selected one.
 void SelectRow(ListState& list, int row);
@@ -42,5 +44,9 @@ void SelectAfterScroll(ListState& list);
 // act on what is not seen, as are positions that have no memo any more. The others stay in their
 // order, and the current row follows the first of them.
 void KeepSelection(ListState& list);
+
+// After what was selected from this row on has been deleted and the page built again: the row that
+// stands there now is selected, or the last one. Where something is still selected it stays so.
+void SelectInPlace(ListState& list, int row);
 
 }  // namespace quill

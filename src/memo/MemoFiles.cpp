@@ -21,9 +21,10 @@ bool WriteMemo(const MemoState& memo, const QString& path, const QByteArray& con
   return files.WriteWhole(path, content);
 }
 
-bool IsMemoChanged(const QString& path, const QByteArray& read) {
+MemoFate FateOfMemo(const QString& path, const QByteArray& read) {
   const DeviceFiles& files = *g_services.Files;
-  return !files.Exists(path) || files.ReadWhole(path) != read;
+  if (!files.Exists(path)) return MemoFate::Removed;
+  return files.ReadWhole(path) == read ? MemoFate::AsRead : MemoFate::Changed;
 }
 
 // The device files' answers are ignored: they have said on the log what they could not do.

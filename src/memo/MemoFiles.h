@@ -10,8 +10,9 @@ namespace quill {
 // it. False when the memo could not be written as a whole; then nothing has changed.
 bool WriteMemo(const MemoState& memo, const QString& path, const QByteArray& content);
 
-// Whether others have changed or removed a memo since this was read from it.
-bool IsMemoChanged(const QString& path, const QByteArray& read);
+// What others have done with a memo since this was read from it.
+enum class MemoFate { AsRead, Changed, Removed };
+MemoFate FateOfMemo(const QString& path, const QByteArray& read);
 
 // An empty name deletes nothing.
 void DeleteMemo(const MemoState& memo, const QString& name);

@@ -70,6 +70,7 @@ constexpr auto kShortcuts = std::to_array<Shortcut>({
      ID_FILE_NEW,
      {Ctrl(Qt::Key_N), kNone, kNone}},
     {List, u"Ctrl+F", u"go to the search box", ID_KEY_SEARCH, {Ctrl(Qt::Key_F), kNone, kNone}},
+    {List, u"Down, in the search box", u"go on to the list"},
     {List,
      u"Ctrl+G",
      u"open the menu of categories",

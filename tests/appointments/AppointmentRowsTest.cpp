@@ -182,6 +182,14 @@ TEST(AppointmentRows, TheAlarmIsGreyWhileThereIsNone) {
   EXPECT_NE(Row(kAlarm, AppointmentRow::Alarm).Items[0].Color, grey);
 }
 
+TEST(AppointmentRows, TheSoundIsGreyWhileThereIsNoAlarm) {
+  const Rgb grey = Row(Tea(), AppointmentRow::Alarm).Items[2].Color;
+  for (const std::size_t item : {0U, 2U, 3U, 4U}) {
+    EXPECT_EQ(Row(Tea(), AppointmentRow::Sound).Items[item].Color, grey) << item;
+    EXPECT_NE(Row(kAlarm, AppointmentRow::Sound).Items[item].Color, grey) << item;
+  }
+}
+
 TEST(AppointmentRows, TheMemosTextIsBlue) {
   EXPECT_EQ(Row(Tea(), AppointmentRow::Memo).Items[2].Color, 0x3232FFU);
 }

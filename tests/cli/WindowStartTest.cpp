@@ -210,6 +210,13 @@ TEST_F(WindowStartOf, WithoutADisplayItSaysHowToLook) {
   EXPECT_FALSE(QFileInfo::exists(Home())) << "nothing is made for it";
 }
 
+TEST_F(WindowStartOf, WithoutADisplayWhatIsProposedKeepsTheHome) {
+  Start({u"--home"_qs, u"/tmp/it's here"_qs}, {});
+  const std::string err = TakeErr();
+  EXPECT_THAT(err, HasSubstr("| quill-driver --home '/tmp/it'\\''s here'\n"));
+  EXPECT_THAT(err, HasSubstr("quill --home '/tmp/it'\\''s here' &\n"));
+}
+
 TEST_F(WindowStartOf, AnyKindOfDisplayWillDo) {
   for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
     QProcessEnvironment environment;

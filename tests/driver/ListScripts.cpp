@@ -211,6 +211,16 @@ TEST(BackDoor, WritesAndReadsEveryKindOfField) {
   EXPECT_EQ(driver.Error(R"({"op":"put","fields":{"Wings":"2"}})"), QStringLiteral("malformed"));
 }
 
+TEST(List, ShowsAllTheDotsOfALongNameInHangul) {
+  ReadyDriver driver;
+  const QString name(9, u'\uae40');
+  driver.Ask(R"({"op":"put","quiet":true,"fields":{"FileAs":")" + name.toUtf8() + R"("}})");
+  driver.Do(R"({"op":"command","id":59413})");
+  const QJsonValue shown = driver.Result(R"({"op":"texts","on":"list"})", u"texts")[0];
+  EXPECT_TRUE(shown[u"text"].toString().endsWith(QStringLiteral("...")));
+  EXPECT_TRUE(shown[u"cut"].isUndefined());
+}
+
 TEST(TenThousandContacts, AreImportedPagedAndSearched) {
   const QTemporaryDir home;
   QFile cards(home.filePath(QStringLiteral("people.vcf")));

@@ -7,7 +7,11 @@
 namespace quill::test {
 namespace {
 
-class MemoScript : public InkScript {};
+class MemoScript : public InkScript {
+ protected:
+  // The list waits half a second after the last change.
+  static void WaitForNotice(ReadyDriver& driver) { driver.Do(R"({"op":"wait","ms":800})"); }
+};
 
 TEST_F(MemoScript, AMemoIsAddedToAContactAndOpenedFromItsPopup) {
   ReadyDriver driver(Arguments());
@@ -80,15 +84,31 @@ TEST_F(MemoScript, NewByMemoListsWhatWasWrittenAndNothingElse) {
   RunCommand(driver, 57600);
   Write(driver);
   OK(driver);
-  PutMemo(QStringLiteral("unlisted.pwi"), "x");
   Cancel(driver);
   EXPECT_TRUE(Memos(driver).isEmpty());
   RunCommand(driver, 57600);
   Write(driver);
   OK(driver);
   OK(driver);
-  EXPECT_EQ(Memos(driver), QStringList({QStringLiteral("Memo_20040915_093005.pwi"),
-                                        QStringLiteral("unlisted.pwi")}));
+  EXPECT_EQ(Memos(driver), QStringList(QStringLiteral("Memo_20040915_093005.pwi")));
+}
+
+TEST_F(MemoScript, TheListByMemoFollowsWhatOtherProgramsDoToTheFolder) {
+  PutMemo(QStringLiteral("b.pwi"), "b");
+  ReadyDriver driver(Arguments());
+  RunCommand(driver, 32825);
+  driver.Do(R"({"op":"key","key":"Down"})");
+  PutMemo(QStringLiteral("a.pwi"), "a");
+  WaitForNotice(driver);
+  EXPECT_EQ(Memos(driver), QStringList({QStringLiteral("a.pwi"), QStringLiteral("b.pwi")}));
+  EXPECT_EQ(driver.Result(R"({"op":"list"})", u"list")[u"selected"], QJsonArray{1}) << "still b";
+  ASSERT_TRUE(QFile::rename(MemoFile(QStringLiteral("a.pwi")), MemoFile(QStringLiteral("c.pwi"))));
+  WaitForNotice(driver);
+  EXPECT_EQ(Memos(driver), QStringList({QStringLiteral("b.pwi"), QStringLiteral("c.pwi")}));
+  EXPECT_EQ(driver.Result(R"({"op":"list"})", u"list")[u"selected"], QJsonArray{0});
+  ASSERT_TRUE(QFile::remove(MemoFile(QStringLiteral("c.pwi"))));
+  WaitForNotice(driver);
+  EXPECT_EQ(Memos(driver), QStringList(QStringLiteral("b.pwi")));
 }
 
 TEST_F(MemoScript, AfterAMemoWasOpenTheListIsBuiltAnew) {
@@ -185,6 +205,32 @@ TEST_F(MemoScript, AMemoThatAnotherProgramChangesWhileItIsOpenIsSavedBesideTheOt
   EXPECT_EQ(Content(QStringLiteral("a.pwi")), "theirs");
   EXPECT_EQ(Memos(driver), QStringList({QStringLiteral("a.pwi"), QStringLiteral("a_Copy.pwi")}));
   EXPECT_TRUE(RecoveryFiles().isEmpty());
+}
+
+TEST_F(MemoScript, AMemoFileThatWasCutOffStaysAsItIs) {
+  const QString name = QStringLiteral("a.pwi");
+  PutMemo(name, {});
+  ReadyDriver driver(Arguments());
+  OpenFirstMemo(driver);
+  for (int i = 0; i < 3; ++i) Write(driver);
+  OK(driver);
+  const QByteArray cut = Content(name)->first(40);
+  PutMemo(name, cut);
+  OpenFirstMemo(driver);
+  Write(driver);
+  EXPECT_EQ(Strokes(driver), 0) << "on a page that is not shown";
+  RunCommand(driver, 32780);
+  RunCommand(driver, 32786);
+  Write(driver);
+  EXPECT_EQ(Strokes(driver), 1);
+  OK(driver);
+  EXPECT_EQ(Message(driver),
+            QStringLiteral(
+                "Not all of the memo can be read, so it stays. Please give this one a new name."));
+  Answer(driver, "OK");
+  OK(driver);
+  EXPECT_EQ(Content(name), cut);
+  EXPECT_TRUE(Content(QStringLiteral("a_Copy.pwi")).has_value());
 }
 
 TEST_F(MemoScript, ThePanelGoesDownWithANameEntryThatIsCancelled) {

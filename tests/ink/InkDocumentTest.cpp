@@ -22,6 +22,9 @@ QByteArray Newer() {
 
 QByteArray Damaged() { return test::SampleNoteBytes().chopped(20); }
 
+// Cut so near its beginning that nothing of its page is there.
+QByteArray Lost() { return test::SampleNoteBytes().first(20); }
+
 class InkDocumentTest : public test::InkPageFixture {};
 
 class InkDocumentBytes : public InkDocumentTest, public testing::WithParamInterface<QByteArray> {};
@@ -45,7 +48,7 @@ TEST_P(InkDocumentBytes, ComeBackWhenAllIsUndone) {
 
 INSTANTIATE_TEST_SUITE_P(Kinds, InkDocumentBytes,
                          testing::Values(QByteArray(), test::SampleNoteBytes(), Foreign(), Newer(),
-                                         Damaged()));
+                                         Damaged(), Lost()));
 
 TEST_F(InkDocumentTest, APageFromWhichAllWasDeletedIsNoBytes) {
   m_document.SetData(test::SampleNoteBytes());
@@ -115,6 +118,12 @@ TEST_F(InkDocumentTest, AForeignNoteShowsNothing) {
   EXPECT_TRUE(Note().IsEmpty());
 }
 
+TEST_F(InkDocumentTest, ADamagedNoteOfWhichNothingIsLeftIsLost) {
+  m_document.SetData(Lost());
+  EXPECT_EQ(m_document.Notice(), InkNotice::Lost);
+  EXPECT_TRUE(Note().IsEmpty());
+}
+
 TEST_F(InkDocumentTest, ANewerNoteShowsWhatIsUnderstood) {
   m_document.SetData(Newer());
   EXPECT_EQ(m_document.Notice(), InkNotice::Newer);
@@ -158,7 +167,7 @@ TEST_P(InkDocumentLocked, RefusesEveryEditButToClearAll) {
   EXPECT_EQ(m_document.Data(), GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, InkDocumentLocked, testing::Values(Foreign(), Newer()));
+INSTANTIATE_TEST_SUITE_P(Kinds, InkDocumentLocked, testing::Values(Lost(), Foreign(), Newer()));
 
 TEST_F(InkDocumentTest, AnEmptyPageIsAsWideAsItsWindow) {
   test::Told told(m_document);

@@ -180,12 +180,20 @@ TEST_F(InkXTest, AForeignNoteTakesNoInkNoTextAndNoPaste) {
   EXPECT_EQ(Ink().Data(), foreign);
 }
 
-TEST_F(InkXTest, AForeignNoteIsGreyAboveItsNotice) {
-  Ink().SetData("no ink at all");
+class UnreadableInk : public InkXTest, public testing::WithParamInterface<QByteArray> {};
+
+TEST_P(UnreadableInk, IsAGreyPageWithItsNoticeInTheMiddle) {
+  Ink().SetData(GetParam());
   const QImage shown = Shown();
-  EXPECT_EQ(shown.pixelColor(100, 150), QColor(0xD8, 0xD8, 0xD8));
-  EXPECT_NE(shown.pixelColor(2, 245), QColor(0xD8, 0xD8, 0xD8));
+  const QColor ground(0xD8, 0xD8, 0xD8);
+  EXPECT_EQ(shown.pixelColor(100, 150), ground);
+  EXPECT_EQ(shown.pixelColor(2, 245), ground);
+  EXPECT_NE(shown.pixelColor(2, 124), ground);
 }
+
+INSTANTIATE_TEST_SUITE_P(Bytes, UnreadableInk,
+                         testing::Values(QByteArray("no ink at all"),
+                                         QByteArray("\x89INKX\r\n\x1A")));
 
 TEST_F(InkXTest, ADamagedNoteSaysSoBelowWhatWasSaved) {
   Line({20, 130}, {120, 140});

@@ -77,7 +77,7 @@ TEST(ListLayout, ByNameTheColumnsAreNameAndSecondText) {
   const std::vector<PaintedItem> texts = TextsOf(LayOut(Page(3))[2]);
   ASSERT_EQ(texts.size(), 2U);
   EXPECT_EQ(texts[0].Text, QStringLiteral("N2"));
-  EXPECT_EQ(texts[0].Rectangle, QRect(5, 32, 75, 16));
+  EXPECT_EQ(texts[0].Rectangle, QRect(5, 32, 80, 16));
   EXPECT_EQ(texts[1].Text, QStringLiteral("T2"));
   EXPECT_EQ(texts[1].Rectangle, QRect(85, 32, 110, 16));
   for (const PaintedItem& text : texts) {
@@ -181,7 +181,7 @@ TEST(ListLayout, AnEmptyStoreShowsHowToAddPeople) {
     EXPECT_TRUE(rows[0].Rectangle.contains(texts[n].Rectangle)) << n;
   }
   EXPECT_EQ(rows[0].SpokenName, lines.join(u' '));
-  for (const char* way : {"New", "Import...", "quill import FILE.vcf"})
+  for (const char* way : {"New", "Import...", "drop vCard files"})
     EXPECT_TRUE(rows[0].SpokenName.contains(QLatin1String(way))) << way;
 }
 

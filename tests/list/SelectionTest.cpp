@@ -53,6 +53,33 @@ TEST(RowKey, IsTheContactsOidOrTheMemosPosition) {
   EXPECT_EQ(KeyOfRow(MemoPage(40, 20), 3), 23);
 }
 
+TEST(Selection, TheFirstSelectedRowIsTheUppermostOnThePage) {
+  ListState list = Page(5);
+  EXPECT_EQ(FirstSelectedRow(list), -1);
+  list.CurrentRow = 4;
+  EXPECT_EQ(FirstSelectedRow(list), 4);
+  list.SelectedKeys = {103, 101, 999, 102};
+  EXPECT_EQ(FirstSelectedRow(list), 1);
+}
+
+TEST(Selection, InThePlaceOfWhatWasDeletedTheRowThatStandsThereIsSelected) {
+  ListState list = Page(3);
+  SelectInPlace(list, 1);
+  EXPECT_EQ(list.SelectedKeys, Keys{101});
+  EXPECT_EQ(list.CurrentRow, 1);
+  SelectInPlace(list, 2);
+  EXPECT_EQ(list.SelectedKeys, Keys{101}) << "what is still selected stays so";
+  ClearSelectedKeys(list);
+  SelectInPlace(list, 7);
+  EXPECT_EQ(list.SelectedKeys, Keys{102});
+  ClearSelectedKeys(list);
+  SelectInPlace(list, -1);
+  EXPECT_EQ(list.SelectedKeys, Keys{});
+  ListState none = Page(0);
+  SelectInPlace(none, 0);
+  EXPECT_EQ(none.SelectedKeys, Keys{});
+}
+
 TEST(Selection, OneRowTakesThePlaceOfAllOthersAndIsTheCurrentOne) {
   ListState list = Page(14);
   list.SelectedKeys = {1, 2};

@@ -52,7 +52,19 @@ TEST_F(ContactCommandsTest, TheSelectedContactsAreDeletedAfterAnOK) {
   SelectRun(g_list, 0, 1);
   RunAndAnswer(ID_DELETE_ITEMS, Qt::Key_Return, m_selectedQuestion);
   EXPECT_EQ(ShownNames(), QStringList(QStringLiteral("Zed")));
-  EXPECT_TRUE(g_list.SelectedKeys.empty());
+}
+
+TEST_F(ContactCommandsTest, WhatTakesTheDeletedRowsPlaceIsSelected) {
+  SelectRun(g_list, 0, 1);
+  RunAndAnswer(ID_DELETE_ITEMS, Qt::Key_Return, m_selectedQuestion);
+  EXPECT_EQ(SingleSelectedRow(g_list), 0);
+  EXPECT_TRUE(List().Rows()[0].State.testFlag(PaintedStateFlag::Selected));
+}
+
+TEST_F(ContactCommandsTest, AfterTheLastRowTheOneBeforeItIsSelected) {
+  SelectRow(g_list, 2);
+  RunAndAnswer(ID_DELETE_ITEMS, Qt::Key_Return, m_selectedQuestion);
+  EXPECT_EQ(SingleSelectedRow(g_list), 1);
 }
 
 TEST_F(ContactCommandsTest, ACancelDeletesNothing) {

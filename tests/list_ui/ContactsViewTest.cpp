@@ -108,6 +108,27 @@ TEST_F(ContactsViewTest, EnterInTheSearchBoxSearches) {
   EXPECT_EQ(ShownNames(), QStringList{QStringLiteral("Lee")});
 }
 
+TEST_F(ContactsViewTest, DownLeadsFromTheSearchBoxToTheFirstRowThatWasFound) {
+  Open({QStringLiteral("Kim"), QStringLiteral("Lee")});
+  m_input.Tap(OnScreen(SearchEdit()));
+  m_input.Type(QStringLiteral("Le"));
+  m_input.Key(Qt::Key_Return);
+  m_input.Key(Qt::Key_Down);
+  EXPECT_TRUE(List().hasFocus());
+  EXPECT_EQ(SingleSelectedRow(g_list), 0);
+}
+
+TEST_F(ContactsViewTest, AnIndexButtonThatTakesTheSearchsPlaceEmptiesTheSearchBox) {
+  Open({QStringLiteral("Adams"), QStringLiteral("Hill")});
+  SearchEdit().setText(QStringLiteral("Hi"));
+  View().ChooseIndex(1);
+  EXPECT_EQ(SearchEdit().text(), QStringLiteral("Hi")) << "it was not searched for yet";
+  View().Search();
+  View().ChooseIndex(1);
+  EXPECT_EQ(SearchEdit().text(), QString());
+  EXPECT_EQ(ShownNames(), QStringList{QStringLiteral("Adams")});
+}
+
 TEST_F(ContactsViewTest, TheSearchButtonLeavesTheFocusInTheSearchBox) {
   Open();
   SearchEdit().setFocus();

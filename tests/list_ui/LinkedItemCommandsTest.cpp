@@ -73,11 +73,11 @@ TEST_F(LinkedItemCommandsTest, TheTimeIsThatOfTheCommand) {
 
 TEST_F(LinkedItemCommandsTest, AMemoOfThePopupIsOpenedByItsNumber) {
   for (const char* name : {"Kim_2.pwi", "Kim_1.pwi"})
-    ASSERT_TRUE(m_deviceHome.Files.WriteWhole(Path(QLatin1String(name)), name));
+    ASSERT_TRUE(m_deviceHome.Files.WriteWhole(Path(QLatin1String(name)), {}));
   g_linkedItems = FindLinkedItems(QStringLiteral("Kim"));
   Run(33202, {Write("other")});
   EXPECT_EQ(m_deviceHome.Files.ReadWhole(Path(QStringLiteral("Kim_2.pwi"))), "other");
-  EXPECT_EQ(m_deviceHome.Files.ReadWhole(Path(QStringLiteral("Kim_1.pwi"))), "Kim_1.pwi");
+  EXPECT_EQ(m_deviceHome.Files.ReadWhole(Path(QStringLiteral("Kim_1.pwi"))), QByteArray());
 }
 
 TEST_F(LinkedItemCommandsTest, AMemoThatIsGoneIsNotOpened) {

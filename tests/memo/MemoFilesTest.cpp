@@ -46,15 +46,15 @@ TEST_F(MemoFiles, WhereTheFolderCannotBeMadeNothingIsWritten) {
   EXPECT_FALSE(WriteMemo(m_memo, Path(u"E.pwi"_qs), "ink"));
 }
 
-TEST_F(MemoFiles, AMemoIsChangedOnceItHoldsOtherBytesOrIsGone) {
+TEST_F(MemoFiles, AMemoIsChangedOnceItHoldsOtherBytesAndRemovedOnceItIsGone) {
   const QString path = Path(u"A.pwi"_qs);
-  EXPECT_FALSE(IsMemoChanged(path, "ink"));
-  EXPECT_TRUE(IsMemoChanged(path, "other"));
+  EXPECT_EQ(FateOfMemo(path, "ink"), MemoFate::AsRead);
+  EXPECT_EQ(FateOfMemo(path, "other"), MemoFate::Changed);
   ASSERT_TRUE(m_files.WriteWhole(path, {}));
-  EXPECT_TRUE(IsMemoChanged(path, "ink"));
-  EXPECT_FALSE(IsMemoChanged(path, {}));
+  EXPECT_EQ(FateOfMemo(path, "ink"), MemoFate::Changed);
+  EXPECT_EQ(FateOfMemo(path, {}), MemoFate::AsRead);
   ASSERT_TRUE(m_files.Remove(path));
-  EXPECT_TRUE(IsMemoChanged(path, {}));
+  EXPECT_EQ(FateOfMemo(path, {}), MemoFate::Removed);
 }
 
 TEST_F(MemoFiles, ADeletedMemoIsGone) {

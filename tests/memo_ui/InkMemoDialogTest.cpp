@@ -4,7 +4,7 @@
 #include <QApplication>
 
 #include "ink/InkRecovery.h"
-#include "memo_ui/MemoFixture.h"
+#include "memo_ui/InkMemoFixture.h"
 
 namespace quill {
 namespace {
@@ -12,42 +12,9 @@ namespace {
 using test::kNote;
 using test::kOther;
 
-class InkMemoDialogTest : public test::MemoFixture {
- protected:
-  // Runs the editor and the steps in it.
-  int Run(InkMemoKind kind, const QString& path, std::vector<test::Step> steps) {
-    CInkMemoDialog dialog(*m_screen, path, kind);
-    const test::Steps running(*m_screen, std::move(steps));
-    return dialog.DoModal();
-  }
-  int Edit(std::vector<test::Step> steps) {
-    g_memo.Buffer = kNote;
-    Put(Path(u"a.pwi"), kNote);
-    return Run(InkMemoKind::Existing, Path(u"a.pwi"), std::move(steps));
-  }
-  int WriteNew(std::vector<test::Step> steps) {
-    return Run(InkMemoKind::New, Path(u"new.pwi"), std::move(steps));
-  }
-  test::Step Write(const QByteArray& bytes) {
-    return [this, bytes] { Ink().SetData(bytes); };
-  }
-  test::Step OK() {
-    return [this] { m_screen->Topmost()->OnOK(); };
-  }
-  test::Step Cancel() {
-    return [this] { m_screen->Topmost()->OnCancel(); };
-  }
-  test::Step Name(const QString& name) {
-    return [this, name] { EnterName(name); };
-  }
-  test::Step Delete() {
-    return [this] { Editor().RunCommand(ID_INK_DELETE_NOTE); };
-  }
-};
+using InkMemoDialogTest = test::InkMemoFixture;
 
 const QString kQuestion = QStringLiteral("This memo will be deleted. Continue?");
-const QString kMeanwhile =
-    QStringLiteral("The memo was changed meanwhile. Please give this one a new name.");
 const QString kBadName = QStringLiteral("Please check the file name is valid.");
 
 TEST_F(InkMemoDialogTest, IsAFullScreenDialogWithTheMenusAndButtonsOfInk) {
@@ -145,36 +112,6 @@ TEST_F(InkMemoDialogTest, AnExistingMemoThatCannotBeWrittenStaysOpenWithItsInk) 
                   },
                   Cancel()}),
             kResultCancel);
-}
-
-TEST_F(InkMemoDialogTest, AMemoThatOthersChangedMeanwhileIsSavedBesideTheirs) {
-  m_prompt.Expect(PromptAnswer::OK);
-  EXPECT_EQ(Edit({Write(kOther), [&] { Put(Path(u"a.pwi"), "theirs"); }, OK(),
-                  [&] {
-                    EXPECT_EQ(m_prompt.Shown()[0].Text, kMeanwhile);
-                    EXPECT_EQ(m_screen->Topmost()->Caption(), QStringLiteral("Save As"));
-                    EnterName(Path(u"b.pwi"));
-                  }}),
-            kResultOK);
-  EXPECT_EQ(m_proposed, Path(u"a_Copy.pwi"));
-  EXPECT_EQ(Content(Path(u"a.pwi")), "theirs");
-  EXPECT_EQ(Content(Path(u"b.pwi")), kOther);
-}
-
-TEST_F(InkMemoDialogTest, AMemoThatOthersRemovedMeanwhileIsGivenANameAnew) {
-  m_prompt.Expect(PromptAnswer::OK);
-  EXPECT_EQ(Edit({Write(kOther), [&] { ASSERT_TRUE(m_home.Files.Remove(Path(u"a.pwi"))); }, OK(),
-                  Name(Path(u"a.pwi"))}),
-            kResultOK);
-  EXPECT_EQ(Content(Path(u"a.pwi")), kOther);
-}
-
-TEST_F(InkMemoDialogTest, AMemoThatWasChangedMeanwhileAndIsGivenNoNameStaysOpen) {
-  m_prompt.Expect(PromptAnswer::OK);
-  EXPECT_EQ(Edit({Write(kOther), [&] { Put(Path(u"a.pwi"), "theirs"); }, OK(), Cancel(),
-                  [&] { EXPECT_EQ(Ink().Data(), kOther); }, Cancel()}),
-            kResultCancel);
-  EXPECT_EQ(Content(Path(u"a.pwi")), "theirs");
 }
 
 TEST_F(InkMemoDialogTest, ANewMemoIsWrittenUnderTheNameThatIsEntered) {

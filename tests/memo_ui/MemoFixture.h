@@ -3,6 +3,7 @@
 
 #include <QLineEdit>
 
+#include "ink/InkFormat.h"
 #include "ink/ui/InkX.h"
 #include "memo/MemoFolder.h"
 #include "memo/ui/InkMemoDialog.h"
@@ -15,8 +16,11 @@
 
 namespace quill::test {
 
-inline const QByteArray kNote = "a note of another make";
-inline const QByteArray kOther = "another one";
+inline QByteArray TypedNote(const QString& text) {
+  return WriteInk({.Text = {.Text = text, .Runs = {{static_cast<int>(text.size())}}}});
+}
+inline const QByteArray kNote = TypedNote(u"a note"_qs);
+inline const QByteArray kOther = TypedNote(u"another one"_qs);
 
 class MemoFixture : public ScreenFixture {
  protected:

@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <QTimer>
 
+#include "app/MemoWatch.h"
 #include "app/RequestBus.h"
 #include "app/RequestChannel.h"
 #include "app/SampleSounds.h"
@@ -17,6 +18,9 @@
 #include "app/ui/ShellInfrared.h"
 #include "ink/ui/InkAccessibility.h"
 #include "list/ui/ContactsView.h"
+#include "list/ui/MemoFollower.h"
+#include "memo/MemoState.h"
+#include "platform/DesktopDeviceFiles.h"
 #include "platform/Services.h"
 #include "platform/ui/Accessibility.h"
 #include "platform/ui/InputCommit.h"
@@ -68,6 +72,8 @@ CContactsApp::~CContactsApp() {
   m_bus.reset();
   m_channel.reset();
   m_infrared.reset();
+  m_memoWatch.reset();
+  m_memoFollower.reset();
   m_frame.reset();
   m_outer.reset();
   g_services.Prompt = nullptr;
@@ -102,6 +108,7 @@ void CContactsApp::InitInstance() {
   if (m_screen->IsClosing()) return;
   RestoreFocus();
   m_frame->WatchStore();
+  FollowMemos();
   QTimer::singleShot(0, m_frame.get(), [this] {
     // A refusal is logged there, and in the exit code.
     m_program.HandleFirstRequest([this](const Request& asked) { return HandleRequest(asked); });
@@ -136,6 +143,13 @@ void CContactsApp::AcceptDrops() {
 // As of a change that others made.
 void CContactsApp::FollowInfrared() {
   m_infrared->ContactsReceived = [this] { m_frame->PostStoreMessage(kMessageItemWritten, 0, 0); };
+}
+
+void CContactsApp::FollowMemos() {
+  const DesktopDeviceFiles files(DeviceRootsOf(m_program.Where()));
+  m_memoFollower = std::make_unique<MemoFollower>(m_frame->View());
+  m_memoWatch = std::make_unique<MemoWatch>(files.FileAt(g_memo.Folder),
+                                            [this] { m_memoFollower->OnMemosChanged(); });
 }
 
 void CContactsApp::ShowMainWindow() {

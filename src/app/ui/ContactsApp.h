@@ -16,6 +16,8 @@ class CContactsDoc;
 class CMainFrame;
 class COuterWindow;
 class FileExchange;
+class MemoFollower;
+class MemoWatch;
 class CScreen;
 class RequestBus;
 class RequestChannel;
@@ -77,6 +79,7 @@ class CContactsApp {
   void Leave(const ShellEnd& end);
   void AcceptDrops();
   void FollowInfrared();
+  void FollowMemos();
   void TakeLater(const QStringList& files);
   void Listen();
   bool HandleRequest(const Request& request);
@@ -95,6 +98,8 @@ class CContactsApp {
   std::unique_ptr<ShellCommands> m_commands;
   std::unique_ptr<CContactsDoc> m_document;
   std::unique_ptr<CMainFrame> m_frame;
+  std::unique_ptr<MemoFollower> m_memoFollower;
+  std::unique_ptr<MemoWatch> m_memoWatch;
   std::unique_ptr<RequestChannel> m_channel;
   std::unique_ptr<RequestBus> m_bus;
 };

@@ -56,6 +56,8 @@ QString InkNoticeText(InkNotice notice) {
   switch (notice) {
     case InkNotice::Damaged:
       return QStringLiteral("Part of this note was damaged");
+    case InkNotice::Lost:
+      return QStringLiteral("This note is damaged; it is kept as it is");
     case InkNotice::Foreign:
       return QStringLiteral("This is no note; it is kept as it is");
     case InkNotice::Newer:
@@ -71,9 +73,11 @@ QString InkNoticeText(InkNotice notice) {
 void PaintInkNotice(QPainter& painter, InkNotice notice, const QRect& window) {
   const QString text = InkNoticeText(notice);
   if (text.isEmpty()) return;
-  if (notice == InkNotice::Foreign) painter.fillRect(window, QColor::fromRgb(kUnreadableGround));
-  const QRect line(window.left(), window.bottom() + 1 - kNoticeHeight, window.width(),
-                   kNoticeHeight);
+  QRect line(window.left(), window.bottom() + 1 - kNoticeHeight, window.width(), kNoticeHeight);
+  if (notice == InkNotice::Lost || notice == InkNotice::Foreign) {
+    painter.fillRect(window, QColor::fromRgb(kUnreadableGround));
+    line.moveTop(window.center().y() - kNoticeHeight / 2);  // in place of the page
+  }
   painter.fillRect(line, QColor::fromRgb(kNoticeGround));
   DrawRow(painter,
           {.Rectangle = line, .Items = {{.Rectangle = line.adjusted(4, 0, -4, 0), .Text = text}}});

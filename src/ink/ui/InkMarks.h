@@ -15,8 +15,8 @@ void PaintInkLasso(QPainter& painter, const QPolygonF& path, const InkView& view
 
 // Empty when nothing is to be said.
 QString InkNoticeText(InkNotice notice);
-// Along the bottom of the window, from where scrolling brings what is below it. A note that is not
-// shown is a grey page.
+// Along the bottom of the window, from where scrolling brings what is below it. A note that cannot
+// be shown is a grey page with the notice in its middle.
 void PaintInkNotice(QPainter& painter, InkNotice notice, const QRect& window);
 
 }  // namespace quill

@@ -2,6 +2,7 @@
 
 #include "list/Beaming.h"
 #include "list/ContactChanges.h"
+#include "list/Selection.h"
 #include "list/ui/ContactsView.h"
 #include "list/ui/MemoCommands.h"
 #include "list/ui/RecordOpening.h"
@@ -23,8 +24,9 @@ bool Confirm(CContactsView& view, DeleteScope scope) {
 void DeleteSelected(CContactsView& view) {
   if (IsByMemo()) return DeleteSelectedMemos(view);
   if (!IsCurrentRowInList(g_list) || !Confirm(view, DeleteScope::Selected)) return;
+  const int row = FirstSelectedRow(g_list);
   DeleteSelectedContacts(g_list);
-  view.Rebuild();
+  view.RebuildInPlace(row);
 }
 
 void DeleteListed(CContactsView& view) {

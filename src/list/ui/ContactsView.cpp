@@ -1,6 +1,7 @@
 #include "list/ui/ContactsView.h"
 
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
@@ -177,6 +178,12 @@ void CContactsView::Rebuild() {
   ShowPage();
 }
 
+void CContactsView::RebuildInPlace(int row) {
+  BuildPage(g_list);
+  SelectInPlace(g_list, row);
+  ShowPage();
+}
+
 // A page that is filled from two states of the store would show a contact twice.
 void CContactsView::BringUpToDate() {
   if (g_list.RebuildDue && g_list.Mode != ViewMode::ByMemo) Rebuild();
@@ -199,8 +206,9 @@ void CContactsView::ShowMode(ViewMode mode) {
 }
 
 void CContactsView::ChooseIndex(int button) {
+  const bool tookSearch = g_list.SubFilter == FilterSubKind::SearchText;
   ChooseIndexButton(g_list, button);
-  Rebuild();
+  tookSearch ? ShowFiltered() : Rebuild();
 }
 
 void CContactsView::Relayout() {
@@ -293,6 +301,14 @@ void CContactsView::ShowPage() {
   m_scrollBar->setRange(0, LargestTop(g_list));
   m_scrollBar->setPageStep(g_list.RowsPerPage);
   m_scrollBar->setValue(g_list.Top);
+}
+
+// From the search box on to what was found.
+void CContactsView::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Down || !m_searchEdit->hasFocus())
+    return QWidget::keyPressEvent(event);
+  FocusList();
+  MoveRow(KeyMove::LineDown);
 }
 
 void CContactsView::paintEvent(QPaintEvent* event) {

@@ -51,6 +51,9 @@ class CContactsView : public QWidget, public TimerTarget {
 
   // Fills the page again with the filter in force.
   void Rebuild();
+  // The same after what was selected from this row of the page on has been deleted: what stands
+  // there now is selected, or the last row.
+  void RebuildInPlace(int row);
   // The same after a filter took the place of the search: the search box is empty then.
   void ShowFiltered();
   void Search();
@@ -68,6 +71,7 @@ class CContactsView : public QWidget, public TimerTarget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void MakeControls();

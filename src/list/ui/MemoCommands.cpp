@@ -27,7 +27,7 @@ void DeleteMemoAtRow(CContactsView& view) {
   const auto name = CurrentMemo();
   if (!name || !ConfirmMemoDeletion()) return;
   DeleteMemo(g_memo, *name);
-  view.Rebuild();
+  view.RebuildInPlace(g_list.CurrentRow);
 }
 
 // Asks for a path and gives it to the action, together with the memo's own.
@@ -66,7 +66,7 @@ void DeleteSelectedMemos(CContactsView& view) {
   if (!CurrentMemo() || !ConfirmMemoDeletion()) return;
   DeleteMemos(g_memo, CurrentPosition(), static_cast<qsizetype>(g_list.SelectedKeys.size()));
   ClearSelectedKeys(g_list);
-  view.Rebuild();
+  view.RebuildInPlace(g_list.CurrentRow);
 }
 
 void DeleteListedMemos(CContactsView& view) {

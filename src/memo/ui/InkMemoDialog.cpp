@@ -2,6 +2,7 @@
 
 #include <QResizeEvent>
 
+#include "ink/InkFormat.h"
 #include "ink/ui/InkEditing.h"
 #include "ink/ui/InkKeeping.h"
 #include "ink/ui/InkX.h"
@@ -20,6 +21,18 @@ namespace {
 // Below the control when it is made. Once the window is resized the control takes all of it:
 // intended.
 constexpr int kRoomBelow = 25;
+
+// What was only looked at is written as it was.
+bool WouldLoseInk(const QByteArray& opened, const QByteArray& written) {
+  const InkReading reading = ReadInk(opened).Reading;
+  return opened != written && reading != InkReading::Whole && reading != InkReading::Empty;
+}
+
+bool MayReplace(const QString& path) {
+  if (!g_services.Files->Exists(path)) return true;
+  return ConfirmDeletion(
+      QStringLiteral("%1 is there already. Replace it?").arg(path.section(u'\\', -1)));
+}
 
 }  // namespace
 
@@ -89,15 +102,24 @@ void CInkMemoDialog::SaveNew() {
 
 void CInkMemoDialog::SaveExisting() {
   if (m_path.isEmpty()) return Decide(kResultOK);
-  IsMemoChanged(m_path, m_opened) ? SaveBeside() : Save(m_path);
+  const MemoFate fate = FateOfMemo(m_path, m_opened);
+  if (fate == MemoFate::Removed)
+    return SaveBeside(u"The memo was deleted meanwhile. Please give this one a name."_qs, m_path);
+  if (fate == MemoFate::Changed)
+    return SaveBeside(u"The memo was changed meanwhile. Please give this one a new name."_qs,
+                      FreeMemoCopyPath(m_path));
+  if (WouldLoseInk(m_opened, g_memo.Buffer))
+    return SaveBeside(
+        u"Not all of the memo can be read, so it stays. Please give this one a new name."_qs,
+        FreeMemoCopyPath(m_path));
+  Save(m_path);
 }
 
 // Without a name the editor stays open: only the user's own Cancel gives up what is on the page.
-void CInkMemoDialog::SaveBeside() {
-  g_services.Prompt->Show(
-      {.Text = QStringLiteral("The memo was changed meanwhile. Please give this one a new name.")});
-  const auto path = AskForName(Screen(), NameEntryMode::Save, FreeMemoCopyPath(m_path));
-  if (path) Save(*path);
+void CInkMemoDialog::SaveBeside(const QString& why, const QString& proposed) {
+  g_services.Prompt->Show({.Text = why});
+  const auto path = AskForName(Screen(), NameEntryMode::Save, proposed);
+  if (path && MayReplace(*path)) Save(*path);
 }
 
 void CInkMemoDialog::Save(const QString& path) {

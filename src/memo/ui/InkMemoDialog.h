@@ -27,11 +27,11 @@ class CInkMemoDialog : public CModalWindow {
   MenuBarModel MenuBar() const override;
   CommandRoute Route() const override;
   // Writes the file and ends with OK; of a new memo the user names the file first, and of one that
-  // others changed or removed while it was open, so that both versions stay. A new memo with
-  // nothing on its page, and one that is given no name, end with Cancel and make no file; what was
-  // given no name is offered to the next new memo, and what was open when the program ended is
-  // offered again too. Where the file cannot be written the user is
-  // told, and the editor stays open.
+  // others changed or removed while it was open or that could not be read as a whole, so that what
+  // lies in the file stays. A new memo with nothing on its page, and one that is given no name, end
+  // with Cancel and make no file; what was given no name is offered to the next new memo, and what
+  // was open when the program ended is offered again too. Where the file cannot be written the user
+  // is told, and the editor stays open.
   void OnOK() override;
   void OnCancel() override;
   void OnVisibleAreaChanged(QRect area) override { setGeometry(area); }
@@ -44,7 +44,7 @@ class CInkMemoDialog : public CModalWindow {
  private:
   void SaveNew();
   void SaveExisting();
-  void SaveBeside();
+  void SaveBeside(const QString& why, const QString& proposed);
   void Save(const QString& path);
   void DeleteNote();
   void Decide(int result);
