@@ -46,7 +46,7 @@ bool IsCurrentRowInList(const ListState& list) {
   return list.CurrentRow >= 0 && list.Top + list.CurrentRow < list.Total;
 }
 
-void DeleteSelectedContacts(const ListState& list) { DeleteEach(list.SelectedKeys); }
+void DeleteSelectedContacts(const std::vector<int>& selected) { DeleteEach(selected); }
 
 void CopySelectedContacts(const ListState& list) { ChangeEach(list.SelectedKeys, CopyContact); }
 

@@ -10,8 +10,8 @@ namespace quill {
 // nothing.
 bool IsCurrentRowInList(const ListState& list);
 
-// In the order of the selection.
-void DeleteSelectedContacts(const ListState& list);
+// By their Oids, in their order: those that were selected when the user was asked.
+void DeleteSelectedContacts(const std::vector<int>& selected);
 // Each copy is a new contact with what an edit writes, the ink notes included; so two rows look the
 // same then.
 void CopySelectedContacts(const ListState& list);

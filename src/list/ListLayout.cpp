@@ -1,7 +1,7 @@
 #include "list/ListLayout.h"
 
 #include <algorithm>
-#include <array>
+#include <span>
 
 #include "list/RowIcons.h"
 #include "list/Selection.h"
@@ -25,11 +25,17 @@ constexpr Rgb kIconColor = 0x2F5568;
 
 constexpr QStringView kNoCompany = u"<None>";
 constexpr QStringView kNoName = u"(no name)";  // spoken only
-constexpr std::array<QStringView, 3> kEmptyHint{
+
+// What stands in a list without items. A line has the width of the list.
+using HintLines = std::span<const QStringView>;
+constexpr QStringView kNoContactsHint[] = {
     u"Add people: \"New\"",
     u"or hold the title bar: \"Import...\"",
     u"or drop vCard files here",
 };
+constexpr QStringView kNobodyFoundHint[] = {u"No contacts found"};
+constexpr QStringView kNoMemosHint[] = {u"Write a memo: \"New\""};
+constexpr QStringView kNoMemoFoundHint[] = {u"No memos found"};
 
 QRect RowRectangle(int row) { return {0, row * kListRowHeight, kListWidth, kListRowHeight}; }
 
@@ -105,14 +111,20 @@ PaintedRow LayOutEnd(int row) {
       .Rectangle = RowRectangle(row), .Role = PaintedRole::Separator, .Items = {Separator(row)}};
 }
 
-PaintedRow LayOutHint() {
-  const int count = static_cast<int>(kEmptyHint.size());
+HintLines Hint(const ListState& list) {
+  if (list.Mode == ViewMode::ByMemo)
+    return list.Filter == FilterKind::Range ? HintLines(kNoMemoFoundHint) : kNoMemosHint;
+  return list.Restriction.isEmpty() ? HintLines(kNoContactsHint) : kNobodyFoundHint;
+}
+
+PaintedRow LayOutHint(HintLines texts) {
+  const int count = static_cast<int>(texts.size());
   PaintedRow hint{.Rectangle = {0, 0, kListWidth, count * kListRowHeight},
                   .Role = PaintedRole::Text,
                   .Items = {Separator(0)}};
   QStringList lines;
   for (int n = 0; n < count; ++n) {
-    lines.append(kEmptyHint[static_cast<std::size_t>(n)].toString());
+    lines.append(texts[static_cast<std::size_t>(n)].toString());
     hint.Items.push_back({.Rectangle = ColumnRectangle(n, kFirstColumn, kWholeColumnWidth),
                           .Text = lines.last(),
                           .Color = kListHintColor});
@@ -121,17 +133,13 @@ PaintedRow LayOutHint() {
   return hint;
 }
 
-bool IsEmptyStore(const ListState& list) {
-  return list.Mode != ViewMode::ByMemo && list.Restriction.isEmpty() && list.Total == 0;
-}
-
 }  // namespace
 
 int ListRowAt(int y) { return y < 0 ? -1 : y / kListRowHeight; }
 
 std::vector<PaintedRow> LayOutList(const ListState& list, const QStringList& memoNames,
                                    const TextWidth& width) {
-  if (IsEmptyStore(list)) return {LayOutHint()};
+  if (list.Total == 0) return {LayOutHint(Hint(list))};
   std::vector<PaintedRow> rows;
   const int count = std::min(SelectableRows(list), list.RowsPerPage);
   rows.reserve(static_cast<std::size_t>(list.RowsPerPage));

@@ -44,7 +44,7 @@ TEST_F(ContactChanges, TheSelectedContactsAreDeleted) {
   AddNumbered(5);
   Build();
   SelectRun(m_list, 1, 3);
-  DeleteSelectedContacts(m_list);
+  DeleteSelectedContacts(m_list.SelectedKeys);
   EXPECT_EQ(AllNames(), NameList({u"001", u"005"}));
 }
 
@@ -53,7 +53,7 @@ TEST_F(ContactChanges, ASelectedContactThatIsGoneDoesNotKeepTheOthers) {
   Build();
   SelectRun(m_list, 0, 1);
   ASSERT_TRUE(DeleteContact(m_list.SelectedKeys[0]));
-  DeleteSelectedContacts(m_list);
+  DeleteSelectedContacts(m_list.SelectedKeys);
   EXPECT_EQ(AllNames(), NameList({u"003"}));
 }
 
@@ -170,7 +170,7 @@ TEST_F(ContactChanges, WithoutAnOpenSessionNothingHappens) {
   Build();
   SelectRow(m_list, 0);
   CloseSession();
-  DeleteSelectedContacts(m_list);
+  DeleteSelectedContacts(m_list.SelectedKeys);
   CopySelectedContacts(m_list);
   DeleteListedContacts(m_list);
   ASSERT_EQ(OpenSession(m_store), StartupCode::Opened);

@@ -67,6 +67,18 @@ TEST_F(ContactCommandsTest, AfterTheLastRowTheOneBeforeItIsSelected) {
   EXPECT_EQ(SingleSelectedRow(g_list), 1);
 }
 
+TEST_F(ContactCommandsTest, WhatWasSelectedIsDeletedAlsoWhenItHasLeftThePageMeanwhile) {
+  SelectRun(g_list, 1, 2);
+  test::Steps steps(*m_screen, {[this] {
+    for (int i = 0; i < 20; ++i) Add(QStringLiteral("Abel %1").arg(i));
+    View().Rebuild();
+    ASSERT_TRUE(g_list.SelectedKeys.empty());
+    m_input.Key(Qt::Key_Return);
+  }});
+  EXPECT_EQ(m_frame->RunCommand(ID_DELETE_ITEMS), CommandResult::Done);
+  EXPECT_EQ(g_list.Total, 21);
+}
+
 TEST_F(ContactCommandsTest, ACancelDeletesNothing) {
   SelectRun(g_list, 0, 1);
   RunAndAnswer(ID_DELETE_ITEMS, Qt::Key_Escape, m_selectedQuestion);

@@ -23,9 +23,11 @@ bool Confirm(CContactsView& view, DeleteScope scope) {
 
 void DeleteSelected(CContactsView& view) {
   if (IsByMemo()) return DeleteSelectedMemos(view);
+  // What is asked about goes, also when other programs push it off the page meanwhile.
+  const std::vector<int> selected = g_list.SelectedKeys;
   if (!IsCurrentRowInList(g_list) || !Confirm(view, DeleteScope::Selected)) return;
   const int row = FirstSelectedRow(g_list);
-  DeleteSelectedContacts(g_list);
+  DeleteSelectedContacts(selected);
   view.RebuildInPlace(row);
 }
 
