@@ -3,6 +3,7 @@
 
 #include "driver/AppointmentJson.h"
 #include "driver/Arguments.h"
+#include "driver/DropOperation.h"
 #include "driver/Operations.h"
 #include "driver/StoreNotice.h"
 
@@ -63,15 +64,6 @@ Answer PutAppointment(const QJsonObject& arguments, CalendarFolder& folder,
   return Result(u"oid", written);
 }
 
-Answer DropAppointment(const QJsonObject& arguments, CalendarFolder& folder,
-                       OperationContext& context) {
-  const std::optional<int> oid = WholeNumber(arguments, u"oid");
-  if (!oid) return Refusal(kMalformed);
-  if (!folder.Remove(*oid)) return Refusal(kUnknown);
-  NotifyUnlessQuiet(arguments, context);
-  return Done();
-}
-
 }  // namespace
 
 OperationTable AppointmentOperations() {
@@ -79,7 +71,7 @@ OperationTable AppointmentOperations() {
       {u"appointments", OnFolder(Appointments)},
       {u"appointment", OnFolder(Appointment)},
       {u"put-appointment", OnFolder(PutAppointment)},
-      {u"drop-appointment", OnFolder(DropAppointment)},
+      {u"drop-appointment", OnFolder(DropItem<CalendarFolder>)},
   };
 }
 

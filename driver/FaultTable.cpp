@@ -28,6 +28,8 @@ constexpr std::array<QStringView, 16> kNames = {
 
 }  // namespace
 
+std::span<const QStringView> FaultTable::Names() { return kNames; }
+
 bool FaultTable::IsKnown(QStringView name) {
   return std::find(kNames.begin(), kNames.end(), name) != kNames.end();
 }

@@ -5,6 +5,7 @@
 
 #include <map>
 #include <optional>
+#include <span>
 
 #include "store/ContactRecord.h"
 
@@ -19,6 +20,7 @@ struct Fault {
 
 class FaultTable {
  public:
+  static std::span<const QStringView> Names();
   static bool IsKnown(QStringView name);
 
   void Switch(const QString& name, const std::optional<Fault>& fault);

@@ -31,10 +31,14 @@ struct Options {
 
 struct ParsedOptions {
   driver::Options Options;
-  QString Problem;  // empty: none
+  QString Problem;        // empty: none
+  bool AsksHelp = false;  // all behind it is left unread
 };
 
 // arguments: without the program's own name.
 ParsedOptions ParseOptions(const QStringList& arguments);
+
+// What --help prints, lines ended by line feeds.
+QString OptionsHelp();
 
 }  // namespace quill::driver

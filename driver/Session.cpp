@@ -30,6 +30,11 @@ int Fail(const QString& problem) {
   return 2;
 }
 
+int PrintHelp() {
+  std::fputs(qUtf8Printable(OptionsHelp()), stdout);
+  return 0;
+}
+
 QStringList ArgumentsOf(int argc, char** argv) {
   QStringList arguments;
   for (int i = 1; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
@@ -39,7 +44,8 @@ QStringList ArgumentsOf(int argc, char** argv) {
 }  // namespace
 
 int RunSession(const OperationTable& operations, int& argc, char** argv) {
-  const auto [options, problem] = ParseOptions(ArgumentsOf(argc, argv));
+  const auto [options, problem, asksHelp] = ParseOptions(ArgumentsOf(argc, argv));
+  if (asksHelp) return PrintHelp();
   if (!problem.isEmpty()) return Fail(QStringLiteral("wrong option: ") + problem);
   const QTemporaryDir fresh;
   const Places places = HomePlaces(options.Home.isEmpty() ? fresh.path() : options.Home,

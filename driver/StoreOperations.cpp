@@ -5,6 +5,7 @@
 
 #include "driver/Arguments.h"
 #include "driver/ContactJson.h"
+#include "driver/DropOperation.h"
 #include "driver/Operations.h"
 #include "driver/RawDates.h"
 #include "driver/StoreNotice.h"
@@ -67,15 +68,6 @@ Answer Put(const QJsonObject& arguments, ContactsFolder& folder, OperationContex
   return Result(u"oid", written);
 }
 
-Answer DropContact(const QJsonObject& arguments, ContactsFolder& folder,
-                   OperationContext& context) {
-  const std::optional<int> oid = WholeNumber(arguments, u"oid");
-  if (!oid) return Refusal(kMalformed);
-  if (!folder.Remove(*oid)) return Refusal(kUnknown);
-  NotifyUnlessQuiet(arguments, context);
-  return Done();
-}
-
 std::optional<QStringList> NamesIn(const QJsonValue& value) {
   const QJsonArray array = value.toArray();
   const bool isTexts =
@@ -104,7 +96,7 @@ Answer Categories(const QJsonObject& arguments, OperationContext& context) {
 OperationTable StoreOperations() {
   return {
       {u"contacts", OnFolder(Contacts)}, {u"contact", OnFolder(Contact)},
-      {u"put", OnFolder(Put)},           {u"drop-contact", OnFolder(DropContact)},
+      {u"put", OnFolder(Put)},           {u"drop-contact", OnFolder(DropItem<ContactsFolder>)},
       {u"categories", Categories},
   };
 }

@@ -62,6 +62,7 @@ class FileImport {
     const QString title = isInput ? QStringLiteral("standard input") : name;
     ImportSummary summary = Import(title, file);
     if (summary.End == ImportEnd::DeviceFailed) summary.Reason = file.errorString();
+    TellGuess(title, summary);
     m_isStopped = summary.End == ImportEnd::Stopped;
     m_exitCode = std::max(m_exitCode, ReportImport(title, summary, m_console));
     Sum(summary);
@@ -75,6 +76,13 @@ class FileImport {
       return !m_task.Continue || m_task.Continue(title, progress);
     };
     return ImportCards(file, m_store, options);
+  }
+
+  void TellGuess(const QString& title, const ImportSummary& summary) {
+    if (!summary.IsGuessed || m_task.Charset == CharsetOrigin::Chosen) return;
+    Complain(m_console,
+             QStringLiteral("%1: does not say how its letters are written; read as %2 (--charset)")
+                 .arg(title, QString::fromLatin1(m_task.Options.FallbackCharset)));
   }
 
   void Fail(int exitCode, const QString& name, const QString& reason) {

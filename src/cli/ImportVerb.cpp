@@ -34,6 +34,7 @@ int RunImport(const VerbCall& call, const Console& console) {
   ImportTask task{.Where = call.Where, .Arguments = call.Arguments, .Options = {}};
   task.Options.Duplicates = DuplicatesOf(call);
   task.Options.FallbackCharset = CharsetOf(call);
+  if (!IsGiven(call, kCharsetOption)) task.Charset = CharsetOrigin::Guessed;
   if (!IsKnownCharset(task.Options.FallbackCharset))
     return Fail(console,
                 QStringLiteral("there is no character set %1").arg(ValueOf(call, kCharsetOption)));

@@ -81,13 +81,18 @@ bool IsKnownCharset(const QByteArray& name) {
   return decoder.isValid() && QString(decoder(kAscii)) == QLatin1String(kAscii);
 }
 
-QString DecodeText(QByteArrayView bytes, const QByteArray& declared, const QByteArray& fallback) {
+std::optional<QString> DecodeCertain(QByteArrayView bytes, const QByteArray& declared) {
   if (!declared.isEmpty()) {
     QStringDecoder decoder(DecoderName(declared).constData(), kWholeText);
-    if (decoder.isValid()) return decoder(bytes);
+    if (decoder.isValid()) return QString(decoder(bytes));
   }
   if (IsAscii(bytes)) return QString::fromLatin1(bytes);
   if (bytes.isValidUtf8()) return QString::fromUtf8(bytes);
+  return std::nullopt;
+}
+
+QString DecodeText(QByteArrayView bytes, const QByteArray& declared, const QByteArray& fallback) {
+  if (auto text = DecodeCertain(bytes, declared)) return *std::move(text);
   QStringDecoder decoder(DecoderName(fallback).constData(), kWholeText);
   return decoder.isValid() ? QString(decoder(bytes)) : QString::fromLatin1(bytes);
 }

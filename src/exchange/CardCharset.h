@@ -6,6 +6,8 @@
 #include <QLocale>
 #include <QString>
 
+#include <optional>
+
 namespace quill {
 
 // What is known of a file's bytes before a card says more.
@@ -21,8 +23,12 @@ QByteArray FallbackCharset(const QLocale& locale);
 // the lines of a card are written; UTF-16 shows by itself.
 bool IsKnownCharset(const QByteArray& name);
 
-// The declared character set when it is one we know, else UTF-8 when the bytes are valid, else the
-// fallback. Never fails: what cannot be decoded becomes U+FFFD.
+// In the declared character set when it is one we know, else in UTF-8; nothing when the bytes are
+// no UTF-8, and so nothing says how to read them. What the declared set does not have becomes
+// U+FFFD.
+std::optional<QString> DecodeCertain(QByteArrayView bytes, const QByteArray& declared);
+
+// The same, else in the fallback. Never fails: what cannot be decoded becomes U+FFFD.
 QString DecodeText(QByteArrayView bytes, const QByteArray& declared, const QByteArray& fallback);
 
 }  // namespace quill

@@ -1,5 +1,7 @@
 #include "exchange/CardImport.h"
 
+#include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "exchange/CardCategories.h"
@@ -83,6 +85,8 @@ class CardImport {
 
   void Take(const Card& card) {
     if (card.Fault != CardFault::None) return Report(card, card.Fault);
+    m_summary.IsGuessed |= std::any_of(card.Properties.begin(), card.Properties.end(),
+                                       std::mem_fn(&CardProperty::IsGuessed));
     const std::optional<ContactItem> item = ContactFromCard(card);
     if (!item) return Report(card, CardFault::NothingToFile);
     m_summary.LinesNotUnderstood += card.LinesNotUnderstood;

@@ -62,7 +62,8 @@ struct ImportSummary {
   qint64 Same = 0;  // had nothing new, or were skipped
   qint64 Unreadable = 0;
   std::vector<UnreadableCard> UnreadableCards;  // in the order of the file; the first kMaxListed
-  qint64 LinesNotUnderstood = 0;                // within cards that were read, and outside of cards
+  bool IsGuessed = false;         // of what was read some was so in the fallback character set
+  qint64 LinesNotUnderstood = 0;  // within cards that were read, and outside of cards
   ImportEnd End = ImportEnd::WholeFile;
   QString Reason;  // after StoreFailed: why
 };

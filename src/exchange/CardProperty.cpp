@@ -79,14 +79,27 @@ bool ParseName(const QByteArray& text, CardProperty& property) {
   return true;
 }
 
-QString DecodeValue(const CardProperty& property, const CardCharset& charset) {
+void TakeText(QByteArrayView bytes, const QByteArray& declared, const QByteArray& fallback,
+              CardProperty& property) {
+  const std::optional<QString> certain = DecodeCertain(bytes, declared);
+  property.IsGuessed = !certain;
+  property.Value = certain ? *certain : DecodeText(bytes, {}, fallback);
+}
+
+void TakeValue(const CardCharset& charset, CardProperty& property) {
   const QByteArrayView raw = QByteArrayView(property.Line).sliced(property.ValueStart);
-  if (property.Encoding == CardEncoding::Base64) return QString::fromLatin1(raw);
   const QByteArray declared = ParameterOf(property, u"CHARSET").toLatin1();
-  if (property.Encoding == CardEncoding::QuotedPrintable) {
-    return DecodeText(DecodeQuotedPrintable(raw), declared, charset.Fallback);
+  switch (property.Encoding) {
+    case CardEncoding::Base64:
+      property.Value = QString::fromLatin1(raw);
+      break;
+    case CardEncoding::QuotedPrintable:
+      TakeText(DecodeQuotedPrintable(raw), declared, charset.Fallback, property);
+      break;
+    case CardEncoding::Plain:
+      TakeText(raw, charset.IsUnicode ? QByteArray() : declared, charset.Fallback, property);
+      break;
   }
-  return DecodeText(raw, charset.IsUnicode ? QByteArray() : declared, charset.Fallback);
 }
 
 // In quoted-printable a line feed is =0A, so "\n" is what it looks like: a piece of a path.
@@ -156,7 +169,7 @@ std::optional<CardProperty> ParseProperty(const QByteArray& line, const CardChar
   property.Encoding = AnnouncedEncoding(header);
   property.Line = line;
   property.ValueStart = colon + 1;
-  property.Value = DecodeValue(property, charset);
+  TakeValue(charset, property);
   return property;
 }
 

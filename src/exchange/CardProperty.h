@@ -32,6 +32,7 @@ struct CardProperty {
   qsizetype ValueStart = 0;  // in Line
   qint64 LineNumber = 0;     // 1-based, in the file
   bool IsNested = false;     // part of a card inside the card
+  bool IsGuessed = false;    // nothing says how to read the value: it was read in the fallback
 };
 
 // Where the colon stands that ends name and parameters; -1 when there is none. A colon inside

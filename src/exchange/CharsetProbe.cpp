@@ -7,17 +7,11 @@ namespace quill {
 
 namespace {
 
-QString ValueIn(const QByteArray& line, const CardCharset& charset) {
-  const auto property = ParseProperty(line, charset);
-  return property ? property->Value : QString();
-}
-
-// Where the fallback decides, what is no UTF-8 reads differently in this one.
 bool NeedsChoice(const QByteArray& line, bool isUnicode) {
   const bool isQuoted = line.contains('=');  // bytes may hide in quoted-printable
   if (!isQuoted && line.isValidUtf8()) return false;
-  return ValueIn(line, {.Fallback = "UTF-8", .IsUnicode = isUnicode}) !=
-         ValueIn(line, {.Fallback = "windows-1252", .IsUnicode = isUnicode});
+  const auto property = ParseProperty(line, {.IsUnicode = isUnicode});
+  return property && property->IsGuessed;
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ std::optional<ObexObject> ReadObject(const QString& file, const QString& name, i
 
 ObexBluetoothPush::ObexBluetoothPush(const QDBusConnection& bus, ObexHost& host,
                                      ObexTransferWatch& watch, const QDBusMessage& request)
-    : m_bus(bus), m_host(host), m_watch(watch), m_request(request) {}
+    : ObexIncoming(host), m_bus(bus), m_watch(watch), m_request(request) {}
 
 ObexBluetoothPush::~ObexBluetoothPush() { Close(); }
 

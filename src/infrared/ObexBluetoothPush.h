@@ -7,14 +7,12 @@
 #include <QDBusMessage>
 #include <QObject>
 
-#include <functional>
-
+#include "infrared/ObexIncoming.h"
 #include "infrared/ObexTransferWatch.h"
-#include "infrared/ObexTransport.h"
 
 namespace quill {
 
-class ObexBluetoothPush : public QObject, public ObexPusher {
+class ObexBluetoothPush : public QObject, public ObexIncoming {
  public:
   static constexpr qint64 kLargest = 8 * qint64(1'048'576);  // bytes
 
@@ -23,20 +21,15 @@ class ObexBluetoothPush : public QObject, public ObexPusher {
                     const QDBusMessage& request);
   ~ObexBluetoothPush() override;
 
-  // Finds out what is pushed by whom, then asks the host. Ended is set before.
+  // Finds out what is pushed by whom, then asks the host.
   void Begin(const QString& transfer);
   // Hangs up: what waits is refused, what has come is thrown away. Nothing is called from then on.
   void Close();
   // Whether its bytes are coming.
   bool IsComing() const { return m_step == Step::Coming; }
 
-  const ObexOffer& Offer() const override { return m_offer; }
   void Want() override;
   void Refuse() override;
-
-  // Called once when nothing more will come of it, maybe in the middle of another call: this may be
-  // destroyed only later.
-  std::function<void()> Ended;
 
  private:
   enum class Step { Looking, Asking, Coming, Over };
@@ -50,14 +43,12 @@ class ObexBluetoothPush : public QObject, public ObexPusher {
   void End();
 
   QDBusConnection m_bus;
-  ObexHost& m_host;
   ObexTransferWatch& m_watch;
   QDBusMessage m_request;
   QString m_transfer;
   QString m_folder;  // the service's, which alone it writes into
   QString m_file;    // in it, once it was named to the service
   QString m_name;    // as the peer gave it
-  ObexOffer m_offer;
   Step m_step = Step::Looking;
 };
 

@@ -17,7 +17,10 @@ constexpr qint64 kMostUnread = 64 * 1024;
 }  // namespace
 
 ObexTcpPeer::ObexTcpPeer(std::unique_ptr<QTcpSocket> socket, ObexHost& host, Timers& timers)
-    : m_socket(std::move(socket)), m_host(host), m_timers(timers), m_inbox({.Cards = host.Room()}) {
+    : ObexIncoming(host),
+      m_socket(std::move(socket)),
+      m_timers(timers),
+      m_inbox({.Cards = host.Room()}) {
   m_offer.Peer = PeerAddress(m_socket->peerAddress());
   m_socket->setReadBufferSize(kReadAtOnce);
   QTcpSocket* context = m_socket.get();

@@ -3,16 +3,15 @@
 
 #include <QTcpSocket>
 
-#include <functional>
 #include <memory>
 
 #include "exchange/ObexInbox.h"
-#include "infrared/ObexTransport.h"
+#include "infrared/ObexIncoming.h"
 #include "platform/Timers.h"
 
 namespace quill {
 
-class ObexTcpPeer : public ObexPusher, private TimerTarget {
+class ObexTcpPeer : public ObexIncoming, private TimerTarget {
  public:
   // A peer that says nothing for so long is hung up on, unless it is waiting for an answer itself.
   static constexpr int kPatience = 30'000;  // ms
@@ -23,19 +22,14 @@ class ObexTcpPeer : public ObexPusher, private TimerTarget {
   ObexTcpPeer(const ObexTcpPeer&) = delete;
   ObexTcpPeer& operator=(const ObexTcpPeer&) = delete;
 
-  // Takes what has come already. Ended is set before.
+  // Takes what has come already.
   void Begin();
   // Hangs up. Nothing is called from then on.
   void Close();
   bool IsAsking() const { return m_asked != 0; }
 
-  const ObexOffer& Offer() const override { return m_offer; }
   void Want() override;
   void Refuse() override;
-
-  // Called once when the connection is over, maybe in the middle of another call: this may be
-  // destroyed only later.
-  std::function<void()> Ended;
 
  private:
   void OnTimer(int id) override;
@@ -47,10 +41,8 @@ class ObexTcpPeer : public ObexPusher, private TimerTarget {
   void End();
 
   std::unique_ptr<QTcpSocket> m_socket;
-  ObexHost& m_host;
   Timers& m_timers;
   ObexInbox m_inbox;
-  ObexOffer m_offer;
   int m_asked = 0;  // which of the inbox's offers the host was asked about; 0: none
   bool m_isClosed = false;
 };

@@ -1,4 +1,4 @@
-// Command identifiers, which are global: the only place where they stand as numbers.
+// Global command identifiers: the code has their numbers only here and in KeyCommandIds.h.
 #pragma once
 
 #include "resources/ControlIds.h"

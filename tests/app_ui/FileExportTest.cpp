@@ -27,9 +27,13 @@ class FileExportTest : public test::ExchangeFixture {
 TEST_F(FileExportTest, WritesEveryContactAndTellsHowMany) {
   BringIn();
   const PromptMessage message = Export(m_name);
-  EXPECT_EQ(message.Text, QStringLiteral("나.vcf: 2 contacts\n"));
+  EXPECT_EQ(message.Text, QStringLiteral("나.vcf: 2 contacts."));
   EXPECT_EQ(message.Icon, PromptIcon::Information);
   EXPECT_EQ(Content(m_name).count("END:VCARD"), 2);
+}
+
+TEST_F(FileExportTest, WithoutContactsThatIsSaid) {
+  EXPECT_EQ(Export(m_name).Text, QStringLiteral("There are no contacts yet."));
 }
 
 TEST_F(FileExportTest, KeepsToARestriction) {

@@ -34,7 +34,7 @@ TEST_F(FileImportTest, BringsTheCardsIntoTheStoreAndTellsHowMany) {
       Import({Write(QStringLiteral("두사람.vcf"), CardOf("Kim;Chul") + CardOf("Lee;Min"))});
   EXPECT_EQ(message.Icon, PromptIcon::Information);
   EXPECT_EQ(message.Text,
-            QStringLiteral("두사람.vcf: 2 new, 0 changed, 0 the same, 0 unreadable\n"));
+            QStringLiteral("두사람.vcf: 2 new, 0 changed, 0 the same, 0 unreadable."));
   EXPECT_EQ(Names().size(), 2);
 }
 

@@ -8,6 +8,7 @@
 
 #include "cli/ConsoleFixture.h"
 #include "cli/InputFrom.h"
+#include "exchange/CardCharset.h"
 
 #include <sys/stat.h>
 
@@ -117,9 +118,27 @@ TEST_F(ImportVerb, MergesUnlessItIsTold) {
 TEST_F(ImportVerb, ReadsUndeclaredTextInTheCharsetThatItIsTold) {
   const QString file = MakeFile(u"cyrillic.vcf"_qs, "BEGIN:VCARD\nFN:\xC4\xE0\nEND:VCARD\n");
   EXPECT_EQ(Run({u"import"_qs, u"--charset"_qs, u"windows-1251"_qs, file}), kExitDone);
+  EXPECT_EQ(TakeErr(), "");
   TakeOut();
   EXPECT_EQ(Run({u"list"_qs}), kExitDone);
   EXPECT_EQ(TakeOut(), "Да\n");
+}
+
+TEST_F(ImportVerb, SaysInWhichCharsetItReadUndeclaredText) {
+  const QString file = MakeFile(
+      u"old.vcf"_qs, "BEGIN:VCARD\nFN:Gr\xFCn\nEND:VCARD\nBEGIN:VCARD\nFN:\xD6zil\nEND:VCARD\n");
+  EXPECT_EQ(Import(file), kExitDone);
+  const QByteArray charset = FallbackCharset(QLocale::system());
+  EXPECT_EQ(TakeErr(), "quill: " + file.toStdString() +
+                           ": does not say how its letters are written; read as " +
+                           charset.toStdString() + " (--charset)\n");
+}
+
+TEST_F(ImportVerb, DeclaredTextIsNoGuess) {
+  const QString file =
+      MakeFile(u"declared.vcf"_qs, "BEGIN:VCARD\nFN;CHARSET=ISO-8859-1:Gr\xFCn\nEND:VCARD\n");
+  EXPECT_EQ(Import(file), kExitDone);
+  EXPECT_EQ(TakeErr(), "");
 }
 
 TEST_F(ImportVerb, RefusesACharsetThatThereIsNot) {

@@ -84,7 +84,7 @@ TEST_F(ExchangeScript, AFileIsFoundByTapsAndItsContactsStandInTheList) {
   TapRow(driver, QStringLiteral("김철수의 아주 긴 이름.vcf"));
   EXPECT_EQ(
       TextOf(Message(driver)),
-      QStringLiteral("김철수의 아주 긴 이름.vcf: 2 new, 0 changed, 0 the same, 0 unreadable\n"));
+      QStringLiteral("김철수의 아주 긴 이름.vcf: 2 new, 0 changed, 0 the same, 0 unreadable."));
   EXPECT_EQ(Message(driver).toObject().value(u"icon"), QStringLiteral("information"));
   Answer(driver, "OK");
   EXPECT_EQ(List(driver).value(u"total"), 2);

@@ -96,6 +96,12 @@ TEST(Protocol, ClosingTheFrameIsAnsweredBeforeTheEnd) {
   EXPECT_EQ(driver.Finish(), 0);
 }
 
+TEST(Protocol, HelpIsPrintedWithoutAStart) {
+  DriverProcess driver({QStringLiteral("--help")});
+  EXPECT_EQ(driver.ReadLine(), "quill-driver [OPTION VALUE]...");
+  EXPECT_EQ(driver.Finish(), 0);
+}
+
 class WrongOption : public testing::TestWithParam<QStringList> {};
 
 TEST_P(WrongOption, EndsWithTwoAndAReason) {

@@ -30,30 +30,6 @@ class SmallDevice : public QIODevice {
   qint64 m_room;
 };
 
-// Cannot read one contact.
-class GapContacts : public FaultyContacts {
- public:
-  bool Read(Oid oid, ContactItem& item) override {
-    return oid != Gap && FaultyContacts::Read(oid, item);
-  }
-  Oid Gap = 0;
-};
-
-class GapStore : public FaultyStore {
- public:
-  explicit GapStore(StoreProvider& inner) : FaultyStore(inner), m_below(inner) {}
-  ContactsFolder* Contacts() override {
-    m_contacts.Inner = m_below.Contacts();
-    return &m_contacts;
-  }
-  void LoseContact(Oid oid) { m_contacts.Gap = oid; }
-  void RefuseCategories() { m_contacts.Faults.Restrict = true; }
-
- private:
-  StoreProvider& m_below;
-  GapContacts m_contacts;
-};
-
 class CardExports : public testing::Test {
  protected:
   void SetUp() override {
@@ -83,7 +59,7 @@ class CardExports : public testing::Test {
   }
 
   PimStore m_store{u":memory:"_qs};
-  GapStore m_gaps{m_store};
+  FaultyStore m_gaps{m_store};
 };
 
 TEST_F(CardExports, WriteEveryContactInTheOrderOfTheList) {
@@ -177,7 +153,7 @@ TEST_F(CardExports, TellThatTheDeviceTookNoMore) {
 
 TEST_F(CardExports, TellThatAContactCouldNotBeRead) {
   Add(u"a"_qs);
-  m_gaps.LoseContact(Add(u"b"_qs));
+  m_gaps.Faults().Read = Add(u"b"_qs);
   SmallDevice device(1000);
   const ExportSummary summary = ExportCards(m_gaps, device, {});
   EXPECT_EQ(summary.End, ExportEnd::StoreFailed);
@@ -186,7 +162,7 @@ TEST_F(CardExports, TellThatAContactCouldNotBeRead) {
 
 TEST_F(CardExports, TellThatTheChoiceFailed) {
   Add(u"a"_qs);
-  m_gaps.RefuseCategories();
+  m_gaps.Faults().Restrict = true;
   SmallDevice device(1000);
   ExportOptions options;
   options.Category = u"One"_qs;

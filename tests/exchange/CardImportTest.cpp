@@ -337,8 +337,14 @@ TEST_F(CardImports, TellThatTheFileCouldNotBeReadToItsEnd) {
 TEST_F(CardImports, ReadUndeclaredTextInTheChosenCharset) {
   ImportOptions options;
   options.FallbackCharset = "windows-1251";
-  Import(CardText("FN:\xC4\xE0\n"), options);
+  EXPECT_TRUE(Import(CardText("FN:\xC4\xE0\n"), options).IsGuessed);
   EXPECT_EQ(m_store.Contacts()->FindByFileAs(u"Да"_qs).size(), 1U);
+}
+
+TEST_F(CardImports, AreNoGuessWhereTheTextSaysHowItIsWritten) {
+  EXPECT_FALSE(Import(CardText("FN:Gr\xC3\xBCn\n"), {}).IsGuessed);
+  EXPECT_FALSE(Import(CardText("FN;CHARSET=latin1:Gr\xFCn\n"), {}).IsGuessed);
+  EXPECT_TRUE(Import(CardText("FN;ENCODING=QUOTED-PRINTABLE:Gr=FCn\n"), {}).IsGuessed);
 }
 
 TEST(CardFaults, HaveEachAReasonInWords) {

@@ -21,7 +21,7 @@ class FailingTransaction : public StoreTransaction {
 
 std::unique_ptr<StoreTransaction> RefusingStore::Begin() {
   ++m_begun;
-  auto transaction = m_below.Begin();
+  auto transaction = FaultyStore::Begin();
   if (m_begun != m_failing) return transaction;
   return std::make_unique<FailingTransaction>(std::move(transaction));
 }

@@ -7,6 +7,8 @@ namespace quill::test {
 
 class RefusingContacts : public FaultyContacts {
  public:
+  using FaultyContacts::FaultyContacts;
+
   Oid SaveWhole(Oid oid, const ContactItem& item) override {
     const bool isRefused = !Refused.isEmpty() && item.Record[ContactField::FileAs] == Refused;
     return isRefused ? 0 : FaultyContacts::SaveWhole(oid, item);
@@ -18,20 +20,16 @@ class RefusingContacts : public FaultyContacts {
 class RefusingStore : public FaultyStore {
  public:
   // Does not own the store below.
-  explicit RefusingStore(StoreProvider& inner) : FaultyStore(inner), m_below(inner) {}
+  explicit RefusingStore(StoreProvider& below) : FaultyStore(below), m_refusing(below) {}
 
   void Refuse(const QString& fileAs) { m_refusing.Refused = fileAs; }
   void FailCommit(int transaction) { m_failing = transaction; }  // 1-based
   int Begun() const { return m_begun; }
 
-  ContactsFolder* Contacts() override {
-    m_refusing.Inner = m_below.Contacts();
-    return &m_refusing;
-  }
+  ContactsFolder* Contacts() override { return &m_refusing; }
   std::unique_ptr<StoreTransaction> Begin() override;
 
  private:
-  StoreProvider& m_below;
   RefusingContacts m_refusing;
   int m_failing = 0;
   int m_begun = 0;

@@ -14,8 +14,8 @@ class ExchangeReport {
   // Where the work writes to.
   const Console& Target() const { return m_console; }
 
-  // The results and the first of the messages, the rest counted, without the folders of the files
-  // that were named. Waits for the user.
+  // The results and the first of the messages, the rest counted, each a sentence in a line of its
+  // own, without the folders of the files that were named. Waits for the user.
   void Show(int exitCode, const QStringList& files);
 
  private:
