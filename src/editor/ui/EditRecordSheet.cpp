@@ -1,5 +1,7 @@
 #include "editor/ui/EditRecordSheet.h"
 
+#include <QKeyEvent>
+
 #include "editor/SheetSaving.h"
 #include "editor/ui/ImportedDetailsDlg.h"
 #include "editor/ui/MemoPage.h"
@@ -50,9 +52,12 @@ void CEditRecordSheet::AddRecordPage(CRecordPage& page) {
   };
 }
 
+// Null where the active page has no rows.
+CRecordPage* CEditRecordSheet::RowsPage() const { return qobject_cast<CRecordPage*>(ActivePage()); }
+
 // False on a page without rows.
 bool CEditRecordSheet::EnterRows(COfferBar::End from) {
-  auto* const page = qobject_cast<CRecordPage*>(ActivePage());
+  CRecordPage* const page = RowsPage();
   if (page) page->EnterRows(from == COfferBar::End::Last ? RowMove::Next : RowMove::Previous);
   return page != nullptr;
 }
@@ -130,6 +135,13 @@ CommandRoute CEditRecordSheet::Route() const {
 
 std::span<const resources::MenuEntry> CEditRecordSheet::TitleMenu() const {
   return resources::kRecordTitleMenu;
+}
+
+void CEditRecordSheet::keyPressEvent(QKeyEvent* event) {
+  CRecordPage* const page = RowsPage();
+  const bool endsEdit = event->key() == Qt::Key_Escape && page && page->IsEditing();
+  if (!endsEdit) return CSheet::keyPressEvent(event);
+  if (!event->isAutoRepeat()) page->EndEdits();
 }
 
 void CEditRecordSheet::resizeEvent(QResizeEvent* event) {

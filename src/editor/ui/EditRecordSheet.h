@@ -36,10 +36,13 @@ class CEditRecordSheet : public CSheet {
  protected:
   void OnInitDialog() override;
   bool TakeRows() override;
+  // Escape ends the edit of a row first, and only then the sheet.
+  void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
   void AddRecordPage(CRecordPage& page);
+  CRecordPage* RowsPage() const;
   bool EnterRows(COfferBar::End from);
   void OfferDraft();
   void HideDraftBar();

@@ -93,6 +93,8 @@ void CRecordPage::LoadRows() { m_rows->ShowRows(); }
 
 void CRecordPage::BecomeInactive() { EndEdits(); }
 
+bool CRecordPage::IsEditing() const { return m_rows->EditedRow() >= 0 || OpenParts(); }
+
 void CRecordPage::EndEdits() {
   m_rows->EndEdit();
   CloseParts();

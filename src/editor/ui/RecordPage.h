@@ -33,6 +33,8 @@ class CRecordPage : public CSheetPage, public TimerTarget {
   // Begins the edit of the first row. Nothing starts the timer: intended.
   void OnTimer(int id) override;
 
+  // A row, or the parts behind one.
+  bool IsEditing() const;
   // Ends every edit, of a row and of parts.
   void EndEdits();
   // Edits the first row, or the last one going backwards.
