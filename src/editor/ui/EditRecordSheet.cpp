@@ -46,6 +46,9 @@ CEditRecordSheet::CEditRecordSheet(CScreen& screen, const QString& caption)
 // Tab leads through the rows and the bar in turn.
 void CEditRecordSheet::AddRecordPage(CRecordPage& page) {
   AddPage(page);
+  page.CategoryFollowed = [this](const QString& from, const QString& to) {
+    m_categoryChanges.push_back({from, to});
+  };
   page.LeaveAsked = [this](RowMove move) {
     return m_draftBar->TakeFocus(move == RowMove::Next ? COfferBar::End::First
                                                        : COfferBar::End::Last);

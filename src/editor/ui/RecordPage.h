@@ -40,6 +40,9 @@ class CRecordPage : public CSheetPage, public TimerTarget {
   // Edits the first row, or the last one going backwards.
   void EnterRows(RowMove move);
 
+  // A category was renamed, or removed (to is empty), and the row that has it follows already.
+  std::function<void(const QString& from, const QString& to)> CategoryFollowed =
+      [](const QString&, const QString&) {};
   // Tab and arrow keys lead out of the rows. False: round to the other end.
   std::function<bool(RowMove move)> LeaveAsked = [](RowMove) { return false; };
 
