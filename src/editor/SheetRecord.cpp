@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "store/CategoryText.h"
 #include "store/ContactStore.h"
 
 namespace quill {
@@ -28,6 +29,11 @@ void PlaceSeed(const QString& seed, SheetRecord& sheet, PhoneFlags& flags) {
   const bool isMobile = seed.startsWith(kMobileBeginning);
   RowsOf(sheet, RowSet::Basic)[isMobile ? kMobileSeedRow : kWorkSeedRow].Value = seed;
   flags[IndexOf(isMobile ? PhoneFlag::Mobile : PhoneFlag::Work)] = true;
+}
+
+QString Followed(const QString& categories, const QString& from, const QString& to) {
+  return to.isEmpty() ? RemoveFromCategories(categories, from)
+                      : RenameInCategories(categories, from, to);
 }
 
 CalendarDate* FindDate(SheetRecord& sheet, RowSet page, int row) {
@@ -90,6 +96,14 @@ void SumUpParts(SheetRecord& sheet, RowSet page) {
     const std::vector<RecordRow>& parts = RowsOf(sheet, *rule.Parts);
     rows[i].Value = rule.Kind == RowKind::Name ? NameText(parts) : AddressText(parts);
   }
+}
+
+void FollowCategory(SheetRecord& sheet, const QString& from, const QString& to) {
+  for (RecordRow& row : RowsOf(sheet, RowSet::Basic))
+    if (row.Kind == RowKind::Categories)
+      row.Value = CategoryRowText(Followed(CategoriesOfRow(row.Value), from, to));
+  QString& opened = sheet.Opened[ContactField::Categories];
+  opened = Followed(opened, from, to);
 }
 
 CalendarDate DateAt(const SheetRecord& sheet, RowSet page, int row) {

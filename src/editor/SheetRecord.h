@@ -49,6 +49,10 @@ ContactRecord RecordOf(const SheetRecord& sheet, const QString& areaCodePrefix);
 // FileAs no longer then, even when no part changed: intended.
 void SumUpParts(SheetRecord& sheet, RowSet page);
 
+// A category was renamed, or removed (to is empty), by the user and in the store already: so it is
+// in the sheet, without counting as entered.
+void FollowCategory(SheetRecord& sheet, const QString& from, const QString& to);
+
 // The date behind a date row, and a new one with its text; year 0 for none. Other rows have none.
 CalendarDate DateAt(const SheetRecord& sheet, RowSet page, int row);
 void SetDateAt(SheetRecord& sheet, RowSet page, int row, const CalendarDate& date);

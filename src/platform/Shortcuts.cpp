@@ -95,6 +95,7 @@ constexpr auto kShortcuts = std::to_array<Shortcut>({
     {Sheet, u"Ctrl+PageDown, Ctrl+PageUp", u"go to another page"},
     {Sheet, u"Up, Down, Tab, Shift+Tab", u"edit another row"},
     {Sheet, u"a letter", u"begin the first row with it, where no row is edited"},
+    {Sheet, u"Escape", u"end the edit of a row or of its parts, then cancel"},
     {Sheet, u"Space", u"open the row's parts or the choice of categories"},
 
     {Row, u"Up, Down, Home, End", u"go to another row of an appointment"},

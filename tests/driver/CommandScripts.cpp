@@ -197,6 +197,31 @@ TEST_F(CommandScript, TheFilterFollowsACategoryThatIsRenamedOrRemoved) {
   EXPECT_EQ(List(driver)[u"total"], 3);
 }
 
+TEST_F(CommandScript, TheFilterAndTheContactFollowACategoryThatIsRenamedInASheet) {
+  ReadyDriver driver(Arguments());
+  driver.Result(R"({"op":"categories","names":["Family","Work"],"quiet":true})", u"categories");
+  PutPeople(driver);
+  RunCommand(driver, "107");
+  driver.Do(R"({"op":"tap","on":"view","x":190,"y":12})");
+  driver.Do(R"({"op":"choose","id":109})");
+  const auto rename = [&](const QByteArray& name) {
+    driver.Do(R"({"op":"tap","on":"list","x":50,"y":8})");
+    driver.Do(R"({"op":"tap","on":"rows","x":120,"y":199})");
+    driver.Do(R"({"op":"tap","on":1000,"x":60,"y":30})");
+    driver.Do(R"({"op":"set","id":1001,"text":")" + name + "\"}");
+    driver.Do(R"({"op":"click","id":1003})");
+    driver.Do(R"({"op":"cancel"})");
+  };
+  rename("Job");
+  driver.Do(R"({"op":"cancel"})");
+  EXPECT_EQ(List(driver)[u"category"], QStringLiteral("Job"));
+  EXPECT_EQ(Names(driver), QStringList(QStringLiteral("Adams")));
+  rename("Office");
+  driver.Do(R"({"op":"ok"})");
+  EXPECT_EQ(List(driver)[u"category"], QStringLiteral("Office"));
+  EXPECT_EQ(Names(driver), QStringList(QStringLiteral("Adams")));
+}
+
 TEST_F(CommandScript, DeletingAllUnderAFilterKeepsTheOthers) {
   ReadyDriver driver(Arguments());
   PutPeople(driver);

@@ -128,6 +128,20 @@ TEST_F(KeyboardScript, WhatIsTypedIntoANewContactAtOnceIsItsName) {
   EXPECT_EQ(fields.value(u"FirstName"), QStringLiteral("Minsu"));
 }
 
+TEST_F(KeyboardScript, EscapeEndsAPartThenARowAndThenTheSheet) {
+  Press("Ctrl+N");
+  Type("Minsu");
+  Press("Escape Tab Tab");
+  Type("Pilot");
+  Press("Escape");
+  EXPECT_EQ(TopWindow(), QStringLiteral("EditRecordSheet"));
+  const QJsonArray rows = m_driver.Result(R"({"op":"rows"})", u"rows").toArray();
+  EXPECT_EQ(rows[0][u"value"], QStringLiteral("Minsu "));
+  Press("Escape");
+  EXPECT_EQ(TopWindow(), QStringLiteral("MainFrame"));
+  EXPECT_EQ(List().value(u"total"), 4);
+}
+
 TEST_F(KeyboardScript, ADraftThatThePanelHidesIsShownThenRestored) {
   Press("Ctrl+N Down Down Down Down Down Down Down");
   Type("직함");

@@ -248,6 +248,36 @@ TEST(SheetRecord, SummingUpLeavesAllOtherRowsBe) {
   EXPECT_EQ(sheet.Rows, before.Rows);
 }
 
+struct CategoryCase {
+  const char16_t* Row;
+  const char16_t* To;  // of "Work"; empty: it is removed
+  const char16_t* RowAfter;
+  const char16_t* OpenedAfter;  // of "Family, Work"
+};
+
+class SheetCategories : public testing::TestWithParam<CategoryCase> {};
+
+TEST_P(SheetCategories, FollowInTheirRowAndInWhatItSaidAtOpening) {
+  ContactRecord record;
+  record[Categories] = QStringLiteral("Family, Work");
+  SheetRecord sheet = SheetOf(7, {}, record);
+  sheet.Opened = RecordOf(sheet, {});
+  ValueAt(sheet, RowSet::Basic, 10) = QString::fromUtf16(GetParam().Row);
+  ValueAt(sheet, RowSet::Basic, 1) = QStringLiteral("Work");
+  FollowCategory(sheet, QStringLiteral("Work"), QString::fromUtf16(GetParam().To));
+  EXPECT_EQ(ValueAt(sheet, RowSet::Basic, 10).toStdU16String(), GetParam().RowAfter);
+  EXPECT_EQ(sheet.Opened[Categories].toStdU16String(), GetParam().OpenedAfter);
+  EXPECT_EQ(ValueAt(sheet, RowSet::Basic, 1), QStringLiteral("Work"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, SheetCategories,
+    testing::Values(CategoryCase{u"Work,Golf", u"Job", u"Job,Golf", u"Family, Job"},
+                    CategoryCase{u"Golf,Work", u"", u"Golf", u"Family"},
+                    CategoryCase{u"Work", u"", u"No Categories", u"Family"},
+                    CategoryCase{u"Work, Family", u"Family", u"Family", u"Family"},
+                    CategoryCase{u"No Categories", u"Job", u"No Categories", u"Family, Job"}));
+
 TEST(SheetRecord, ADateChangesWithItsText) {
   SheetRecord sheet = SheetOf(0, {}, {});
   const CalendarDate date{.Year = 1987, .Month = 3, .Day = 5};

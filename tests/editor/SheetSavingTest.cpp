@@ -126,6 +126,20 @@ TEST_F(ChangedElsewhereTest, WithoutASessionWhatWasEnteredBecomesADraft) {
   EXPECT_EQ(SaveSheet(m_sheet, m_settings), SheetOutcome::KeptAsDraft);
 }
 
+TEST_F(SheetSavingTest, ACategoryThatIsRenamedElsewhereMeanwhileKeepsItsNewName) {
+  ContactRecord record;
+  record[FileAs] = QStringLiteral("Kim");
+  record[Categories] = QStringLiteral("Family, Work");
+  const Oid kim = m_store.Contacts()->Save(0, record, {});
+  SheetRecord sheet = LoadSheet(kim, m_state);
+  record[Categories] = QStringLiteral("Family, Job");
+  ASSERT_NE(m_store.Contacts()->Save(kim, record, {}), 0);
+  Type(sheet, RowSet::Basic, 1, QStringLiteral("Painter"));
+  EXPECT_EQ(SaveSheet(sheet, m_settings), SheetOutcome::Written);
+  EXPECT_EQ(Stored(kim).Record[JobTitle], QStringLiteral("Painter"));
+  EXPECT_EQ(Stored(kim).Record[Categories], QStringLiteral("Family, Job"));
+}
+
 TEST_F(SheetSavingTest, AStoredNumberThatIsTheAreaCodeIsWrittenEmpty) {
   ContactRecord record;
   record[FileAs] = QStringLiteral("Kim");

@@ -60,6 +60,60 @@ TEST_F(EditRecordSheetTest, CancelWritesNothingAndKeepsNoDraft) {
   EXPECT_EQ(LoadDraft(kim), std::nullopt);
 }
 
+struct EscapeCase {
+  const char* Name;
+  int Page;
+  int Row;
+  std::optional<QPoint> Part;  // where it is tapped
+};
+
+class EscapeOfEdits : public EditRecordSheetTest, public testing::WithParamInterface<EscapeCase> {};
+
+TEST_P(EscapeOfEdits, LeavesTheSheetOpenAndTheNextOneCancelsIt) {
+  InSheet(AddKim(), [&] {
+    m_sheet->ShowPage(GetParam().Page);
+    TapRow(GetParam().Row);
+    if (GetParam().Part) TapPart(*GetParam().Part);
+    m_input.Key(Qt::Key_Escape);
+    EXPECT_EQ(g_contactInk.Count(), 3) << "still open";
+    EXPECT_EQ(Rows().EditedRow(), -1);
+    EXPECT_EQ(Parts(), nullptr);
+    EXPECT_TRUE(Rows().hasFocus());
+    m_input.Key(Qt::Key_Escape);
+    EXPECT_EQ(g_contactInk.Count(), 0);
+  });
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, EscapeOfEdits,
+                         testing::Values(EscapeCase{"Text", 0, 1, {}},
+                                         EscapeCase{"Parts", 0, 0, {}},
+                                         EscapeCase{"Part", 0, 0, QPoint(100, 25)},
+                                         EscapeCase{"Street", 0, 8, QPoint(100, 25)},
+                                         EscapeCase{"Date", 1, 7, {}}),
+                         [](const auto& row) { return std::string(row.param.Name); });
+
+TEST_F(EditRecordSheetTest, WhatEscapeEndsKeepsItsText) {
+  InSheet(AddKim(), [&] {
+    TypeInRow(1, QStringLiteral("Pilot"));
+    m_input.Key(Qt::Key_Escape);
+    EXPECT_EQ(Value(RowSet::Basic, 1), QStringLiteral("Pilot"));
+    TapRow(0);
+    TapPart({100, 25});
+    m_input.Type(QStringLiteral("Min"));
+    m_input.Key(Qt::Key_Escape);
+    EXPECT_EQ(Value(RowSet::Basic, 0), QStringLiteral("Min "));
+  });
+}
+
+TEST_F(EditRecordSheetTest, AHeldEscapeEndsOneEditOnly) {
+  InSheet(AddKim(), [&] {
+    TapRow(1);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, {}, true);
+    QCoreApplication::sendEvent(&RowEdit(), &held);
+    EXPECT_EQ(Rows().EditedRow(), 1);
+  });
+}
+
 TEST_F(EditRecordSheetTest, WhatIsTypedIsKeptAgainstACrashTwoSecondsLater) {
   InSheet(0, [&] {
     TypeInRow(1, QStringLiteral("Pilot"));

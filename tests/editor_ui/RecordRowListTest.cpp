@@ -4,12 +4,17 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QInputMethodEvent>
+#include <QPushButton>
 #include <QTextBrowser>
 #include <QUrl>
 
 #include "SheetFixture.h"
+#include "editor/Draft.h"
+#include "platform/ui/CheckList.h"
 #include "platform/ui/DatePicker.h"
 #include "platform/ui/MenuPopup.h"
+#include "store/Categories.h"
+#include "support/ScriptedPrompt.h"
 
 namespace quill {
 namespace {
@@ -132,6 +137,78 @@ TEST_F(RecordRowListTest, ADateBeginsAtItsDayAndChangesOnlyOnAChange) {
   const ContactItem stored = Stored(kim);
   EXPECT_EQ(stored.Record.Birthday.Year, 0);
   EXPECT_EQ(stored.Record.Anniversary.Year, 2001);
+}
+
+class CategoryRowTest : public RecordRowListTest {
+ protected:
+  CategoryRowTest() { g_services.Prompt = &m_prompt; }
+  ~CategoryRowTest() override { g_services.Prompt = nullptr; }
+
+  Oid AddIn(const QString& categories) {
+    EXPECT_TRUE(SetUserCategories({QStringLiteral("Family"), QStringLiteral("Work")}));
+    ContactRecord record;
+    record[FileAs] = QStringLiteral("Kim");
+    record[Categories] = categories;
+    return Add(record);
+  }
+  // Opens the chooser from the row, acts in it and cancels it.
+  void InChooser(const std::function<void()>& act) {
+    const test::Steps steps(*m_screen, {[&] {
+      act();
+      m_input.Key(Qt::Key_Escape);
+    }});
+    Rows().StartEdit(10);
+  }
+  // Of a row of the chooser. Without a name the category is removed.
+  void RenameCategoryOf(int row, const QString& name) {
+    const CWindow& chooser = *m_screen->Topmost();
+    qobject_cast<CCheckList*>(chooser.Control(CategoryChooserIds::kList))->SetCurrent(row);
+    if (!name.isEmpty())
+      qobject_cast<QLineEdit*>(chooser.Control(CategoryChooserIds::kEdit))->setText(name);
+    const int id = name.isEmpty() ? CategoryChooserIds::kRemove : CategoryChooserIds::kRename;
+    qobject_cast<QPushButton*>(chooser.Control(id))->click();
+  }
+
+  test::ScriptedPrompt m_prompt;
+};
+
+TEST_F(CategoryRowTest, FollowsWhatIsRenamedOrRemovedAtOnceAlsoWhereTheChoiceIsCancelled) {
+  const Oid kim = AddIn(QStringLiteral("Work, Family"));
+  m_prompt.Expect(PromptAnswer::Yes);
+  InSheet(kim, [&] {
+    InChooser([&] {
+      RenameCategoryOf(1, QStringLiteral("Job"));
+      EXPECT_EQ(Value(RowSet::Basic, 10), QStringLiteral("Job, Family"));
+      RenameCategoryOf(0, {});
+      EXPECT_EQ(Value(RowSet::Basic, 10), QStringLiteral("Job"));
+    });
+    EXPECT_EQ(Value(RowSet::Basic, 10), QStringLiteral("Job"));
+    PressOK();
+  });
+  EXPECT_EQ(Stored(kim).Record[Categories], QStringLiteral("Job"));
+}
+
+TEST_F(CategoryRowTest, WhoseCategoryWasRenamedHoldsNothingThatWasEntered) {
+  const Oid kim = AddIn(QStringLiteral("Work"));
+  InSheet(kim, [&] {
+    InChooser([&] { RenameCategoryOf(1, QStringLiteral("Job")); });
+    m_timers.Advance(2000);
+    EXPECT_EQ(LoadDraft(kim), std::nullopt);
+  });
+}
+
+TEST_F(CategoryRowTest, TheSheetTellsWhatWasRenamedAndRemoved) {
+  m_prompt.Expect(PromptAnswer::Yes);
+  InSheet(AddIn(QStringLiteral("Work")), [&] {
+    EXPECT_TRUE(m_sheet->CategoryChanges().empty());
+    InChooser([&] {
+      RenameCategoryOf(1, QStringLiteral("Job"));
+      RenameCategoryOf(0, {});
+    });
+    EXPECT_EQ(m_sheet->CategoryChanges(),
+              (std::vector<CategoryChange>{{QStringLiteral("Work"), QStringLiteral("Job")},
+                                           {QStringLiteral("Family"), {}}}));
+  });
 }
 
 TEST_F(RecordRowListTest, TabAndArrowKeysEditTheOtherRows) {

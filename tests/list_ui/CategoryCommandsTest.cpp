@@ -3,6 +3,8 @@
 #include <QPushButton>
 
 #include "ViewFixture.h"
+#include "editor/ui/EditRecordSheet.h"
+#include "editor/ui/RecordRowList.h"
 #include "platform/ui/CheckList.h"
 #include "platform/ui/MenuPopup.h"
 #include "store/Categories.h"
@@ -116,6 +118,29 @@ TEST_F(CategoryCommandsTest, WithoutTheRemovedCategoryOfTheFilterAllAreShownAfte
   m_frame->RunCommand(111);
   EXPECT_EQ(g_list.CategoryName, QStringLiteral("Show All"));
   EXPECT_EQ(ShownNames().size(), 3);
+}
+
+TEST_F(CategoryCommandsTest, TheFilterFollowsACategoryThatIsRenamedInASheet) {
+  Choose(109);
+  for (const bool isOK : {false, true}) {
+    test::Steps steps(*m_screen,
+                      {[&] {
+                         auto* const sheet = qobject_cast<CEditRecordSheet*>(m_screen->Topmost());
+                         ASSERT_NE(sheet, nullptr);
+                         sheet->ActivePage()->findChild<CRecordRowList*>()->StartEdit(10);
+                         isOK ? sheet->OnOK() : sheet->OnCancel();
+                       },
+                       [&] {
+                         EditInChooser(1, isOK ? QStringLiteral("Office") : QStringLiteral("Job"));
+                         m_input.Key(Qt::Key_Escape);
+                       }});
+    m_input.Tap(OnRow(0));
+    const QString name = isOK ? QStringLiteral("Office") : QStringLiteral("Job");
+    EXPECT_EQ(g_list.CategoryName, name);
+    EXPECT_EQ(CategoryLabel().Rows()[0].Items[0].Text, name);
+    EXPECT_EQ(ShownNames(), QStringList({QStringLiteral("Adams"), QStringLiteral("Baker")}));
+    EXPECT_EQ(g_categoryMenu.Checked, (std::vector<bool>{false, false, true, false, false}));
+  }
 }
 
 TEST_F(CategoryCommandsTest, ByMemoTheCommandsAreIgnored) {

@@ -5,6 +5,7 @@
 #include <QScrollBar>
 #include <QUrl>
 
+#include "platform/ui/Edit.h"
 #include "platform/ui/MenuPopup.h"
 #include "platform_ui/SampleWindows.h"
 #include "platform_ui/ScreenFixture.h"
@@ -104,6 +105,26 @@ TEST_F(MultiEditKeysTest, WithShiftTheySelectAndOfAReadOnlyTextNoneIsLeft) {
   m_edit.setReadOnly(true);
   m_input.Key(Qt::Key_Up);
   EXPECT_EQ(m_frame.Keys, QList<int>());
+}
+
+QColor FrameColor(QWidget& edit) {
+  const QImage image = edit.grab().toImage();
+  return image.pixelColor(image.width() / 2, 0);
+}
+
+TEST_F(MultiEditTest, ItsFrameShowsTheFocusAsALineEditorsDoes) {
+  CEdit line(QString(), &m_frame);
+  line.setGeometry(10, 70, 120, 19);
+  line.show();
+  for (const bool isReadOnly : {false, true}) {
+    m_edit.setReadOnly(isReadOnly);
+    line.setFocus();
+    const QColor focused = FrameColor(line);
+    EXPECT_EQ(FrameColor(m_edit).saturation(), 0) << "grey";
+    m_edit.setFocus();
+    EXPECT_EQ(FrameColor(m_edit), focused);
+    EXPECT_NE(focused.saturation(), 0);
+  }
 }
 
 TEST_F(MultiEditTest, ItsMenuOffersWhatCanBeDone) {

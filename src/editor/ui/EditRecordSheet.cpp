@@ -1,5 +1,7 @@
 #include "editor/ui/EditRecordSheet.h"
 
+#include <QKeyEvent>
+
 #include "editor/SheetSaving.h"
 #include "editor/ui/ImportedDetailsDlg.h"
 #include "editor/ui/MemoPage.h"
@@ -44,15 +46,21 @@ CEditRecordSheet::CEditRecordSheet(CScreen& screen, const QString& caption)
 // Tab leads through the rows and the bar in turn.
 void CEditRecordSheet::AddRecordPage(CRecordPage& page) {
   AddPage(page);
+  page.CategoryFollowed = [this](const QString& from, const QString& to) {
+    m_categoryChanges.push_back({from, to});
+  };
   page.LeaveAsked = [this](RowMove move) {
     return m_draftBar->TakeFocus(move == RowMove::Next ? COfferBar::End::First
                                                        : COfferBar::End::Last);
   };
 }
 
+// Null where the active page has no rows.
+CRecordPage* CEditRecordSheet::RowsPage() const { return qobject_cast<CRecordPage*>(ActivePage()); }
+
 // False on a page without rows.
 bool CEditRecordSheet::EnterRows(COfferBar::End from) {
-  auto* const page = qobject_cast<CRecordPage*>(ActivePage());
+  CRecordPage* const page = RowsPage();
   if (page) page->EnterRows(from == COfferBar::End::Last ? RowMove::Next : RowMove::Previous);
   return page != nullptr;
 }
@@ -130,6 +138,13 @@ CommandRoute CEditRecordSheet::Route() const {
 
 std::span<const resources::MenuEntry> CEditRecordSheet::TitleMenu() const {
   return resources::kRecordTitleMenu;
+}
+
+void CEditRecordSheet::keyPressEvent(QKeyEvent* event) {
+  CRecordPage* const page = RowsPage();
+  const bool endsEdit = event->key() == Qt::Key_Escape && page && page->IsEditing();
+  if (!endsEdit) return CSheet::keyPressEvent(event);
+  if (!event->isAutoRepeat()) page->EndEdits();
 }
 
 void CEditRecordSheet::resizeEvent(QResizeEvent* event) {

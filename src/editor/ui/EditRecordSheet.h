@@ -16,6 +16,14 @@ namespace quill {
 class CMemoPage;
 class CRecordPage;
 
+// A category that was renamed, or removed: then To is empty.
+struct CategoryChange {
+  QString From;
+  QString To;
+
+  bool operator==(const CategoryChange&) const = default;
+};
+
 class CEditRecordSheet : public CSheet {
   Q_OBJECT
  public:
@@ -26,6 +34,8 @@ class CEditRecordSheet : public CSheet {
 
   void SetContact(Oid oid) { m_record.Oid = oid; }
   const SheetRecord& Record() const { return m_record; }
+  // In their order. They stay, also when the sheet is cancelled.
+  const std::vector<CategoryChange>& CategoryChanges() const { return m_categoryChanges; }
 
   ControlMap Controls() const override;
   CommandRoute Route() const override;
@@ -36,10 +46,13 @@ class CEditRecordSheet : public CSheet {
  protected:
   void OnInitDialog() override;
   bool TakeRows() override;
+  // Escape ends the edit of a row first, and only then the sheet.
+  void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
   void AddRecordPage(CRecordPage& page);
+  CRecordPage* RowsPage() const;
   bool EnterRows(COfferBar::End from);
   void OfferDraft();
   void HideDraftBar();
@@ -52,6 +65,7 @@ class CEditRecordSheet : public CSheet {
   SheetRecord m_record;
   COfferBar* m_draftBar;
   CMemoPage* m_memoPage;
+  std::vector<CategoryChange> m_categoryChanges;
   std::optional<Draft> m_offered;
   std::optional<Draft> m_kept;      // what was entered, as it was kept last
   std::optional<Draft> m_restored;  // the draft that was taken back, as it was

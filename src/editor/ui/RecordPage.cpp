@@ -66,6 +66,9 @@ void CRecordPage::ListenToRows() {
   };
   m_rows->PartsAsked = [this](RowSet parts) { ShowParts(parts); };
   m_rows->Entering = [this] { ScrollToShow(m_rows->EditedRow()); };
+  m_rows->CategoryFollowed = [this](const QString& from, const QString& to) {
+    CategoryFollowed(from, to);
+  };
   m_rows->MoveAsked = [this](RowMove move) { MoveEdit(move); };
 }
 
@@ -92,6 +95,8 @@ void CRecordPage::AddEditCommands(EditEnabling enabling) {
 void CRecordPage::LoadRows() { m_rows->ShowRows(); }
 
 void CRecordPage::BecomeInactive() { EndEdits(); }
+
+bool CRecordPage::IsEditing() const { return m_rows->EditedRow() >= 0 || OpenParts(); }
 
 void CRecordPage::EndEdits() {
   m_rows->EndEdit();

@@ -33,11 +33,16 @@ class CRecordPage : public CSheetPage, public TimerTarget {
   // Begins the edit of the first row. Nothing starts the timer: intended.
   void OnTimer(int id) override;
 
+  // A row, or the parts behind one.
+  bool IsEditing() const;
   // Ends every edit, of a row and of parts.
   void EndEdits();
   // Edits the first row, or the last one going backwards.
   void EnterRows(RowMove move);
 
+  // A category was renamed, or removed (to is empty), and the row that has it follows already.
+  std::function<void(const QString& from, const QString& to)> CategoryFollowed =
+      [](const QString&, const QString&) {};
   // Tab and arrow keys lead out of the rows. False: round to the other end.
   std::function<bool(RowMove move)> LeaveAsked = [](RowMove) { return false; };
 

@@ -106,7 +106,12 @@ void CRecordRowList::StartEdit(int row) {
 void CRecordRowList::ChooseCategories(int row) {
   QString names = CategoriesOfRow(RowAt(row).Value);
   std::vector<int> positions;
-  if (!Cate_ShowCategoryList(*ScreenAround(this), 1, names, positions)) return;
+  const auto follow = [this](const QString& from, const QString& to) {
+    FollowCategory(m_record, from, to);
+    ShowRows();
+    CategoryFollowed(from, to);
+  };
+  if (!Cate_ShowCategoryList(*ScreenAround(this), 1, names, positions, follow)) return;
   SetValue(CategoryRowText(names));
 }
 

@@ -47,6 +47,8 @@ class CRecordRowList : public CPaintedWindow, public TimerTarget {
   std::function<void(RowSet parts)> PartsAsked;
   // Something is entered into the edited row, which may be scrolled out of sight.
   std::function<void()> Entering;
+  // A category was renamed, or removed (to is empty), where a row's were to be chosen.
+  std::function<void(const QString& from, const QString& to)> CategoryFollowed;
   // Tab and arrow keys: another row is to be edited.
   std::function<void(RowMove move)> MoveAsked;
 

@@ -23,9 +23,7 @@ void ChooseSeveral(CContactsView& view) {
   const QStringList offered = OfferedCategories();
   if (isDone && ChooseSeveralCategories(g_list, g_categoryMenu, offered, names, positions))
     return view.ShowFiltered();
-  // A category may have been renamed or removed meanwhile.
-  FillCategoryMenu(g_categoryMenu, offered, g_list.CategoryName);
-  view.Rebuild();
+  ShowCategoriesAnew(view);
 }
 
 void Choose(CContactsView& view, int id) {
@@ -47,6 +45,11 @@ std::unique_ptr<CommandTarget> MakeCategoryCommands(CContactsView& view) {
   constexpr int other = ContactsViewIds::kSearchButton;
   return std::make_unique<CommandTarget>(std::vector<CommandRow>{
       {ID_CATEGORY_FIRST, other - 1, choose}, {other + 1, ID_CATEGORY_LAST, choose}});
+}
+
+void ShowCategoriesAnew(CContactsView& view) {
+  FillCategoryMenu(g_categoryMenu, OfferedCategories(), g_list.CategoryName);
+  view.Rebuild();
 }
 
 void ShowCategoryMenu(CContactsView& view) {

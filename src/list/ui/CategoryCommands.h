@@ -11,6 +11,9 @@ class CContactsView;
 
 std::unique_ptr<CommandTarget> MakeCategoryCommands(CContactsView& view);
 
+// A category may have been renamed or removed: builds the menu and the page again.
+void ShowCategoriesAnew(CContactsView& view);
+
 // Opens the menu and carries out what is chosen. By memo nothing happens.
 void ShowCategoryMenu(CContactsView& view);
 

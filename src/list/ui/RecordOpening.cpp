@@ -1,6 +1,8 @@
 #include "list/ui/RecordOpening.h"
 
 #include "editor/ui/EditRecordSheet.h"
+#include "list/CategoryFilter.h"
+#include "list/ui/CategoryCommands.h"
 #include "list/ui/ContactsView.h"
 #include "platform/ui/Screen.h"
 #include "resources/Ids.h"
@@ -10,7 +12,13 @@ namespace quill {
 namespace {
 
 void Run(CEditRecordSheet& sheet, CContactsView& view) {
-  if (sheet.DoModal() == kResultOK) view.Rebuild();
+  const bool isSaved = sheet.DoModal() == kResultOK;
+  const std::vector<CategoryChange>& changes = sheet.CategoryChanges();
+  for (const CategoryChange& change : changes) FollowCategory(g_list, change.From, change.To);
+  if (!changes.empty())
+    ShowCategoriesAnew(view);
+  else if (isSaved)
+    view.Rebuild();
 }
 
 }  // namespace

@@ -13,8 +13,14 @@ namespace {
 // is inside a frame may paint over its edge: a blank edge stands between them.
 constexpr int kFrame = 2;
 constexpr int kMargin = 1;
-constexpr int kFrameDarkness =
-    130;  // percent of the window's colour, as the style's frames have it
+// Percent of the window's and of the highlight's colour, as the style's frames have them.
+constexpr int kFrameDarkness = 130;
+constexpr int kFocusDarkness = 125;
+
+QColor FrameColor(const QWidget& edit) {
+  return edit.hasFocus() ? edit.palette().color(QPalette::Highlight).darker(kFocusDarkness)
+                         : edit.palette().color(QPalette::Window).darker(kFrameDarkness);
+}
 
 // What was copied elsewhere may have no plain form of its own.
 bool IsRichOnly(const QMimeData& source) { return source.hasHtml() && !source.hasText(); }
@@ -41,7 +47,7 @@ bool CMultiEdit::event(QEvent* event) {
   if (event->type() != QEvent::Paint) return WithEditMenu::event(event);
   QPainter painter(this);
   painter.fillRect(rect(), palette().color(QPalette::Base));
-  DrawFrame(painter, rect(), palette().color(QPalette::Window).darker(kFrameDarkness).rgb());
+  DrawFrame(painter, rect(), FrameColor(*this).rgb());
   return true;
 }
 
