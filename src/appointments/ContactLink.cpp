@@ -6,14 +6,6 @@
 
 namespace quill {
 
-namespace {
-
-AppointmentCollection AppointmentsOf(const QString& fileAs) {
-  return RestrictAppointments(AllAppointments(), ContactLinkRestriction(fileAs));
-}
-
-}  // namespace
-
 QString ContactLinkPrefix(const QString& fileAs) { return u'(' + fileAs + u')'; }
 
 SubjectRange ContactLinkRange(const QString& fileAs) {
@@ -33,7 +25,8 @@ QString ContactLinkRestriction(const QString& fileAs) {
 }
 
 std::vector<Oid> FindContactAppointments(const QString& fileAs) {
-  const AppointmentCollection collection = AppointmentsOf(fileAs);
+  const AppointmentCollection collection =
+      RestrictAppointments(AllAppointments(), ContactLinkRestriction(fileAs));
   const int count = Count(collection);
   std::vector<Oid> found;
   for (int position = 1; position <= count; ++position) {
@@ -41,7 +34,5 @@ std::vector<Oid> FindContactAppointments(const QString& fileAs) {
   }
   return found;
 }
-
-int CountContactAppointments(const QString& fileAs) { return Count(AppointmentsOf(fileAs)); }
 
 }  // namespace quill

@@ -28,8 +28,7 @@ SubjectRange ContactLinkRange(const QString& fileAs);
 // The range as a restriction of appointments.
 QString ContactLinkRestriction(const QString& fileAs);
 
-// The appointments in the range, in Oid order, and how many they are. None when the store fails.
+// The appointments in the range, in Oid order. None when the store fails.
 std::vector<Oid> FindContactAppointments(const QString& fileAs);
-int CountContactAppointments(const QString& fileAs);
 
 }  // namespace quill

@@ -79,8 +79,6 @@ int CardLineCount(const std::vector<CardLine>& lines) {
 
 int CardHeight(int lineCount) { return std::max(lineCount, 1) * kLineHeight + 2 * kMargin; }
 
-int CardAnchorOf(int row) { return row * kLineHeight + 10; }
-
 QRect PlaceCard(int lineCount, int anchorY, int listTop) {
   const int height = CardHeight(lineCount);
   const int y = anchorY + listTop;

@@ -20,9 +20,6 @@ inline constexpr Rgb kCardColor = 0x009664;
 int CardLineCount(const std::vector<CardLine>& lines);
 int CardHeight(int lineCount);
 
-// The y in the list at which the card of a row of the page is anchored, when no tap gives one.
-int CardAnchorOf(int row);
-
 // The card's rectangle on the screen. AnchorY is a y in the list, whose top on the screen is
 // listTop: the upper rows have their card below, the others above.
 QRect PlaceCard(int lineCount, int anchorY, int listTop);

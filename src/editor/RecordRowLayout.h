@@ -23,7 +23,6 @@ inline constexpr int kRecordRowHeight = 19;
 inline constexpr int kRecordValueLeft = 80;
 inline constexpr int kRecordRowCount = kPageRowCount - 1;  // the closing row shows nothing
 
-inline constexpr Rgb kRecordBackground = 0xFFFFFF;
 inline constexpr Rgb kRecordLabelColor = 0x3232FF;
 inline constexpr Rgb kRecordLineColor = 0x999999;
 inline constexpr Rgb kRecordPictureColor = 0x2F5568;

@@ -309,7 +309,7 @@ TEST_F(ContactsAppThatCannotStart, SaysSoAndEnds) {
                                const auto* const text =
                                    m_screen->Topmost()->findChild<CTextLabel*>();
                                ASSERT_NE(text, nullptr);
-                               EXPECT_EQ(text->text(), QStringLiteral("no permission"));
+                               EXPECT_EQ(text->text(), QStringLiteral("No permission."));
                                EXPECT_EQ(g_store.Provider, nullptr);
                              },
                              Key(Qt::Key_Return)};

@@ -27,11 +27,6 @@ TEST(CardLayout, TheHeightFollowsTheLinesAndIsNeverLessThanOne) {
   EXPECT_EQ(CardHeight(9), 154);
 }
 
-TEST(CardLayout, ARowIsAnchoredInItsMiddle) {
-  EXPECT_EQ(CardAnchorOf(0), 10);
-  EXPECT_EQ(CardAnchorOf(13), 218);
-}
-
 struct PlaceCase {
   int Lines;
   int AnchorY;

@@ -22,7 +22,6 @@ class IdleTurn : private TimerTarget {
   void Await(std::function<void()> call);
   // The call that waits does not come.
   void Cancel();
-  bool IsWaiting() const { return m_call != nullptr; }
 
  private:
   void OnTimer(int id) override;
