@@ -131,12 +131,13 @@ TEST_F(KeyboardScript, WhatIsTypedIntoANewContactAtOnceIsItsName) {
 TEST_F(KeyboardScript, EscapeEndsAPartThenARowAndThenTheSheet) {
   Press("Ctrl+N");
   Type("Minsu");
-  Press("Escape Tab Tab");
+  Press("Escape Tab Tab Tab Tab Tab Tab Tab");
   Type("Pilot");
   Press("Escape");
   EXPECT_EQ(TopWindow(), QStringLiteral("EditRecordSheet"));
   const QJsonArray rows = m_driver.Result(R"({"op":"rows"})", u"rows").toArray();
   EXPECT_EQ(rows[0][u"value"], QStringLiteral("Minsu "));
+  EXPECT_EQ(rows[1][u"value"], QStringLiteral("Pilot"));
   Press("Escape");
   EXPECT_EQ(TopWindow(), QStringLiteral("MainFrame"));
   EXPECT_EQ(List().value(u"total"), 4);
