@@ -5,7 +5,7 @@
 #include "driver/Geometry.h"
 #include "driver/Operations.h"
 #include "driver/Targets.h"
-#include "editor/CardState.h"
+#include "editor/SummaryState.h"
 #include "editor/ui/EditRecordSheet.h"
 #include "editor/ui/PartEditor.h"
 
@@ -52,7 +52,7 @@ Answer Parts(const QJsonObject&, OperationContext&) {
 Answer Card(const QJsonObject&, OperationContext&) {
   if (g_card.Contact == 0) return Result(u"card", QJsonValue());
   QJsonArray lines;
-  for (const CardLine& line : g_card.Lines)
+  for (const SummaryLine& line : g_card.Lines)
     lines.append(QJsonObject{{QStringLiteral("label"), line.Label.toString()},
                              {QStringLiteral("text"), line.Text}});
   QJsonObject card = RectangleJson(g_card.Place);

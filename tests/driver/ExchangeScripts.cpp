@@ -149,7 +149,7 @@ TEST_F(ExchangeScript, ExportWritesEveryContact) {
   Choose(driver, kExport);
   EXPECT_EQ(TopTitle(driver), QStringLiteral("Export"));
   driver.Do(kOK);
-  EXPECT_EQ(TextOf(Message(driver)), QStringLiteral("contacts.vcf: 2 contacts\n"));
+  EXPECT_EQ(TextOf(Message(driver)), QStringLiteral("contacts.vcf: 2 contacts."));
   EXPECT_EQ(Content(QStringLiteral("contacts.vcf")).count("BEGIN:VCARD"), 2);
 }
 
@@ -167,7 +167,7 @@ TEST_F(ExchangeScript, ExportAsksBeforeItWritesOver) {
   EXPECT_EQ(Content(QStringLiteral("친구.vcf")), "old");
   driver.Do(kOK);
   Answer(driver, "Yes");
-  EXPECT_EQ(TextOf(Message(driver)), QStringLiteral("친구.vcf: 1 contact\n"));
+  EXPECT_EQ(TextOf(Message(driver)), QStringLiteral("친구.vcf: 1 contact."));
   EXPECT_EQ(Content(QStringLiteral("친구.vcf")).count("BEGIN:VCARD"), 1);
 }
 
@@ -182,7 +182,7 @@ TEST_F(ExchangeScript, ExportCanKeepToTheContactsOfTheList) {
   Choose(driver, kExport);
   driver.Do(R"({"op":"set","id":1006,"checked":true})");
   driver.Do(kOK);
-  EXPECT_EQ(TextOf(Message(driver)), QStringLiteral("contacts.vcf: 1 contact\n"));
+  EXPECT_EQ(TextOf(Message(driver)), QStringLiteral("contacts.vcf: 1 contact."));
   EXPECT_TRUE(Content(QStringLiteral("contacts.vcf")).contains("Bell"));
 }
 

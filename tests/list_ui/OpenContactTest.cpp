@@ -1,7 +1,7 @@
 // What a tap on a contact opens.
 #include "SheetSteps.h"
 #include "ViewFixture.h"
-#include "editor/CardState.h"
+#include "editor/SummaryState.h"
 #include "list/Selection.h"
 
 namespace quill {

@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "editor/CardState.h"
 #include "editor/SheetState.h"
+#include "editor/SummaryState.h"
 #include "list/CategoryMenu.h"
 #include "list/ListState.h"
 #include "list/PendingRequest.h"

@@ -3,8 +3,8 @@
 #include <QCoreApplication>
 #include <QEvent>
 
-#include "editor/CardLayout.h"
-#include "editor/CardState.h"
+#include "editor/SummaryLayout.h"
+#include "editor/SummaryState.h"
 #include "platform/ui/ModalWindow.h"
 #include "platform/ui/PaintedWindow.h"
 #include "platform/ui/RowPainter.h"
@@ -15,7 +15,7 @@ namespace quill {
 class CCardLines : public CPaintedWindow {
  public:
   explicit CCardLines(QWidget* card) : CPaintedWindow(card, QAccessible::ToolTip) {}
-  void Show(const CardState& card) {
+  void Show(const SummaryState& card) {
     resize(card.Place.size());
     SetRows(LayOutCard(card.Lines, NormalTextWidth()));
   }

@@ -13,16 +13,16 @@ namespace quill {
 inline constexpr QStringView kNoContactInformation = u"(No contact information)";
 inline constexpr int kCardAddressHeight = 4;  // lines that an address takes
 
-struct CardLine {
+struct SummaryLine {
   QStringView Label;
   QString Text;
   int Height = 1;  // in lines
 
-  bool operator==(const CardLine&) const = default;
+  bool operator==(const SummaryLine&) const = default;
 };
 
 // The lines that have a text, in their order: telephones, fax, e-mail, then one address, the one at
 // work if there is one. Empty when there is nothing to show.
-std::vector<CardLine> CardLines(const ContactRecord& record);
+std::vector<SummaryLine> SummaryLines(const ContactRecord& record);
 
 }  // namespace quill

@@ -1,4 +1,4 @@
-#include "editor/CardLayout.h"
+#include "editor/SummaryLayout.h"
 
 #include <gtest/gtest.h>
 
@@ -11,17 +11,17 @@ using test::FillsOf;
 using test::TenEach;
 using test::TextsOf;
 
-const CardLine kCell{u"Cell:", QStringLiteral("010-1")};
-const CardLine kEmail{u"Email:", QStringLiteral("kim@example.com, or another")};
-const CardLine kWorkAddress{u"W.Adr:", QStringLiteral("1 Main St, Columbus, OH, 43004, USA"), 4};
+const SummaryLine kCell{u"Cell:", QStringLiteral("010-1")};
+const SummaryLine kEmail{u"Email:", QStringLiteral("kim@example.com, or another")};
+const SummaryLine kWorkAddress{u"W.Adr:", QStringLiteral("1 Main St, Columbus, OH, 43004, USA"), 4};
 
-TEST(CardLayout, AnAddressCountsFourLines) {
+TEST(SummaryLayout, AnAddressCountsFourLines) {
   EXPECT_EQ(CardLineCount({}), 0);
   EXPECT_EQ(CardLineCount({kCell}), 1);
   EXPECT_EQ(CardLineCount({kCell, kEmail, kWorkAddress}), 6);
 }
 
-TEST(CardLayout, TheHeightFollowsTheLinesAndIsNeverLessThanOne) {
+TEST(SummaryLayout, TheHeightFollowsTheLinesAndIsNeverLessThanOne) {
   EXPECT_EQ(CardHeight(0), 26);
   EXPECT_EQ(CardHeight(1), 26);
   EXPECT_EQ(CardHeight(9), 154);
@@ -54,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PlaceCase{9, 138, 71, {20, 50, 180, 154}},
                     PlaceCase{9, 139, 71, {20, 51, 180, 154}}));
 
-TEST(CardLayout, TheGroundFillsTheCard) {
+TEST(SummaryLayout, TheGroundFillsTheCard) {
   const std::vector<PaintedRow> rows = LayOutCard({kCell, kWorkAddress}, TenEach);
   const std::vector<PaintedItem> fills = FillsOf(rows[0]);
   ASSERT_EQ(fills.size(), 1U);
@@ -62,7 +62,7 @@ TEST(CardLayout, TheGroundFillsTheCard) {
   EXPECT_EQ(fills[0].Fill, kCardBackground);
 }
 
-TEST(CardLayout, EachLineHasItsLabelAndItsText) {
+TEST(SummaryLayout, EachLineHasItsLabelAndItsText) {
   const std::vector<PaintedRow> rows = LayOutCard({kCell, kEmail}, TenEach);
   ASSERT_EQ(rows.size(), 3U);
   EXPECT_EQ(rows[1].SpokenName, QStringLiteral("Cell: 010-1"));
@@ -77,13 +77,13 @@ TEST(CardLayout, EachLineHasItsLabelAndItsText) {
   EXPECT_EQ(texts[1].Alignment, TextAlign::Left);
 }
 
-TEST(CardLayout, AllTextsHaveTheCardsColour) {
-  for (const auto& lines : {std::vector<CardLine>{}, {kCell, kWorkAddress}})
+TEST(SummaryLayout, AllTextsHaveTheCardsColour) {
+  for (const auto& lines : {std::vector<SummaryLine>{}, {kCell, kWorkAddress}})
     for (const PaintedRow& row : LayOutCard(lines, TenEach))
       for (const PaintedItem& text : TextsOf(row)) EXPECT_EQ(text.Color, 0x009664U);
 }
 
-TEST(CardLayout, AnAddressIsWrappedInFourLinesAndNoMore) {
+TEST(SummaryLayout, AnAddressIsWrappedInFourLinesAndNoMore) {
   const std::vector<PaintedRow> rows = LayOutCard({kCell, kWorkAddress}, TenEach);
   EXPECT_EQ(rows[2].Rectangle, QRect(5, 21, 170, 64));
   const std::vector<PaintedItem> texts = TextsOf(rows[2]);
@@ -95,11 +95,11 @@ TEST(CardLayout, AnAddressIsWrappedInFourLinesAndNoMore) {
     EXPECT_EQ(texts[line + 1].Text, lines[line]);
     EXPECT_EQ(texts[line + 1].Rectangle, QRect(50, 21 + 16 * line, 125, 16));
   }
-  const CardLine longer{u"H.Adr:", kWorkAddress.Text + QStringLiteral(" and the moon"), 4};
+  const SummaryLine longer{u"H.Adr:", kWorkAddress.Text + QStringLiteral(" and the moon"), 4};
   EXPECT_EQ(TextsOf(LayOutCard({longer}, TenEach)[1]).size(), 5U);
 }
 
-TEST(CardLayout, WithNothingToShowItSaysSo) {
+TEST(SummaryLayout, WithNothingToShowItSaysSo) {
   const std::vector<PaintedRow> rows = LayOutCard({}, TenEach);
   ASSERT_EQ(rows.size(), 2U);
   EXPECT_EQ(rows[0].Rectangle, QRect(0, 0, 180, 26));
@@ -111,13 +111,13 @@ TEST(CardLayout, WithNothingToShowItSaysSo) {
   EXPECT_EQ(texts[0].Alignment, TextAlign::Centre);
 }
 
-TEST(CardLayout, ALongLineEndsWithDotsThatFit) {
+TEST(SummaryLayout, ALongLineEndsWithDotsThatFit) {
   const auto rows = LayOutCard({{u"Cell:", QStringLiteral("010-1234-5678")}}, TenEach);
   EXPECT_EQ(TextsOf(rows[1])[1].Text, QStringLiteral("010-1234-..."));
   EXPECT_EQ(rows[1].SpokenName, QStringLiteral("Cell: 010-1234-5678"));
 }
 
-TEST(CardLayout, AnAddressOfMoreThanItsLinesEndsWithDots) {
+TEST(SummaryLayout, AnAddressOfMoreThanItsLinesEndsWithDots) {
   const QString address = QStringLiteral("one two, three four, five six, seven eight, nine ten");
   const auto texts = TextsOf(LayOutCard({{u"W.Adr:", address, 4}}, TenEach)[1]);
   ASSERT_EQ(texts.size(), 5U);

@@ -1,4 +1,4 @@
-#include "editor/CardLayout.h"
+#include "editor/SummaryLayout.h"
 
 #include <algorithm>
 
@@ -45,7 +45,7 @@ PaintedRow LayOutNothing() {
 }
 
 // As many lines as there is room for; the last one ends with dots where there is more.
-QStringList FitLines(const CardLine& line, const TextWidth& width) {
+QStringList FitLines(const SummaryLine& line, const TextWidth& width) {
   if (line.Height == 1) return {ElideText(OnOneLine(line.Text), kValueWidth, width)};
   QStringList lines = WrapLines(line.Text, kValueWidth, width);
   if (lines.size() <= line.Height) return lines;
@@ -54,7 +54,7 @@ QStringList FitLines(const CardLine& line, const TextWidth& width) {
   return lines << ElideText(rest, kValueWidth, width);
 }
 
-PaintedRow LayOutLine(const CardLine& line, int first, const TextWidth& width) {
+PaintedRow LayOutLine(const SummaryLine& line, int first, const TextWidth& width) {
   const QString label = line.Label.toString();
   PaintedRow row{
       .Rectangle = {kMargin, TextTop(first), kCardWidth - 2 * kMargin, line.Height * kLineHeight},
@@ -71,9 +71,9 @@ PaintedRow LayOutLine(const CardLine& line, int first, const TextWidth& width) {
 
 }  // namespace
 
-int CardLineCount(const std::vector<CardLine>& lines) {
+int CardLineCount(const std::vector<SummaryLine>& lines) {
   int count = 0;
-  for (const CardLine& line : lines) count += line.Height;
+  for (const SummaryLine& line : lines) count += line.Height;
   return count;
 }
 
@@ -87,10 +87,10 @@ QRect PlaceCard(int lineCount, int anchorY, int listTop) {
   return {kCardLeft, top, kCardWidth, height};
 }
 
-std::vector<PaintedRow> LayOutCard(const std::vector<CardLine>& lines, const TextWidth& width) {
+std::vector<PaintedRow> LayOutCard(const std::vector<SummaryLine>& lines, const TextWidth& width) {
   std::vector<PaintedRow> rows{LayOutGround(CardHeight(CardLineCount(lines)))};
   int first = 0;
-  for (const CardLine& line : lines) {
+  for (const SummaryLine& line : lines) {
     rows.push_back(LayOutLine(line, first, width));
     first += line.Height;
   }

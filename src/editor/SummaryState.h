@@ -5,21 +5,21 @@
 
 #include <vector>
 
-#include "editor/CardText.h"
+#include "editor/SummaryText.h"
 #include "store/ContactRecord.h"
 
 namespace quill {
 
-struct CardState {
+struct SummaryState {
   Oid Contact = 0;  // 0: no card is shown
-  std::vector<CardLine> Lines = {};
+  std::vector<SummaryLine> Lines = {};
   int LineCount = 0;  // how many lines high they are
   QRect Place = {};   // on the screen, in logical pixels
 };
-extern CardState g_card;
+extern SummaryState g_card;
 
 // The card of a contact at an anchor in the list; listTop: the list's top on the screen. The
 // contact's ink notes are not touched. Nothing (Contact 0) when it can no longer be read.
-CardState LoadCard(Oid oid, int anchorY, int listTop);
+SummaryState LoadCard(Oid oid, int anchorY, int listTop);
 
 }  // namespace quill

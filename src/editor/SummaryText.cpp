@@ -1,4 +1,4 @@
-#include "editor/CardText.h"
+#include "editor/SummaryText.h"
 
 #include <QStringList>
 
@@ -51,9 +51,9 @@ QString Address(const ContactRecord& record, std::span<const ContactField> parts
 
 }  // namespace
 
-std::vector<CardLine> CardLines(const ContactRecord& record) {
-  std::vector<CardLine> lines;
-  const auto add = [&lines](const CardLine& line) {
+std::vector<SummaryLine> SummaryLines(const ContactRecord& record) {
+  std::vector<SummaryLine> lines;
+  const auto add = [&lines](const SummaryLine& line) {
     if (!line.Text.isEmpty()) lines.push_back(line);
   };
   for (const Choice& choice : kChoices) add({choice.Label, FirstFilled(record, choice.Fields)});

@@ -1,8 +1,8 @@
-#include "editor/CardState.h"
+#include "editor/SummaryState.h"
 
 #include <gtest/gtest.h>
 
-#include "editor/CardLayout.h"
+#include "editor/SummaryLayout.h"
 #include "store/ContactStore.h"
 #include "store/pim/PimStore.h"
 #include "support/FreshState.h"
@@ -10,7 +10,7 @@
 namespace quill {
 namespace {
 
-class CardStateTest : public test::FreshState {
+class SummaryStateTest : public test::FreshState {
  protected:
   void SetUp() override {
     ASSERT_EQ(OpenSession(m_store), StartupCode::Opened);
@@ -26,8 +26,8 @@ class CardStateTest : public test::FreshState {
   Oid m_kim = 0;
 };
 
-TEST_F(CardStateTest, SaysHowToReachTheContactAndWhereItStands) {
-  const CardState card = LoadCard(m_kim, 10, 45);
+TEST_F(SummaryStateTest, SaysHowToReachTheContactAndWhereItStands) {
+  const SummaryState card = LoadCard(m_kim, 10, 45);
   EXPECT_EQ(card.Contact, m_kim);
   ASSERT_EQ(card.Lines.size(), 2U);
   EXPECT_EQ(card.Lines[0].Text, u"010-2"_qs);
@@ -35,13 +35,13 @@ TEST_F(CardStateTest, SaysHowToReachTheContactAndWhereItStands) {
   EXPECT_EQ(card.Place, PlaceCard(5, 10, 45));
 }
 
-TEST_F(CardStateTest, LeavesTheInkOfAnOpenSheetAlone) {
+TEST_F(SummaryStateTest, LeavesTheInkOfAnOpenSheetAlone) {
   g_contactInk.Bytes = "of another";
   LoadCard(m_kim, 10, 45);
   EXPECT_EQ(g_contactInk.Bytes, "of another");
 }
 
-TEST_F(CardStateTest, IsNoneOfAContactThatIsGone) {
+TEST_F(SummaryStateTest, IsNoneOfAContactThatIsGone) {
   EXPECT_EQ(LoadCard(m_kim + 1, 10, 45).Contact, 0);
   EXPECT_EQ(LoadCard(0, 10, 45).Contact, 0);
 }

@@ -1,16 +1,16 @@
-#include "editor/CardState.h"
+#include "editor/SummaryState.h"
 
-#include "editor/CardLayout.h"
+#include "editor/SummaryLayout.h"
 #include "store/ContactStore.h"
 
 namespace quill {
 
-CardState g_card;
+SummaryState g_card;
 
-CardState LoadCard(Oid oid, int anchorY, int listTop) {
+SummaryState LoadCard(Oid oid, int anchorY, int listTop) {
   ContactRecord record;
   if (oid == 0 || ReadListRow(ContactSelector(oid), record) == 0) return {};
-  CardState card{.Contact = oid, .Lines = CardLines(record)};
+  SummaryState card{.Contact = oid, .Lines = SummaryLines(record)};
   card.LineCount = CardLineCount(card.Lines);
   card.Place = PlaceCard(card.LineCount, anchorY, listTop);
   return card;
