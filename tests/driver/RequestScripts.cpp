@@ -97,14 +97,16 @@ TEST_F(RequestScript, RequestsForNobodyOpenOneBoxOnceTheDialogHasClosed) {
   EXPECT_EQ(CountWindows(driver), 1);
 }
 
-TEST_F(RequestScript, OfRequestsBehindABoxOnlyTheLatestIsAnswered) {
+TEST_F(RequestScript, OfContactsAskedForBehindABoxOnlyTheLatestIsShown) {
   ReadyDriver driver(Arguments());
   PutPeople(driver);
-  for (const char* name : {"Nobody", "No one", "Gray"}) Ask(driver, name);
+  for (const char* name : {"Nobody", "박지성", "Gray", "No one"}) Ask(driver, name);
   EXPECT_EQ(CountWindows(driver), 2);
-  EXPECT_EQ(Message(driver), kNotFound);
-  driver.Do(R"({"op":"answer","button":"OK"})");
-  Wait(driver);
+  for (int box = 0; box < 2; ++box) {  // the second for who was asked for last
+    EXPECT_EQ(Message(driver), kNotFound);
+    driver.Do(R"({"op":"answer","button":"OK"})");
+    Wait(driver);
+  }
   EXPECT_EQ(Message(driver), QStringLiteral("Gray"));
 }
 
