@@ -69,6 +69,8 @@ QString InkRecoveryName(const QString& memoPath) {
 
 QString ContactInkRecoveryName(qint64 oid) { return u"ink-contact-%1"_qs.arg(oid); }
 
+QString AppointmentInkRecoveryName(qint64 oid) { return u"ink-appointment-%1"_qs.arg(oid); }
+
 std::optional<UnsavedInk> FindUnsavedInk(const QString& name) {
   RecoveryFiles* const files = g_services.Recovery;
   const std::optional<QByteArray> bytes = files ? files->Read(name) : std::nullopt;
@@ -84,6 +86,15 @@ std::optional<UnsavedInk> FindUnsavedInk(const QString& name) {
   return std::nullopt;
 }
 
+bool WriteUnsavedInk(const QString& name, const InkNote& note, const QString& owner) {
+  if (!g_services.Recovery) return false;
+  return g_services.Recovery->Write(name, WriteOpenInk(note) + OwnerChunk(owner) + TimeChunk());
+}
+
+void RemoveUnsavedInk(const QString& name) {
+  if (g_services.Recovery) g_services.Recovery->Remove(name);
+}
+
 InkRecovery::InkRecovery(InkDocument& document, const QString& name, const QString& owner)
     : m_document(document), m_name(name), m_owner(owner) {
   connect(&document, &InkDocument::StrokeAdded, this, &InkRecovery::FollowStroke);
@@ -97,8 +108,7 @@ InkRecovery::~InkRecovery() {
 void InkRecovery::Discard() {
   StopTimer();
   m_begun.reset();
-  // Logged where it fails; the note is offered once more then, which loses nothing.
-  if (g_services.Recovery) g_services.Recovery->Remove(m_name);
+  RemoveUnsavedInk(m_name);
 }
 
 void InkRecovery::FollowStroke(const InkStrokePtr& stroke) { m_added = stroke; }
@@ -122,10 +132,8 @@ bool InkRecovery::AddToFile(const InkStrokePtr& stroke) {
 void InkRecovery::WriteWhole() {
   StopTimer();
   m_begun.reset();
-  if (!g_services.Recovery) return;
   const InkNote& note = m_document.Note();
-  const QByteArray bytes = WriteOpenInk(note) + OwnerChunk(m_owner) + TimeChunk();
-  if (!g_services.Recovery->Write(m_name, bytes)) return;
+  if (!WriteUnsavedInk(m_name, note, m_owner)) return;
   m_begun = Begun{note.Pens, note.Page.Created};
 }
 

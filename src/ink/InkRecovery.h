@@ -15,10 +15,11 @@
 
 namespace quill {
 
-// The file's name for the memo at a device path, whose case says nothing; for a contact's note; and
-// for a memo that has no path yet.
+// The file's name for the memo at a device path, whose case says nothing; for the note of a contact
+// or an appointment, each 0 for a new one; and for a memo that has no path yet.
 QString InkRecoveryName(const QString& memoPath);
 QString ContactInkRecoveryName(qint64 oid);
+QString AppointmentInkRecoveryName(qint64 oid);
 inline constexpr QStringView kNewInkRecoveryName = u"ink-new";
 
 struct UnsavedInk {
@@ -30,6 +31,11 @@ struct UnsavedInk {
 // What an earlier run left under this name; asked before anything is written under it. A file that
 // cannot be read is set aside.
 std::optional<UnsavedInk> FindUnsavedInk(const QString& name);
+// Writes what no open note keeps any more. False, and logged, where it cannot be written.
+bool WriteUnsavedInk(const QString& name, const InkNote& note, const QString& owner);
+// It is saved or given up. Logged where that fails; it is offered once more then, which loses
+// nothing.
+void RemoveUnsavedInk(const QString& name);
 
 // One per open note. The file is there from the first change on; what cannot be written is logged
 // and tried again after the next change.

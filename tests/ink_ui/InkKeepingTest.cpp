@@ -36,11 +36,12 @@ class InkKeepingTest : public test::ScreenFixture {
   // What a run leaves that draws so many dots and is killed.
   void Leave(int dots, const QString& owner = {}) {
     InkX ink(&m_frame);
-    InkKeeping keeping(ink, kName, m_frame, owner);
+    InkKeeping keeping(ink, {.Name = kName, .Owner = owner}, m_frame);
     for (int i = 0; i < dots; ++i) ink.Document().AddStroke(DotAt(10 + i), {});
   }
-  void Begin(const QString& owner = {}) {
-    m_keeping = std::make_unique<InkKeeping>(m_ink, kName, m_frame, owner);
+  void Begin(const QString& owner = {}, const QString& file = {}) {
+    const InkKeepingPlace place{.Name = kName, .Owner = owner, .File = file};
+    m_keeping = std::make_unique<InkKeeping>(m_ink, place, m_frame);
   }
   void Draw() { m_ink.Document().AddStroke(DotAt(100), {}); }
   void Click(int id) {
@@ -157,6 +158,18 @@ TEST_F(InkKeepingTest, NewInkIsKeptBesideWhatIsOffered) {
   EXPECT_EQ(Kept(kSecondName), 1U);
 }
 
+TEST_F(InkKeepingTest, TheFileThatHoldsTheNoteAlreadyIsNotOfferedAndGoesOn) {
+  Leave(1);
+  Leave(2);
+  Begin({}, kSecondName);
+  Draw();
+  EXPECT_EQ(m_keeping->File(), kSecondName);
+  EXPECT_EQ(Kept(kSecondName), 1U);
+  Click(InkIds::kRestore);
+  EXPECT_FALSE(Offers());
+  EXPECT_EQ(m_keeping->File(), kName);
+}
+
 TEST_F(InkKeepingTest, WhatSeveralRunsLeftIsOfferedOneAfterTheOther) {
   Leave(2);
   Leave(3);
@@ -187,11 +200,22 @@ TEST_F(InkKeepingTest, ASavedNoteLeavesOnlyWhatIsStillOffered) {
   EXPECT_EQ(Kept(kSecondName), std::nullopt);
 }
 
+TEST_F(InkKeepingTest, ADeletedNoteLeavesWhatIsOfOthers) {
+  Leave(2);
+  m_keeping = std::make_unique<InkKeeping>(m_ink, InkKeepingPlace{.Name = kName, .IsShared = true},
+                                           m_frame);
+  Draw();
+  m_keeping->DiscardDeleted();
+  EXPECT_TRUE(Offers());
+  EXPECT_EQ(Kept(kName), 2U);
+  EXPECT_EQ(Kept(kSecondName), std::nullopt);
+}
+
 TEST_F(InkKeepingTest, ADeletedNoteLeavesNothing) {
   Leave(2);
   Begin();
   Draw();
-  m_keeping->DiscardAll();
+  m_keeping->DiscardDeleted();
   EXPECT_FALSE(Offers());
   EXPECT_EQ(Kept(kName), std::nullopt);
   EXPECT_EQ(Kept(kSecondName), std::nullopt);

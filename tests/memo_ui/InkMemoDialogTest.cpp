@@ -87,9 +87,9 @@ TEST_F(InkMemoDialogTest, CancelLeavesTheFileAsItWas) {
   EXPECT_EQ(Content(Path(u"a.pwi")), kNote);
 }
 
-TEST_F(InkMemoDialogTest, AnExistingMemoWithoutAPathIsLeftInTheBuffer) {
+TEST_F(InkMemoDialogTest, InkThatIsNoFilesIsLeftInTheBuffer) {
   g_memo.Buffer = kNote;
-  EXPECT_EQ(Run(InkMemoKind::Existing, {}, {Write(kOther), OK()}), kResultOK);
+  EXPECT_EQ(RunOnInk({Write(kOther), OK()}), kResultOK);
   EXPECT_EQ(g_memo.Buffer, kOther);
 }
 
@@ -107,7 +107,9 @@ TEST_F(InkMemoDialogTest, AnExistingMemoThatCannotBeWrittenStaysOpenWithItsInk) 
   EXPECT_EQ(Edit({Write(kOther), [&] { g_services.Files = &full; }, OK(),
                   [&] {
                     ASSERT_EQ(m_prompt.Shown().size(), 1U);
-                    EXPECT_EQ(m_prompt.Shown()[0].Text, kBadName);
+                    EXPECT_EQ(
+                        m_prompt.Shown()[0].Text,
+                        QStringLiteral("Cannot save. The storage is full or cannot be written."));
                     EXPECT_EQ(Ink().Data(), kOther);
                   },
                   Cancel()}),
@@ -192,10 +194,10 @@ TEST_F(InkMemoDialogTest, DeleteNoteOfANewMemoEndsWithOKAndAnEmptyBuffer) {
   EXPECT_EQ(Content(Path(u"new.pwi")), kOther);
 }
 
-TEST_F(InkMemoDialogTest, DeleteNoteOfAMemoWithoutAPathEndsWithOKAndAnEmptyBuffer) {
+TEST_F(InkMemoDialogTest, DeleteNoteOfInkThatIsNoFilesEndsWithOKAndAnEmptyBuffer) {
   g_memo.Buffer = kNote;
   m_prompt.Expect(PromptAnswer::Yes);
-  EXPECT_EQ(Run(InkMemoKind::Existing, {}, {Delete()}), kResultOK);
+  EXPECT_EQ(RunOnInk({Delete()}), kResultOK);
   EXPECT_EQ(g_memo.Buffer, QByteArray());
 }
 
@@ -282,6 +284,14 @@ TEST_F(InkMemoRecovery, ANewMemoThatIsGivenNoNameIsOfferedToTheNext) {
   EXPECT_NE(Content(Path(u"b.pwi")), std::nullopt);
 }
 
+TEST_F(InkMemoRecovery, ADeletedNewMemoLeavesWhatIsOfferedOfOthers) {
+  EXPECT_EQ(WriteNew({Draw(), OK(), Cancel()}), kResultCancel);
+  m_prompt.Expect(PromptAnswer::Yes);
+  g_memo.Buffer.clear();
+  EXPECT_EQ(WriteNew({Draw(), Delete()}), kResultOK);
+  EXPECT_TRUE(IsKept());
+}
+
 TEST_F(InkMemoRecovery, TheOfferGivesWayToThePanel) {
   EXPECT_EQ(WriteNew({Draw(), OK(), Cancel()}), kResultCancel);
   g_memo.Buffer.clear();
@@ -293,16 +303,12 @@ TEST_F(InkMemoRecovery, TheOfferGivesWayToThePanel) {
             Cancel()});
 }
 
-TEST_F(InkMemoRecovery, AMemoWithoutAPathIsNotKept) {
-  EXPECT_EQ(Run(InkMemoKind::Existing, {},
-                {[&] {
-                   InkStroke dot;
-                   dot.Points = {{}};
-                   Ink().Document().AddStroke(dot, {});
-                 },
-                 OK()}),
-            kResultOK);
-  EXPECT_EQ(FindUnsavedInk(InkRecoveryName({})), std::nullopt);
+// Whoever opened the editor has it, and may lose it still.
+TEST_F(InkMemoRecovery, InkThatIsNoFilesIsKeptBeyondTheEditor) {
+  EXPECT_EQ(RunOnInk({Type(), OK()}), kResultOK);
+  const auto kept = FindUnsavedInk(test::kInkPlace);
+  ASSERT_TRUE(kept);
+  EXPECT_EQ(kept->Note.Text.Text, QStringLiteral("tea"));
 }
 
 TEST_F(InkMemoDialogTest, TheProgramsEndIsACancel) {

@@ -7,11 +7,18 @@
 
 namespace quill::test {
 
+inline const QString kInkPlace = QStringLiteral("ink-sample");
+
 class InkMemoFixture : public MemoFixture {
  protected:
   // Runs the editor and the steps in it.
   int Run(InkMemoKind kind, const QString& path, std::vector<Step> steps) {
     CInkMemoDialog dialog(*m_screen, path, kind);
+    const Steps running(*m_screen, std::move(steps));
+    return dialog.DoModal();
+  }
+  int RunOnInk(std::vector<Step> steps) {
+    CInkMemoDialog dialog(*m_screen, {.Name = kInkPlace});
     const Steps running(*m_screen, std::move(steps));
     return dialog.DoModal();
   }

@@ -9,8 +9,6 @@
 
 #include "appointments/ui/AppointmentRowList.h"
 #include "appointments/ui/RecurrenceSheet.h"
-#include "memo/MemoState.h"
-#include "memo/ui/InkMemoDialog.h"
 #include "platform/Clock.h"
 #include "platform/Prompt.h"
 #include "platform/Services.h"
@@ -65,6 +63,7 @@ void CAppointmentDlg::OnInitDialog() {
   m_controls.ShowForm(NewAppointmentForm(m_subject, g_services.Clock->Now()));
   TakeAppointment();
   if (!m_item) return;
+  m_ink.emplace(Screen(), *m_item);
   if (m_mode == DialogMode::ExistingAppointment) m_controls.ShowForm(FormOf(*m_item));
   m_seen = m_controls.Form();
   m_storedChoice = m_seen.Recurrence;
@@ -149,24 +148,25 @@ void CAppointmentDlg::EditPattern() {
 }
 
 void CAppointmentDlg::EditMemo() {
-  if (!m_item) return;
-  g_memo.Buffer = m_refusedInk.value_or(m_item->BodyInk);
-  const int result = CInkMemoDialog(Screen(), QString(), InkMemoKind::Existing).DoModal();
-  const QByteArray ink = std::exchange(g_memo.Buffer, {});
-  if (result != kResultOK) return;
-  m_refusedInk.reset();
-  if (PutAppointmentInk(*m_item, ink)) return;
-  m_refusedInk = ink;
-  Tell(QStringLiteral("Cannot save. Memo exceeded memory limitation."), PromptIcon::Warning);
+  if (m_ink) m_ink->Edit(m_controls.Form().Subject);
 }
 
 void CAppointmentDlg::OnOK() {
   CommitInput();
   if (m_controls.Form().Subject.isEmpty())
     return Tell(QStringLiteral("Subject is empty..."), PromptIcon::None);
-  if (Save()) return EndDialog(kResultOK);
-  Tell(QStringLiteral("Cannot save. Please check the Start/End date and Recurrence pattern."),
-       PromptIcon::Warning);
+  if (!Save())
+    return Tell(
+        QStringLiteral("Cannot save. Please check the Start/End date and Recurrence pattern."),
+        PromptIcon::Warning);
+  m_ink->Discard();
+  EndDialog(kResultOK);
+}
+
+// By the user, not by the program's end.
+void CAppointmentDlg::OnCancel() {
+  if (m_ink) m_ink->Discard();
+  CDialog::OnCancel();
 }
 
 // What is not saved leaves the appointment in hand as it was.

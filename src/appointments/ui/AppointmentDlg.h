@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "appointments/ui/AppointmentControls.h"
+#include "appointments/ui/AppointmentInk.h"
 #include "platform/ui/Dialog.h"
 
 namespace quill {
@@ -25,6 +26,7 @@ class CAppointmentDlg : public CDialog {
   // Saves and ends with OK. Without a subject, and where the store refuses the appointment, the
   // user is told, and the dialog stays.
   void OnOK() override;
+  void OnCancel() override;
   // Above the input panel the rows scroll: with the one that is chosen its neighbours come into
   // view.
   void OnVisibleAreaChanged(QRect area) override;
@@ -52,10 +54,10 @@ class CAppointmentDlg : public CDialog {
   QString m_subject;  // of a new appointment
   Oid m_oid = 0;      // of an existing one
   std::optional<AppointmentItem> m_item;
-  RecurrencePattern m_pattern = {};             // what the wizard edits
-  bool m_isDefaultPattern = false;              // until the wizard edited it
-  AppointmentForm m_seen = {};                  // whose start and end the pattern has
-  std::optional<QByteArray> m_refusedInk = {};  // the editor begins with it
+  RecurrencePattern m_pattern = {};     // what the wizard edits
+  bool m_isDefaultPattern = false;      // until the wizard edited it
+  AppointmentForm m_seen = {};          // whose start and end the pattern has
+  std::optional<AppointmentInk> m_ink;  // of m_item
   RecurrenceChoice m_storedChoice = RecurrenceChoice::Once;
   int m_visibleHeight;          // pixels above the input panel
   int m_top = 0;                // pixels that are scrolled out

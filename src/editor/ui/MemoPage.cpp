@@ -51,7 +51,9 @@ void CMemoPage::MakeInk() {
 void CMemoPage::ShowNote() {
   PutInkIn(*m_ink, g_contactInk.Bytes);
   ShowInkAsPage(*m_ink);
-  m_keeping = std::make_unique<InkKeeping>(*m_ink, ContactInkRecoveryName(m_record.Oid), *this);
+  const InkKeepingPlace place{.Name = ContactInkRecoveryName(m_record.Oid),
+                              .IsShared = m_record.Oid == 0};
+  m_keeping = std::make_unique<InkKeeping>(*m_ink, place, *this);
 }
 
 // A note that was deleted can be taken back until here.
@@ -64,7 +66,7 @@ void CMemoPage::DeleteNote() {
   if (!ConfirmMemoDeletion()) return;
   g_contactInk = {};
   EraseInk(*m_ink);
-  m_keeping->DiscardAll();
+  m_keeping->DiscardDeleted();
 }
 
 void CMemoPage::ForgetUnsaved() {

@@ -6,7 +6,6 @@
 
 #include "ink/ui/InkX.h"
 #include "platform/Clock.h"
-#include "platform/RecoveryFiles.h"
 #include "platform/Services.h"
 #include "resources/ControlIds.h"
 
@@ -30,37 +29,38 @@ QString OfferText(const UnsavedInk& ink) {
   return QStringLiteral("Not saved: %1, %2").arg(ink.Owner, when);
 }
 
-void RemoveFile(const QString& name) {
-  // Where that fails it is offered once more, which loses nothing.
-  if (g_services.Recovery) g_services.Recovery->Remove(name);
-}
-
 }  // namespace
 
-InkKeeping::InkKeeping(InkX& ink, const QString& name, QWidget& window, const QString& owner)
+InkKeeping::InkKeeping(InkX& ink, const InkKeepingPlace& place, QWidget& window)
     : m_ink(ink),
       m_window(window),
-      m_owner(owner),
+      m_isShared(place.IsShared),
+      m_owner(place.Owner),
       m_bar(std::make_unique<COfferBar>(&window, OfferIds{InkIds::kRestore, InkIds::kDiscard})) {
   m_bar->RestoreAsked = [this] { Restore(); };
   m_bar->DiscardAsked = [this] { DropOffer(); };
-  FindOffers(name);
+  FindOffers(place);
   PlaceBar();
 }
 
 InkKeeping::~InkKeeping() = default;
 
-void InkKeeping::FindOffers(const QString& name) {
-  QString free;
+void InkKeeping::FindOffers(const InkKeepingPlace& place) {
+  QString free = place.File;
   for (int number = 1; number <= kFiles; ++number) {
-    const QString file = FileName(name, number);
+    const QString file = FileName(place.Name, number);
+    if (file == place.File) continue;
     if (auto ink = FindUnsavedInk(file))
       m_offers.push_back({file, std::move(*ink)});
     else if (free.isEmpty())
       free = file;
   }
-  if (free.isEmpty()) free = FileName(name, kFiles);
-  m_recovery = std::make_unique<InkRecovery>(m_ink.Document(), free, m_owner);
+  KeepIn(free.isEmpty() ? FileName(place.Name, kFiles) : free);
+}
+
+void InkKeeping::KeepIn(const QString& file) {
+  m_file = file;
+  m_recovery = std::make_unique<InkRecovery>(m_ink.Document(), m_file, m_owner);
 }
 
 void InkKeeping::PlaceBar() {
@@ -73,14 +73,14 @@ void InkKeeping::Restore() {
   const Offer offer = std::move(m_offers.front());
   m_offers.pop_front();
   m_recovery->Discard();
-  m_recovery = std::make_unique<InkRecovery>(m_ink.Document(), offer.Name, m_owner);
+  KeepIn(offer.Name);
   m_ink.Document().Replace(offer.Ink.Note);
   m_ink.setFocus(Qt::ActiveWindowFocusReason);
   PlaceBar();
 }
 
 void InkKeeping::DropOffer() {
-  RemoveFile(m_offers.front().Name);
+  RemoveUnsavedInk(m_offers.front().Name);
   m_offers.pop_front();
   m_ink.setFocus(Qt::ActiveWindowFocusReason);
   PlaceBar();
@@ -88,9 +88,9 @@ void InkKeeping::DropOffer() {
 
 void InkKeeping::Discard() { m_recovery->Discard(); }
 
-void InkKeeping::DiscardAll() {
+void InkKeeping::DiscardDeleted() {
   Discard();
-  while (!m_offers.empty()) DropOffer();
+  while (!m_isShared && !m_offers.empty()) DropOffer();
 }
 
 }  // namespace quill

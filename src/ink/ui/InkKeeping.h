@@ -13,13 +13,23 @@ namespace quill {
 
 class InkX;
 
+// Where a note is kept.
+struct InkKeepingPlace {
+  QString Name;           // of its recovery file; a number follows where that one is offered
+  bool IsShared = false;  // others' notes have that name too
+  QString Owner = {};     // what an offer of it says then
+  QString File = {};      // the one of this name that holds it already, which is not offered
+};
+
 class InkKeeping {
  public:
-  // name: of the note's recovery file; owner: what an offer of it says, where its name is that of
-  // others' notes too. To be made once the control shows the note as it is stored.
-  // The control and the window, in which the bar stands, outlive this.
-  InkKeeping(InkX& ink, const QString& name, QWidget& window, const QString& owner = {});
+  // To be made once the control shows the note as it is stored. The control and the window, in
+  // which the bar stands, outlive this.
+  InkKeeping(InkX& ink, const InkKeepingPlace& place, QWidget& window);
   ~InkKeeping();
+
+  // The one in which the note is kept, once there is anything to keep.
+  const QString& File() const { return m_file; }
 
   // After each change of the window's size.
   void PlaceBar();
@@ -27,8 +37,8 @@ class InkKeeping {
 
   // The note is saved or given up. What is still offered will be offered again.
   void Discard();
-  // The note is deleted: nothing of it is left, nor offered.
-  void DiscardAll();
+  // The note is deleted: nothing of it is left, nor offered. Others' notes still are.
+  void DiscardDeleted();
 
  private:
   struct Offer {
@@ -36,16 +46,19 @@ class InkKeeping {
     UnsavedInk Ink;
   };
 
-  void FindOffers(const QString& name);
+  void FindOffers(const InkKeepingPlace& place);
+  void KeepIn(const QString& file);
   void Restore();
   void DropOffer();
 
   InkX& m_ink;
   QWidget& m_window;
-  QString m_owner;
+  const bool m_isShared;
+  const QString m_owner;
+  QString m_file;                           // nothing is offered from it
   std::unique_ptr<COfferBar> m_bar;         // a child of the window
   std::deque<Offer> m_offers;               // the first one is shown
-  std::unique_ptr<InkRecovery> m_recovery;  // in a file that nothing is offered from
+  std::unique_ptr<InkRecovery> m_recovery;  // in that file
 };
 
 }  // namespace quill

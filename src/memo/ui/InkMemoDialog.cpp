@@ -4,7 +4,6 @@
 
 #include "ink/InkFormat.h"
 #include "ink/ui/InkEditing.h"
-#include "ink/ui/InkKeeping.h"
 #include "ink/ui/InkX.h"
 #include "memo/MemoDeletion.h"
 #include "memo/MemoFiles.h"
@@ -22,6 +21,12 @@ namespace {
 // intended.
 constexpr int kRoomBelow = 25;
 
+InkKeepingPlace PlaceOf(const QString& path, InkMemoKind kind) {
+  if (kind == InkMemoKind::Existing) return {.Name = InkRecoveryName(path)};
+  return {
+      .Name = kNewInkRecoveryName.toString(), .IsShared = true, .Owner = MemoOwner(g_memo, path)};
+}
+
 // What was only looked at is written as it was.
 bool WouldLoseInk(const QByteArray& opened, const QByteArray& written) {
   const InkReading reading = ReadInk(opened).Reading;
@@ -36,14 +41,21 @@ bool MayReplace(const QString& path) {
 
 }  // namespace
 
-CInkMemoDialog::CInkMemoDialog(CScreen& screen, const QString& path, InkMemoKind kind)
-    : CModalWindow(screen), m_path(path), m_kind(kind) {
+CInkMemoDialog::CInkMemoDialog(CScreen& screen, const QString& path, InkMemoKind kind,
+                               const InkKeepingPlace& place)
+    : CModalWindow(screen), m_path(path), m_kind(kind), m_place(place) {
   SetCaption(QStringLiteral("Memo"));
 }
 
+CInkMemoDialog::CInkMemoDialog(CScreen& screen, const QString& path, InkMemoKind kind)
+    : CInkMemoDialog(screen, path, kind, PlaceOf(path, kind)) {}
+
+CInkMemoDialog::CInkMemoDialog(CScreen& screen, const InkKeepingPlace& place)
+    : CInkMemoDialog(screen, {}, InkMemoKind::Existing, place) {}
+
 // What is closed with the program was not given up.
 CInkMemoDialog::~CInkMemoDialog() {
-  if (m_keeping && m_isDecided) m_keeping->Discard();
+  if (m_isDecided && !m_path.isEmpty()) m_keeping->Discard();
 }
 
 void CInkMemoDialog::OnInitDialog() {
@@ -53,16 +65,7 @@ void CInkMemoDialog::OnInitDialog() {
   ShowInkAsPage(*m_ink);
   m_opened = g_memo.Buffer;
   PutInkIn(*m_ink, m_opened);
-  const QString name = RecoveryName();
-  if (name.isEmpty()) return;
-  const QString owner = m_kind == InkMemoKind::New ? MemoOwner(g_memo, m_path) : QString();
-  m_keeping = std::make_unique<InkKeeping>(*m_ink, name, *this, owner);
-}
-
-// Whoever opened an existing memo without a path keeps it.
-QString CInkMemoDialog::RecoveryName() const {
-  if (m_kind == InkMemoKind::New) return kNewInkRecoveryName.toString();
-  return m_path.isEmpty() ? QString() : InkRecoveryName(m_path);
+  m_keeping = std::make_unique<InkKeeping>(*m_ink, m_place, *this);
 }
 
 void CInkMemoDialog::FocusFirstControl() { m_ink->setFocus(Qt::ActiveWindowFocusReason); }
@@ -124,13 +127,16 @@ void CInkMemoDialog::SaveBeside(const QString& why, const QString& proposed) {
 
 void CInkMemoDialog::Save(const QString& path) {
   if (WriteMemo(g_memo, path, g_memo.Buffer)) return Decide(kResultOK);
-  g_services.Prompt->Show({.Text = QStringLiteral("Please check the file name is valid.")});
+  const bool isNamed = path != m_path || m_kind == InkMemoKind::New;
+  g_services.Prompt->Show(
+      {.Text = isNamed ? QStringLiteral("Please check the file name is valid.")
+                       : QStringLiteral("Cannot save. The storage is full or cannot be written.")});
 }
 
 void CInkMemoDialog::DeleteNote() {
   if (!ConfirmMemoDeletion()) return;
   g_memo.Buffer.clear();
-  if (m_keeping) m_keeping->DiscardAll();
+  m_keeping->DiscardDeleted();
   const bool isFile = m_kind == InkMemoKind::Existing && !m_path.isEmpty();
   // What cannot be removed stays, and is listed again.
   if (isFile) g_services.Files->Remove(m_path);

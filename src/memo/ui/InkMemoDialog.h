@@ -4,12 +4,12 @@
 
 #include <memory>
 
+#include "ink/ui/InkKeeping.h"
 #include "platform/ui/ModalWindow.h"
 
 namespace quill {
 
 class InkEditing;
-class InkKeeping;
 class InkX;
 
 enum class InkMemoKind { New, Existing };
@@ -17,9 +17,11 @@ enum class InkMemoKind { New, Existing };
 class CInkMemoDialog : public CModalWindow {
   Q_OBJECT
  public:
-  // The memo's full device path; of a new memo the one that is proposed. An existing memo without a
-  // path is not written: whoever opened it takes g_memo.Buffer.
+  // The memo's full device path; of a new memo the one that is proposed.
   CInkMemoDialog(CScreen& screen, const QString& path, InkMemoKind kind);
+  // Ink that is no file's is not written: whoever opened the editor takes g_memo.Buffer, and
+  // decides what becomes of the recovery file.
+  CInkMemoDialog(CScreen& screen, const InkKeepingPlace& place);
   ~CInkMemoDialog() override;
 
   WindowKind Kind() const override { return WindowKind::Dialog; }
@@ -35,6 +37,8 @@ class CInkMemoDialog : public CModalWindow {
   void OnOK() override;
   void OnCancel() override;
   void OnVisibleAreaChanged(QRect area) override { setGeometry(area); }
+  // The recovery file, from OnInitDialog on.
+  const QString& KeepingFile() const { return m_keeping->File(); }
 
  protected:
   void OnInitDialog() override;
@@ -48,14 +52,16 @@ class CInkMemoDialog : public CModalWindow {
   void Save(const QString& path);
   void DeleteNote();
   void Decide(int result);
-  QString RecoveryName() const;
+  CInkMemoDialog(CScreen& screen, const QString& path, InkMemoKind kind,
+                 const InkKeepingPlace& place);
 
-  const QString m_path;
+  const QString m_path;  // empty: the ink is no file's
   const InkMemoKind m_kind;
+  const InkKeepingPlace m_place;
   QByteArray m_opened;                    // what the memo held then
   InkX* m_ink = nullptr;                  // a child, made by OnInitDialog
   std::unique_ptr<InkEditing> m_editing;  // of m_ink
-  std::unique_ptr<InkKeeping> m_keeping;  // of m_ink; null when it is not a file's
+  std::unique_ptr<InkKeeping> m_keeping;  // of m_ink
   bool m_isDecided = false;               // by the user: saved, cancelled or deleted
 };
 
