@@ -9,12 +9,23 @@
 
 namespace quill {
 
-StartupCode StartList(StoreProvider& provider) {
-  const StartupCode code = OpenSession(provider);
-  if (code != StartupCode::Opened) return code;
-  FixMemoFolder(g_memo);
+namespace {
+
+void TakeSettings() {
   LoadSettings(g_settings);
   g_list.RowsPerPage = LayOutAreas(g_settings).RowsPerPage;
+}
+
+}  // namespace
+
+StartupCode StartList(StoreProvider& provider) {
+  const StartupCode code = OpenSession(provider);
+  if (code != StartupCode::Opened) {
+    TakeSettings();  // the configuration works without a session, and saves what it was given
+    return code;
+  }
+  FixMemoFolder(g_memo);
+  TakeSettings();
   Cate_OpenCreate_DB();  // a failure is on the log: the list works without
   FillCategoryMenu(g_categoryMenu, OfferedCategories(), g_list.CategoryName);
   BuildPage(g_list);
