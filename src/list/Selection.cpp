@@ -15,7 +15,8 @@ int WithinPage(const ListState& list, int row) { return std::min(row, Selectable
 }  // namespace
 
 int SelectableRows(const ListState& list) {
-  return list.Mode == ViewMode::ByMemo ? std::max(list.Total - list.Top, 0) : list.RowsShown;
+  if (list.Mode != ViewMode::ByMemo) return list.RowsShown;
+  return std::clamp(list.Total - list.Top, 0, list.RowsPerPage);
 }
 
 bool IsSelectableRow(const ListState& list, int row) {

@@ -43,8 +43,8 @@ TEST(SelectableRow, OfContactsIsARowThatIsShown) {
 TEST(SelectableRow, OfMemosIsARowUpToTheLastMemo) {
   EXPECT_TRUE(IsSelectableRow(MemoPage(22, 20), 1));
   EXPECT_FALSE(IsSelectableRow(MemoPage(22, 20), 2));
-  EXPECT_TRUE(IsSelectableRow(MemoPage(35, 20), 14));
-  EXPECT_FALSE(IsSelectableRow(MemoPage(34, 20), 14));
+  EXPECT_TRUE(IsSelectableRow(MemoPage(34, 20), 13));
+  EXPECT_FALSE(IsSelectableRow(MemoPage(35, 20), 14)) << "the sliver below the last whole row";
   EXPECT_EQ(SelectableRows(MemoPage(5, 9)), 0);
 }
 

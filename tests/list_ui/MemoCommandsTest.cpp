@@ -137,6 +137,20 @@ TEST_F(MemoCommandsTest, ARenamedMemoIsOfferedItsWholePath) {
   EXPECT_EQ(g_memo.NameList.last(), QStringLiteral("z.pwi"));
 }
 
+TEST_F(MemoCommandsTest, ARenamedMemoStaysSelected) {
+  SelectRow(g_list, 0);
+  RunAndType(ID_RENAME_MEMO, QStringLiteral("Rename As"), QStringLiteral("z.pwi"));
+  EXPECT_EQ(g_list.SelectedKeys, std::vector<int>{4});
+  EXPECT_EQ(g_list.CurrentRow, 4);
+}
+
+TEST_F(MemoCommandsTest, AMemoThatIsNotMarkedIsNotDeleted) {
+  SelectRow(g_list, 0);
+  ClearSelectedKeys(g_list);
+  m_frame->RunCommand(ID_DELETE_MEMO, CommandCheck::Anyway);
+  EXPECT_EQ(Memos(), QStringLiteral("abcde"));
+}
+
 TEST_F(MemoCommandsTest, ACopiedMemoIsOfferedANameOfItsOwn) {
   SelectRow(g_list, 0);
   RunAndType(ID_COPY_MEMO, QStringLiteral("Copy As"), {});

@@ -8,6 +8,8 @@
 #include "memo/MemoListing.h"
 #include "memo/MemoNames.h"
 #include "memo/ui/MemoOpening.h"
+#include "platform/DeviceFiles.h"
+#include "platform/Services.h"
 #include "platform/ui/Screen.h"
 #include "resources/Ids.h"
 #include "settings/ui/NameEntryDlg.h"
@@ -19,7 +21,8 @@ namespace {
 int CurrentPosition() { return g_list.Top + g_list.CurrentRow; }
 
 std::optional<QString> CurrentMemo() {
-  const bool hasRow = g_list.Mode == ViewMode::ByMemo && g_list.CurrentRow >= 0;
+  const bool hasRow = g_list.Mode == ViewMode::ByMemo && g_list.CurrentRow >= 0 &&
+                      IsKeySelected(g_list, KeyOfRow(g_list, g_list.CurrentRow));
   return hasRow ? MemoAt(g_memo, CurrentPosition()) : std::nullopt;
 }
 
@@ -28,6 +31,13 @@ void DeleteMemoAtRow(CContactsView& view) {
   if (!name || !ConfirmMemoDeletion()) return;
   DeleteMemo(g_memo, *name);
   view.RebuildInPlace(g_list.CurrentRow);
+}
+
+// One that was renamed stays selected: the list finds it again by its name.
+void FollowMemo(const QString& name, const QString& path) {
+  const auto position = g_memo.NameList.indexOf(name);
+  if (position >= 0 && !g_services.Files->Exists(MemoPath(g_memo, name)))
+    g_memo.NameList.replace(position, path.section(u'\\', -1));
 }
 
 // Asks for a path and gives it to the action, together with the memo's own.
@@ -39,6 +49,7 @@ void AskForPath(CContactsView& view, NameEntryMode mode, QString (*preset)(const
   const auto entered = AskForName(*ScreenAround(&view), mode, preset(path));
   if (!entered) return;
   action(path, *entered);
+  FollowMemo(*name, *entered);
   view.Rebuild();
 }
 
