@@ -17,11 +17,6 @@ void ChangeEach(const std::vector<int>& oids, Change change) {
   transaction->Commit();  // a failure is on the log: nothing has changed then
 }
 
-void CopyContact(Oid oid) {
-  ContactRecord record;
-  if (ReadContact(ContactSelector(oid), record) != 0) WriteContact(0, record);
-}
-
 // One that is gone already is not missed.
 void DeleteEach(const std::vector<int>& oids) {
   ChangeEach(oids, [](Oid oid) { DeleteContact(oid); });

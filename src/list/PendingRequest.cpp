@@ -31,11 +31,6 @@ Oid FindByName(const QString& fileAs) {
   return ReadListRow({named, 1}, record);
 }
 
-bool IsThere(Oid contact) {
-  ContactRecord record;
-  return ReadListRow(ContactSelector(contact), record) != 0;
-}
-
 }  // namespace
 
 RequestAnswer TakeRequest(PendingRequest& request, int kind, const QString& text) {
@@ -64,7 +59,7 @@ void TakeMemo(PendingRequest& request, const QString& path) {
 
 void DropIfGone(PendingRequest& request) {
   const bool shows = request.Kind == PendingKind::Show || request.Kind == PendingKind::ShowAgain;
-  if (shows && !IsThere(request.Contact)) request = {.NobodyFound = true};
+  if (shows && !HasContact(request.Contact)) request = {.NobodyFound = true};
 }
 
 }  // namespace quill

@@ -126,6 +126,22 @@ Oid WriteContact(Oid oid, const ContactRecord& record) {
   return written;
 }
 
+Oid CopyContact(Oid oid) {
+  ContactsFolder* folder = Folder();
+  ContactItem item;
+  if (!folder || !folder->Read(oid, item)) return 0;
+  item.Uid.clear();
+  const Oid copy = folder->SaveWhole(0, item);
+  if (copy == 0)
+    qCWarning(storeLog) << "Contact" << oid << "not copied:" << g_store.Provider->LastError();
+  return copy;
+}
+
+bool HasContact(Oid oid) {
+  ContactRecord record;
+  return ReadListRow(ContactSelector(oid), record) != 0;
+}
+
 bool DeleteContact(Oid oid) {
   ContactsFolder* folder = Folder();
   return folder && folder->Remove(oid);

@@ -66,6 +66,11 @@ void ReadNewContactDefaults(ContactRecord& record);
 // it could write: who wants to keep the ink copies it before. Oid 0 makes a new contact. Returns
 // the contact's Oid, 0 when nothing was written (the reason goes to the log, nothing to the user).
 Oid WriteContact(Oid oid, const ContactRecord& record);
+// Makes a new contact that equals this one, also in the fields that are not written back. It is
+// another person to cards, which know people by their UID. Returns its Oid, 0 when nothing was
+// written (the reason goes to the log).
+Oid CopyContact(Oid oid);
+bool HasContact(Oid oid);
 bool DeleteContact(Oid oid);
 // All of them or, with false, none (the reason goes to the log).
 bool DeleteContacts(const ContactCollection& collection);

@@ -78,15 +78,24 @@ TEST_F(ContactChanges, ACopyIsAnEqualContactOfItsOwn) {
   EXPECT_NE(m_list.Rows[0].Oid, m_list.Rows[1].Oid);
 }
 
-TEST_F(ContactChanges, ACopyLacksWhatAnEditDoesNotWrite) {
+TEST_F(ContactChanges, ACopyHasAlsoWhatAnEditDoesNotWriteButIsAnotherPersonToCards) {
   const Oid kim = Add(u"Kim"_qs);
   ContactItem item;
   ASSERT_TRUE(m_store.Contacts()->Read(kim, item));
+  item.Record[ContactField::CarTelephoneNumber] = u"0105"_qs;
+  item.Record[ContactField::Email3Address] = u"kim@example.org"_qs;
+  item.Record[ContactField::OtherAddressCity] = u"Seoul"_qs;
+  item.CarriedLines = u"X-SHOE-SIZE:42"_qs;
   item.Uid = u"uid-1"_qs;
   ASSERT_NE(m_store.Contacts()->SaveWhole(kim, item), 0);
   Build();
   SelectRow(m_list, 0);
   CopySelectedContacts(m_list);
+  Build();
+  item.Uid.clear();
+  ContactItem copy;
+  ASSERT_TRUE(m_store.Contacts()->Read(std::max(m_list.Rows[0].Oid, m_list.Rows[1].Oid), copy));
+  EXPECT_EQ(copy, item);
   EXPECT_EQ(m_store.Contacts()->FindByUid(u"uid-1"_qs).size(), 1U);
 }
 

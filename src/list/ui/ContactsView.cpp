@@ -270,7 +270,9 @@ void CContactsView::MoveRow(KeyMove move) {
 
 void CContactsView::OpenRow(int row) {
   if (g_list.Mode == ViewMode::ByMemo) return OpenMemo(*this);
-  EditContact(*this, g_list.Rows[static_cast<std::size_t>(row)].Oid);
+  const Oid contact = g_list.Rows[static_cast<std::size_t>(row)].Oid;
+  if (!HasContact(contact)) return Rebuild();  // another program deleted it
+  EditContact(*this, contact);
 }
 
 void CContactsView::ShowCard(int row, QPoint at) {
