@@ -15,13 +15,12 @@ MemoWatch::MemoWatch(const QString& folder, std::function<void()> changed) : m_f
   Follow();
 }
 
-// A folder that is not there is made in the one above it.
+// The folder is made, and made again under its name, in the one above it.
 void MemoWatch::Follow() {
-  const QString watched = QFileInfo::exists(m_folder) ? m_folder : QFileInfo(m_folder).path();
   const QStringList before = m_watcher.directories();
-  if (before == QStringList(watched)) return;
   if (!before.isEmpty()) m_watcher.removePaths(before);
-  if (QFileInfo::exists(watched)) m_watcher.addPath(watched);
+  for (const QString& folder : {QFileInfo(m_folder).path(), m_folder})
+    if (QFileInfo::exists(folder)) m_watcher.addPath(folder);
 }
 
 }  // namespace quill

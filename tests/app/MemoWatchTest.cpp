@@ -39,6 +39,15 @@ TEST_F(MemoWatchTest, TellsOfFilesThatComeAreRenamedAndGo) {
   WaitUntilTold();
 }
 
+TEST_F(MemoWatchTest, FollowsAFolderInWhosePlaceAnotherIsMade) {
+  ASSERT_TRUE(QDir().rename(Path({}), m_home.filePath(u"before"_qs)));
+  WaitUntilTold();
+  MakeFolder();
+  WaitUntilTold();
+  Make(u"a.pwi"_qs);
+  WaitUntilTold();
+}
+
 TEST_F(MemoWatchTest, FollowsAFolderThatIsRemovedAndMadeAgain) {
   ASSERT_TRUE(QDir(Path({})).removeRecursively());
   WaitUntilTold();
