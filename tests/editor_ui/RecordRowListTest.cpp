@@ -226,6 +226,38 @@ TEST_F(RecordRowListTest, TabAndArrowKeysEditTheOtherRows) {
   });
 }
 
+TEST_F(RecordRowListTest, AKeyThatPassesADateChangesNothing) {
+  const Oid kim = AddKim();
+  InSheet(kim, [&] {
+    m_sheet->ShowPage(1);
+    TapRow(6);
+    for (const int row : {7, 8, 9}) {
+      m_input.Key(Qt::Key_Down);
+      EXPECT_EQ(Rows().EditedRow(), row);
+    }
+    m_input.Key(Qt::Key_Up);
+    m_input.Key(Qt::Key_Up);
+    EXPECT_EQ(Rows().EditedRow(), 7);
+    PressOK();
+  });
+  EXPECT_EQ(Stored(kim).Record.Birthday.Month, 2);
+  EXPECT_EQ(Stored(kim).Record.Anniversary.Year, 0);
+}
+
+TEST_F(RecordRowListTest, AKeyThatReachesTheCategoriesOpensNothing) {
+  InSheet(AddKim(), [&] {
+    TapRow(9);
+    m_input.Key(Qt::Key_Down);
+    EXPECT_EQ(Rows().EditedRow(), 10);
+    EXPECT_EQ(m_screen->Topmost(), m_sheet);
+    const test::Steps steps(*m_screen, {[&] {
+      EXPECT_NE(m_screen->Topmost(), m_sheet);
+      m_input.Key(Qt::Key_Escape);
+    }});
+    m_input.Key(Qt::Key_Space);
+  });
+}
+
 TEST_F(RecordRowListTest, AHoldOnANumberOffersToCallAndToCopyIt) {
   InSheet(AddKim(), [&] {
     m_input.Press(Rows().mapTo(m_screen, QPoint(40, 4 * 19 + 5)));

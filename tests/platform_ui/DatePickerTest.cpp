@@ -158,6 +158,87 @@ TEST_F(DatePickerTest, WhatIsNoDayIsNeverOne) {
   }
 }
 
+struct TypedDay {
+  QDate Before;
+  const char* Typed;
+  QDate After;  // once the focus has gone on
+};
+
+// The clock stands in 2004.
+class TypedDayTest : public DatePickerTest, public testing::WithParamInterface<TypedDay> {};
+
+TEST_P(TypedDayTest, IsTheDayThatWasMeant) {
+  m_picker.SetDate(GetParam().Before, {});
+  TypeDate(QString::fromLatin1(GetParam().Typed));
+  m_other.setFocus();
+  EXPECT_EQ(m_picker.Date(), GetParam().After);
+  EXPECT_EQ(Edit().text(), GetParam().After.toString(QStringLiteral("MM/dd/yyyy")));
+}
+
+INSTANTIATE_TEST_SUITE_P(ALeapDayWaitsForItsYear, TypedDayTest,
+                         testing::Values(TypedDay{{2005, 3, 31}, "02/29/2004", {2004, 2, 29}},
+                                         TypedDay{{2005, 2, 10}, "02292008", {2008, 2, 29}},
+                                         TypedDay{{2005, 1, 15}, "02/29/80", {1980, 2, 29}},
+                                         TypedDay{{2005, 1, 15}, "02/29/20", {2020, 2, 29}},
+                                         TypedDay{{2004, 2, 29}, "02/29/2005", {2005, 2, 28}}));
+INSTANTIATE_TEST_SUITE_P(AYearOfTwoDigitsIsTheNearest, TypedDayTest,
+                         testing::Values(TypedDay{{2004, 9, 15}, "02/14/80", {1980, 2, 14}},
+                                         TypedDay{{2004, 9, 15}, "02/14/05", {2005, 2, 14}},
+                                         TypedDay{{2004, 9, 15}, "02/14/19", {2019, 2, 14}},
+                                         TypedDay{{2004, 9, 15}, "02/14/24", {2024, 2, 14}},
+                                         TypedDay{{2004, 9, 15}, "02/14/25", {1925, 2, 14}},
+                                         TypedDay{{1970, 1, 1}, "051280", {1980, 5, 12}}));
+INSTANTIATE_TEST_SUITE_P(AHalfTypedYearIsTheOneBefore, TypedDayTest,
+                         testing::Values(TypedDay{{1970, 1, 1}, "05/05/1", {1970, 5, 5}},
+                                         TypedDay{{1970, 1, 1}, "05/05/9", {1970, 5, 5}},
+                                         TypedDay{{1970, 1, 1}, "05/05/198", {1970, 5, 5}}));
+
+TEST_F(DatePickerTest, ADayThatWaitedIsForgottenOnceAnotherWasChosen) {
+  m_picker.SetDate(QDate(2005, 3, 31), {});
+  TypeDate(QStringLiteral("0229"));
+  m_input.Key(Qt::Key_Left);
+  m_input.Type(QStringLiteral("282004"));
+  EXPECT_EQ(m_picker.Date(), QDate(2004, 2, 28));
+}
+
+TEST_F(DatePickerTest, HomeAndEndSelectTheFirstAndTheLastSection) {
+  m_picker.setFocus();
+  m_input.Key(Qt::Key_End);
+  m_input.Type(QStringLiteral("2001"));
+  m_input.Key(Qt::Key_Home);
+  m_input.Type(QStringLiteral("0214"));
+  EXPECT_EQ(m_picker.Date(), QDate(2001, 2, 14));
+}
+
+TEST_F(DatePickerTest, AmongRowsUpAndDownAreTheParents) {
+  m_picker.HandOnUpAndDown();
+  for (const bool hasDay : {true, false}) {
+    m_picker.SetChecked(hasDay);
+    m_picker.setFocus();
+    const QWidget* const before = QApplication::focusWidget();
+    m_input.Key(Qt::Key_Down);
+    m_input.Key(Qt::Key_Up);
+    m_input.Key(Qt::Key_Up);
+    EXPECT_EQ(m_picker.ShownDate(), QDate(1990, 5, 12));
+    EXPECT_EQ(QApplication::focusWidget(), before);
+  }
+}
+
+TEST_F(DatePickerTest, ADigitOnTheEmptyCheckBoxBeginsADay) {
+  m_picker.SetDate(std::nullopt, QDate(2004, 9, 15));
+  m_picker.setFocus();
+  m_input.Type(QStringLiteral("02141980"));
+  EXPECT_EQ(m_picker.Date(), QDate(1980, 2, 14));
+}
+
+TEST_F(DatePickerTest, WhoChecksTheBoxByAKeyGoesOnInTheEditor) {
+  m_picker.SetDate(std::nullopt, QDate(2004, 9, 15));
+  m_picker.setFocus();
+  m_input.Key(Qt::Key_Space);
+  m_input.Type(QStringLiteral("02"));
+  EXPECT_EQ(m_picker.Date(), QDate(2004, 2, 15));
+}
+
 TEST_F(DatePickerTest, ArrowKeysStepTheSection) {
   m_picker.setFocus();
   Edit().setSelectedSection(QDateTimeEdit::MonthSection);

@@ -178,7 +178,7 @@ void CRecordPage::EnterRows(RowMove move) {
 void CRecordPage::EditRow(int row) {
   EndEdits();
   ScrollToShow(row);
-  m_rows->StartEdit(row);
+  m_rows->ReachRow(row);
 }
 
 void CRecordPage::Scroll(int action) {

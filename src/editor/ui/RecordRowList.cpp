@@ -103,6 +103,13 @@ void CRecordRowList::StartEdit(int row) {
   }
 }
 
+void CRecordRowList::ReachRow(int row) {
+  if (RowAt(row).Kind != RowKind::Categories) return StartEdit(row);
+  EndEdit();
+  m_edited = row;
+  ShowRows();
+}
+
 void CRecordRowList::ChooseCategories(int row) {
   QString names = CategoriesOfRow(RowAt(row).Value);
   std::vector<int> positions;

@@ -29,6 +29,8 @@ class CRecordRowList : public CPaintedWindow, public TimerTarget {
 
   // Begins the edit of a row by its kind; an edit that was going on ends. No row is -1.
   void StartEdit(int row);
+  // The same by a key, which opens no window: the row that is edited in one waits for Space.
+  void ReachRow(int row);
   void EndEdit();
   int EditedRow() const { return m_edited; }
   const RecordRow* EditedRecordRow() const;

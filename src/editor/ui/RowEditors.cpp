@@ -71,6 +71,7 @@ void RowEditors::MakeChoice() {
 
 void RowEditors::MakeDate() {
   m_date = new CDatePicker(NoneCheck::Shown, &m_list);
+  m_date->HandOnUpAndDown();
   m_date->Changed = [this] { DateChanged(m_date->Date()); };
   m_date->Left = [this] { Left(); };
 }

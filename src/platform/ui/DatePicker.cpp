@@ -23,6 +23,18 @@ constexpr int kCheckSize = 13;
 constexpr int kCheckGap = 3;
 constexpr int kButtonWidth = 17;
 
+// Up and down, which would go to its neighbours, are the picker's.
+class CNoneCheck : public QCheckBox {
+ public:
+  using QCheckBox::QCheckBox;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool isStep = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    isStep ? event->ignore() : QCheckBox::keyPressEvent(event);
+  }
+};
+
 const CWindow* WindowAround(const QWidget* widget) {
   while (widget && !qobject_cast<const CWindow*>(widget)) widget = widget->parentWidget();
   return qobject_cast<const CWindow*>(widget);
@@ -33,7 +45,7 @@ const CWindow* WindowAround(const QWidget* widget) {
 CDatePicker::CDatePicker(NoneCheck none, QWidget* parent)
     : QWidget(parent),
       m_none(none),
-      m_check(new QCheckBox(this)),
+      m_check(new CNoneCheck(this)),
       m_edit(new CDateEdit(this)),
       m_button(new QToolButton(this)) {
   m_check->setAccessibleName(QStringLiteral("There is a date"));
@@ -47,6 +59,7 @@ CDatePicker::CDatePicker(NoneCheck none, QWidget* parent)
   connect(m_edit, &QDateEdit::dateChanged, this, [this] { TellChanged(); });
   connect(m_check, &QCheckBox::clicked, this, [this] {
     FollowCheck();
+    GoToEditor();
     TellChanged();
   });
   connect(m_button, &QToolButton::clicked, this, [this] { OpenCalendar(); });
@@ -95,6 +108,25 @@ void CDatePicker::FollowCheck() {
   setFocusProxy(m_check->isChecked() ? static_cast<QWidget*>(m_edit) : m_check);
 }
 
+// From the check box.
+void CDatePicker::GoToEditor() {
+  if (!m_check->hasFocus() || !m_check->isChecked()) return;
+  m_edit->setFocus(Qt::OtherFocusReason);
+  m_edit->setSelectedSection(QDateTimeEdit::MonthSection);
+}
+
+// A digit on the empty check box says that there is a day.
+bool CDatePicker::BeginTyping(QKeyEvent& event) {
+  const QString text = event.text();
+  if (!m_check->hasFocus() || text.size() != 1 || !text.front().isDigit()) return false;
+  SetChecked(true);
+  GoToEditor();
+  QCoreApplication::sendEvent(m_edit, &event);
+  return true;
+}
+
+void CDatePicker::HandOnUpAndDown() { m_edit->HandOnUpAndDown(); }
+
 // The Return key is told of as a change, even if it changes nothing.
 void CDatePicker::TellChanged() {
   if (std::exchange(m_told, Date()) != Date() && Changed) Changed();
@@ -104,6 +136,7 @@ bool CDatePicker::Holds(const QWidget* widget) const { return widget && isAncest
 
 // The calendar, a menu and another program hand the focus back.
 void CDatePicker::FocusMoved(const QWidget* before, const QWidget* now) {
+  if (Holds(before) || Holds(now)) update();
   if (!Holds(before) || Holds(now) || !now) return;
   if (Left && WindowAround(now) == WindowAround(this)) Left();
 }
@@ -111,11 +144,16 @@ void CDatePicker::FocusMoved(const QWidget* before, const QWidget* now) {
 void CDatePicker::keyPressEvent(QKeyEvent* event) {
   const bool alt = event->modifiers().testFlag(Qt::AltModifier);
   const bool opens = event->key() == Qt::Key_F4 || (alt && event->key() == Qt::Key_Down);
-  opens ? OpenCalendar() : QWidget::keyPressEvent(event);
+  if (opens) return OpenCalendar();
+  if (!BeginTyping(*event)) QWidget::keyPressEvent(event);
 }
 
 void CDatePicker::paintEvent(QPaintEvent* event) {
-  QPainter(this).fillRect(event->rect(), palette().color(QPalette::Base));
+  QPainter painter(this);
+  painter.fillRect(event->rect(), palette().color(QPalette::Base));
+  if (!m_check->hasFocus()) return;
+  painter.setPen(palette().color(QPalette::Highlight));
+  painter.drawRect(m_check->geometry().adjusted(-1, -1, 0, 0));
 }
 
 void CDatePicker::resizeEvent(QResizeEvent*) {

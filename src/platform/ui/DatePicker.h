@@ -2,7 +2,7 @@
 // there may be no day at all.
 //
 // Editor, check box, button and calendar are one control: the focus has left it only when another
-// control of its window has it.
+// control of its window has it. Who checks the box, or types a digit on it, goes on in the editor.
 #pragma once
 
 #include <QDate>
@@ -37,6 +37,9 @@ class CDatePicker : public QWidget {
   QDate ShownDate() const;
   bool HasNoneCheck() const { return m_none == NoneCheck::Shown; }
 
+  // Up and down are the parent's then, as in a list of rows, and step nothing.
+  void HandOnUpAndDown();
+
   // The user's own acts: choose a day, or turn the check.
   void ChooseDate(QDate date);
   void SetChecked(bool checked);
@@ -55,6 +58,8 @@ class CDatePicker : public QWidget {
 
  private:
   void FollowCheck();
+  void GoToEditor();
+  bool BeginTyping(QKeyEvent& event);
   void TellChanged();
   void FocusMoved(const QWidget* before, const QWidget* now);
   bool Holds(const QWidget* widget) const;

@@ -26,12 +26,27 @@ void CSectionEdit::contextMenuEvent(QContextMenuEvent* event) {
   if (event->reason() != QContextMenuEvent::Keyboard) ShowMenu(event->pos());
 }
 
+std::optional<int> CSectionEdit::SectionOfKey(const QKeyEvent& event) const {
+  if (event.modifiers() != Qt::NoModifier) return std::nullopt;
+  switch (event.key()) {
+    case Qt::Key_Left:
+      return std::max(currentSectionIndex() - 1, 0);
+    case Qt::Key_Right:
+      return std::min(currentSectionIndex() + 1, sectionCount() - 1);
+    case Qt::Key_Home:
+      return 0;
+    case Qt::Key_End:
+      return sectionCount() - 1;
+    default:
+      return std::nullopt;
+  }
+}
+
 // False for keys that do not go from section to section.
 bool CSectionEdit::GoToSection(const QKeyEvent& event) {
-  const bool left = event.key() == Qt::Key_Left;
-  if (event.modifiers() != Qt::NoModifier || (!left && event.key() != Qt::Key_Right)) return false;
-  const int section = std::clamp(currentSectionIndex() + (left ? -1 : 1), 0, sectionCount() - 1);
-  setSelectedSection(sectionAt(section));
+  const auto section = SectionOfKey(event);
+  if (!section) return false;
+  setSelectedSection(sectionAt(*section));
   return true;
 }
 

@@ -1,10 +1,12 @@
 // What a date and a time that are typed have in common: sections, such as the month, of which a tap
 // selects one, so that what is typed next takes its place. The left and right arrow keys go from
-// one to the next, up and down step it. The editor's menu opens inside the frame. Texts are English
-// on every desktop.
+// one to the next, Home and End to the first and the last; up and down step it. The editor's menu
+// opens inside the frame. Texts are English on every desktop.
 #pragma once
 
 #include <QDateTimeEdit>
+
+#include <optional>
 
 namespace quill {
 
@@ -21,6 +23,7 @@ class CSectionEdit : public QDateTimeEdit {
 
  private:
   void ShowMenu(QPoint at);
+  std::optional<int> SectionOfKey(const QKeyEvent& event) const;
   bool GoToSection(const QKeyEvent& event);
 };
 
