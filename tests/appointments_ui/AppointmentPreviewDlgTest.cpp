@@ -273,6 +273,16 @@ TEST_F(AppointmentPreviewDlgTest, TheCurrentButtonIsShownOnlyWithTheFocus) {
        Cancel()});
 }
 
+TEST_F(AppointmentPreviewDlgTest, ReturnWithCtrlUsesNoButton) {
+  EXPECT_EQ(Run({[&] {
+              m_input.Key(Qt::Key_Tab);
+              m_input.Key(Qt::Key_Down);
+              m_input.Key(Qt::Key_Return, Qt::ControlModifier);
+            }}),
+            kResultCancel)
+      << "it is OK, which changes nothing here";
+}
+
 TEST_F(AppointmentPreviewDlgTest, AHeldKeyUsesNoButton) {
   EXPECT_EQ(Run({[&] {
                    m_input.Key(Qt::Key_Tab);

@@ -88,6 +88,12 @@ TEST_F(AppointmentRowListTest, ReturnEnterAndTheSpaceBarChooseTheCurrentRow) {
   EXPECT_EQ(m_chosen, Rows(3, AppointmentRow::Start));
 }
 
+TEST_F(AppointmentRowListTest, ReturnWithCtrlIsNotTheRows) {
+  m_list.setFocus();
+  m_input.Key(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_TRUE(m_chosen.empty());
+}
+
 TEST_F(AppointmentRowListTest, AHeldKeyChoosesOnce) {
   m_list.setFocus();
   QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);

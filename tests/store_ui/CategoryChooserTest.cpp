@@ -135,6 +135,18 @@ TEST_F(CategoryChooserTest, TheEditorTakesTheNameOfTheCurrentRow) {
   }});
 }
 
+TEST_F(CategoryChooserTest, TheFirstTapIntoTheEditorLeavesTheOfferedNameToBeReplaced) {
+  Run({[this] {
+    TapRow(kClub);
+    Tap(kEdit);
+    m_input.Type(kJob);
+    EXPECT_EQ(Editor().text(), kJob);
+    Tap(kEdit);
+    EXPECT_FALSE(Editor().hasSelectedText()) << "the second tap puts the caret";
+    Close();
+  }});
+}
+
 TEST_F(CategoryChooserTest, ItsButtonsAreEnabledWhenTheyHaveSomethingToDo) {
   const auto enabled = [this] {
     return std::vector<bool>{IsEnabled(kAdd), IsEnabled(kRename), IsEnabled(kRemove)};
@@ -298,6 +310,15 @@ TEST_F(CategoryChooserTest, ReturnAddsANameThatIsNewAndEndsTheDialogOtherwise) {
                    },
                    [this] { m_input.Key(Qt::Key_Return); }}));
   EXPECT_EQ(m_names, kJob);
+}
+
+TEST_F(CategoryChooserTest, ReturnWithCtrlAddsNothing) {
+  EXPECT_FALSE(Run({[this] {
+    TypeName(kJob);
+    m_input.Key(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(Items(), "Work|Club|No Categories");
+    Close();
+  }}));
 }
 
 TEST_F(CategoryChooserTest, ReturnInAnEmptyEditorOrInTheListIsOK) {

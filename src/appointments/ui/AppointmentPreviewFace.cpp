@@ -10,8 +10,11 @@ namespace quill {
 
 namespace {
 
-bool UsesButton(int key) {
-  return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
+// With Ctrl it is OK's.
+bool UsesButton(const QKeyEvent& event) {
+  const int key = event.key();
+  return !event.modifiers().testFlag(Qt::ControlModifier) &&
+         (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space);
 }
 
 }  // namespace
@@ -58,7 +61,7 @@ void CAppointmentPreviewFace::PenRelease(QPoint at) {
 void CAppointmentPreviewFace::keyPressEvent(QKeyEvent* event) {
   const auto next = PreviewButtonAfterKey(event->key());
   if (next) return SetCurrent(next);
-  if (!UsesButton(event->key()) || !m_current) return CPaintedWindow::keyPressEvent(event);
+  if (!UsesButton(*event) || !m_current) return CPaintedWindow::keyPressEvent(event);
   if (!event->isAutoRepeat()) Chosen(CommandOf(*m_current));
 }
 

@@ -65,6 +65,8 @@ void CAppointmentRowList::MoveCurrent(int step) {
 }
 
 void CAppointmentRowList::keyPressEvent(QKeyEvent* event) {
+  if (event->modifiers().testFlag(Qt::ControlModifier))  // Ctrl+Return is OK's
+    return CPaintedWindow::keyPressEvent(event);
   switch (event->key()) {
     case Qt::Key_Up:
       return MoveCurrent(-1);

@@ -1,5 +1,6 @@
 #include "store/ui/CategoryChooser.h"
 
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
@@ -28,6 +29,7 @@ CCategoryChooser::CCategoryChooser(CScreen& screen, const QString& names)
   Editor().setAccessibleName(QStringLiteral("Name of a category"));
   Editor().setMaxLength(kCategoryNameLimit);
   connect(&Editor(), &QLineEdit::textChanged, this, [this] { EnableButtons(); });
+  Editor().installEventFilter(this);
   List().CurrentChanged = [this] { ShowCurrent(); };
   List().SetItems(OfferCategories(OfferedCategories(), CheckedCategories(names)));
   EnableButtons();
@@ -138,9 +140,20 @@ void CCategoryChooser::resizeEvent(QResizeEvent*) {
   }
 }
 
+// The tap that brings the focus leaves the offered name selected: what is typed takes its place.
+bool CCategoryChooser::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusIn)
+    m_isFirstTap = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;
+  if (event->type() == QEvent::MouseButtonRelease && std::exchange(m_isFirstTap, false) &&
+      !Editor().hasSelectedText())
+    Editor().selectAll();
+  return CDialog::eventFilter(watched, event);
+}
+
 // Return adds the new name that was just typed, rather than end the dialog without it.
 void CCategoryChooser::keyPressEvent(QKeyEvent* event) {
-  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const bool isReturn = (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) &&
+                        !event->modifiers().testFlag(Qt::ControlModifier);
   const bool inEditor = isReturn && !event->isAutoRepeat() && Editor().hasFocus();
   if (inEditor && !Typed().isEmpty() && !IsListed(Typed())) return Add();
   CDialog::keyPressEvent(event);

@@ -29,6 +29,7 @@ class CCategoryChooser : public CDialog {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   CCheckList& List() const;
@@ -45,6 +46,8 @@ class CCategoryChooser : public CDialog {
   void Add();
   void Rename();
   void Remove();
+
+  bool m_isFirstTap = false;  // the pen has brought the focus into the editor and is still down
 };
 
 // Runs the chooser over owner. names: in, the ones that are checked at opening; out, the chosen
