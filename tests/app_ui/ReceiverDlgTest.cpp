@@ -64,6 +64,15 @@ TEST_F(ReceiverDlgTest, TakesWhatIsTyped) {
   EXPECT_EQ(m_dialog.Receiver(), (ObexReceiver{ObexCarrier::Network, u"desk"_qs, 26'500}));
 }
 
+TEST_F(ReceiverDlgTest, WhatIsTypedOverTheDevicesIsAnAddress) {
+  EXPECT_EQ(Run({[this] {
+                   m_input.Type(QStringLiteral("desk"));
+                   EXPECT_EQ(Address().text(), QStringLiteral("desk"));
+                 },
+                 OK()}),
+            kResultOK);
+}
+
 TEST_F(ReceiverDlgTest, ListsWhatIsFoundWhileItIsOpen) {
   Run({[this] {
          m_dialog.AddFound(m_phone);

@@ -54,13 +54,10 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     Submenu, MenuKeysTest,
     testing::Values(
-        KeysCase{
-            "RightOpensIt",
-            {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Right, Qt::Key_Down, Qt::Key_Return},
-            41},
-        KeysCase{"ReturnOpensIt",
-                 {Qt::Key_M, Qt::Key_Return, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return},
-                 42},
+        KeysCase{"RightOpensIt",
+                 {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Right, Qt::Key_Return},
+                 41},
+        KeysCase{"ReturnOpensIt", {Qt::Key_M, Qt::Key_Return, Qt::Key_Down, Qt::Key_Return}, 42},
         KeysCase{"LeftClosesIt",
                  {Qt::Key_M, Qt::Key_Right, Qt::Key_Left, Qt::Key_Down, Qt::Key_Return},
                  5},

@@ -1,9 +1,12 @@
 #include "app/ui/ReceiverDlg.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 
+#include "editor/ui/EditField.h"
 #include "exchange/ObexObject.h"
 #include "infrared/InfraredSettings.h"
 #include "platform/PaintedRow.h"
@@ -59,6 +62,7 @@ CReceiverDlg::CReceiverDlg(CScreen& screen, const QString& last)
 void CReceiverDlg::MakeList() {
   AddControl(ReceiverIds::kFound, m_list);
   m_list->setAccessibleName(QStringLiteral("Devices"));
+  m_list->installEventFilter(this);
   m_list->setPalette(SelectionPalette(m_list->palette()));
   m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   m_list->setCurrentIndex({});  // or the focus makes a row current, which no key selects then
@@ -90,6 +94,17 @@ void CReceiverDlg::TakeSelected() {
 
 // The editor would raise the input panel over the devices.
 void CReceiverDlg::FocusFirstControl() { m_list->setFocus(Qt::ActiveWindowFocusReason); }
+
+// What is typed over the devices is an address.
+bool CReceiverDlg::eventFilter(QObject* watched, QEvent* event) {
+  const bool isAddress =
+      event->type() == QEvent::KeyPress && BeginsText(*static_cast<QKeyEvent*>(event));
+  if (!isAddress) return CDialog::eventFilter(watched, event);
+  m_address->setFocus(Qt::OtherFocusReason);
+  m_address->selectAll();
+  QCoreApplication::sendEvent(m_address, event);
+  return true;
+}
 
 void CReceiverDlg::OnVisibleAreaChanged(QRect area) { setGeometry(area); }
 

@@ -30,6 +30,7 @@ class CReceiverDlg : public CDialog {
  protected:
   void FocusFirstControl() override;
   void resizeEvent(QResizeEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void MakeList();

@@ -235,12 +235,18 @@ void CMenuPopup::GoSideways(int direction) {
   const int item = m_request.Current;
   if (direction > 0 && item >= 0 && !m_items[Index(item)].Items.empty()) {
     OpenSubmenu(item);
+    MarkFirstOfSubmenu();
   } else if (direction < 0 && m_parentMenu) {
     m_parentMenu->CloseSubmenu();  // deletes this
   } else if (m_kind == MenuPopupKind::OfMenuBar) {
     Root().m_leftBy = direction;
     End(0);
   }
+}
+
+// Of the one that a key opened: the next key goes on from there.
+void CMenuPopup::MarkFirstOfSubmenu() {
+  if (m_submenu) m_submenu->SetCurrent(NextMenuItem(m_submenu->m_items, -1, 1));
 }
 
 void CMenuPopup::JumpToLetter(const QString& letter) {
@@ -280,7 +286,7 @@ void CMenuPopup::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Enter:
     case Qt::Key_Space:
       if (m_request.Current >= 0) ActivateItem(m_request.Current);
-      return;
+      return MarkFirstOfSubmenu();
     default:
       return JumpToLetter(event->text());
   }

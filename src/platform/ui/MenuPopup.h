@@ -66,6 +66,7 @@ class CMenuPopup : public CPaintedWindow {
   void LayOut(int firstItem);
   int ItemAt(QPoint at) const;
   void SetCurrent(int item);
+  void MarkFirstOfSubmenu();
   void ActivateItem(int item);
   void OpenSubmenu(int item);
   void CloseSubmenu();
