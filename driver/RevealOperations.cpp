@@ -1,6 +1,7 @@
 // reveal.
 #include "appointments/AppointmentRows.h"
 #include "appointments/ui/AppointmentDlg.h"
+#include "appointments/ui/AppointmentRowList.h"
 #include "driver/Arguments.h"
 #include "driver/Operations.h"
 #include "driver/Pen.h"
@@ -25,7 +26,9 @@ Answer Reveal(const QJsonObject& arguments, OperationContext& context) {
   const auto row = RowOfControl(*id);
   if (dialog == nullptr || !row) return Refusal(kUnknown);
   AddDismissal(context.Steps);
-  const QPointF at = OnScreen(ClientOf(*dialog), LabelOf(*row));
+  auto& rows = *dialog->findChild<CAppointmentRowList*>();
+  rows.Reached(*row);  // a user scrolls it out from under the panel
+  const QPointF at = OnScreen({&rows, rows.rect()}, LabelOf(*row));
   context.Steps.Add([&pen = context.Pen, at] { pen.Press(at); });
   context.Steps.Add([&pen = context.Pen, at] { pen.Release(at); });
   return Done();

@@ -116,6 +116,19 @@ TEST_F(AppointmentScript, ARowsControlsAreHiddenUntilItIsTapped) {
   EXPECT_EQ(m_driver.Error(R"({"op":"reveal","id":1})"), QStringLiteral("unknown"));
 }
 
+TEST_F(AppointmentScript, ARowBehindTheInputPanelIsRevealedToo) {
+  ChooseFromPopup(32819);
+  m_driver.Do(R"({"op":"panel","up":true})");
+  for (const int id : {1038, 1049, 1028}) {
+    Run("reveal", id);
+    if (id == 1049)
+      Cancel();  // of the ink editor
+    else
+      EXPECT_EQ(Control(id)[u"visible"], true) << id;
+    m_driver.Do(R"({"op":"panel","up":true})");
+  }
+}
+
 TEST_F(AppointmentScript, TheWizardMakesOneRecur) {
   ChooseFromPopup(32819);
   Set(1020, R"("index":8)");
