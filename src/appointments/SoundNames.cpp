@@ -11,7 +11,7 @@ QStringList SoundNames(const QStringList& extensions) {
   QStringList names;
   for (const QString& extension : extensions)
     names += g_services.Files->Find(SoundPath(QStringLiteral("*.") + extension));
-  names.sort(Qt::CaseInsensitive);
+  names.sort(Qt::CaseInsensitive);  // a desktop's folder has no order that a person knows
   return names;
 }
 
