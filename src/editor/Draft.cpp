@@ -37,13 +37,8 @@ auto FindDraft(std::vector<Draft>& drafts, int number) {
   return std::ranges::find(drafts, number, &Draft::Number);
 }
 
-bool IsThere(Oid oid) {
-  ContactRecord row;
-  return ReadListRow(ContactSelector(oid), row) != 0;
-}
-
 bool BelongsTo(Oid oid, const Draft& draft) {
-  return draft.Oid == oid || (oid == 0 && !IsThere(draft.Oid));
+  return draft.Oid == oid || (oid == 0 && !HasContact(draft.Oid));
 }
 
 bool HasEnteredName(const Draft& draft) {

@@ -43,8 +43,7 @@ bool Write(const Draft& draft, const Settings& settings) {
 // What a store in trouble does not find may be there.
 bool IsDeleted(Oid oid) {
   if (oid == 0 || !g_store.Provider) return false;
-  ContactRecord row;
-  return ReadListRow(ContactSelector(oid), row) == 0 && g_store.Provider->LastError().isEmpty();
+  return !HasContact(oid) && g_store.Provider->LastError().isEmpty();
 }
 
 SheetOutcome Keep(const Draft& draft) {

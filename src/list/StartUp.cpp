@@ -9,23 +9,12 @@
 
 namespace quill {
 
-namespace {
-
-void TakeSettings() {
-  LoadSettings(g_settings);
-  g_list.RowsPerPage = LayOutAreas(g_settings).RowsPerPage;
-}
-
-}  // namespace
-
 StartupCode StartList(StoreProvider& provider) {
   const StartupCode code = OpenSession(provider);
-  if (code != StartupCode::Opened) {
-    TakeSettings();  // the configuration works without a session, and saves what it was given
-    return code;
-  }
+  if (code != StartupCode::Opened) return code;
   FixMemoFolder(g_memo);
-  TakeSettings();
+  LoadSettings(g_settings);
+  g_list.RowsPerPage = LayOutAreas(g_settings).RowsPerPage;
   Cate_OpenCreate_DB();  // a failure is on the log: the list works without
   FillCategoryMenu(g_categoryMenu, OfferedCategories(), g_list.CategoryName);
   BuildPage(g_list);

@@ -138,8 +138,8 @@ Oid CopyContact(Oid oid) {
 }
 
 bool HasContact(Oid oid) {
-  ContactRecord record;
-  return ReadListRow(ContactSelector(oid), record) != 0;
+  ContactsFolder* folder = Folder();
+  return folder && folder->Has(oid);
 }
 
 bool DeleteContact(Oid oid) {

@@ -70,6 +70,7 @@ Oid WriteContact(Oid oid, const ContactRecord& record);
 // another person to cards, which know people by their UID. Returns its Oid, 0 when nothing was
 // written (the reason goes to the log).
 Oid CopyContact(Oid oid);
+// False also where the store fails.
 bool HasContact(Oid oid);
 bool DeleteContact(Oid oid);
 // All of them or, with false, none (the reason goes to the log).

@@ -47,6 +47,8 @@ class ContactsFolder {
   // The item at a position, 1-based; 0 when there is none.
   virtual Oid OidAt(const ContactCollection& collection, int position) = 0;
 
+  // False also where the store fails, which LastError tells then.
+  virtual bool Has(Oid oid) = 0;
   // Each fills what it reads and returns true, or leaves it untouched and returns false.
   virtual bool ReadListRow(Oid oid, ContactRecord& record) = 0;
   virtual bool Read(Oid oid, ContactItem& item) = 0;

@@ -118,14 +118,14 @@ TEST_F(AppointmentScript, ARowsControlsAreHiddenUntilItIsTapped) {
 
 TEST_F(AppointmentScript, ARowBehindTheInputPanelIsRevealedToo) {
   ChooseFromPopup(32819);
-  m_driver.Do(R"({"op":"panel","up":true})");
+  m_driver.Result(R"({"op":"panel","up":true})", u"panel");
   for (const int id : {1038, 1049, 1028}) {
     Run("reveal", id);
     if (id == 1049)
       Cancel();  // of the ink editor
     else
       EXPECT_EQ(Control(id)[u"visible"], true) << id;
-    m_driver.Do(R"({"op":"panel","up":true})");
+    m_driver.Result(R"({"op":"panel","up":true})", u"panel");
   }
 }
 

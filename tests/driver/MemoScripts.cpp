@@ -69,7 +69,8 @@ TEST_F(MemoScript, AMemoThatCannotBeWrittenKeepsItsFileAndItsInk) {
   OpenFirstMemo(driver);
   driver.Do(R"({"op":"fault","name":"memo-create","on":true})");
   OK(driver);
-  EXPECT_EQ(Message(driver), QStringLiteral("Please check the file name is valid."));
+  EXPECT_EQ(Message(driver),
+            QStringLiteral("Cannot save. The storage is full or cannot be written."));
   Answer(driver, "OK");
   EXPECT_EQ(Content(QStringLiteral("a.pwi")), "of another make");
   EXPECT_EQ(TopTitle(driver), QStringLiteral("Memo"));

@@ -122,6 +122,19 @@ TEST_P(FailedStart, MakesNoMemoFolderAndStoresNoSettings) {
   EXPECT_EQ(Settings(driver).value(u"AreaCodeValueBytes"), QJsonValue());
 }
 
+TEST_F(SettingsScript, TheConfigurationAfterAFailedStartKeepsWhatIsStored) {
+  {
+    ReadyDriver driver(AtHome());
+    Store(driver, R"({"ABC":0,"Name":77,"AreaCode":1})");
+  }
+  ReadyDriver driver(AtHome({QStringLiteral("--fault"), QStringLiteral("calendar-folder")}));
+  driver.Do(R"({"op":"command","id":32830})");
+  driver.Do(R"({"op":"cancel"})");
+  EXPECT_EQ(Settings(driver).value(u"ABC"), 0);
+  EXPECT_EQ(Settings(driver).value(u"Name"), 77);
+  EXPECT_EQ(Settings(driver).value(u"AreaCode"), 1);
+}
+
 INSTANTIATE_TEST_SUITE_P(Steps, FailedStart,
                          testing::Values("store-create", "store-logon", "contacts-folder",
                                          "calendar-folder"));

@@ -147,22 +147,11 @@ TEST_F(StartUp, GoesOnInTheFallBackFolderWithoutAMemoFolder) {
 
 class FailedSession : public StartUp, public testing::WithParamInterface<int> {};
 
-TEST_P(FailedSession, EndsTheStartUpWithTheSettings) {
+TEST_P(FailedSession, EndsTheStartUp) {
   m_store.FailingStep = GetParam();
   EXPECT_EQ(StartList(m_store), static_cast<StartupCode>(GetParam()));
-  EXPECT_EQ(m_steps.Seen(), QStringList({u"session"_qs, u"settings"_qs}));
+  EXPECT_EQ(m_steps.Seen(), QStringList(u"session"_qs));
   EXPECT_EQ(g_list.Total, 0);
-}
-
-TEST_P(FailedSession, LeavesTheSettingsToBeSavedAsTheyWere) {
-  Settings stored{.Abc = 0, .Name = 77};
-  SaveSettings(stored);
-  g_settings = {};
-  m_store.FailingStep = GetParam();
-  StartList(m_store);
-  EXPECT_EQ(g_settings.Abc, 0);
-  EXPECT_EQ(g_settings.Name, 77);
-  EXPECT_EQ(g_list.RowsPerPage, 15);
 }
 
 INSTANTIATE_TEST_SUITE_P(Steps, FailedSession, testing::Values(1, 2, 3, 4));

@@ -23,6 +23,7 @@ class ForwardingContacts : public ContactsFolder {
   Oid OidAt(const ContactCollection& collection, int position) override {
     return Below().OidAt(collection, position);
   }
+  bool Has(Oid oid) override { return Below().Has(oid); }
   bool ReadListRow(Oid oid, ContactRecord& record) override {
     return Below().ReadListRow(oid, record);
   }

@@ -9,6 +9,7 @@
 #include "settings/Settings.h"
 #include "settings/ui/ConfigDlg.h"
 #include "settings/ui/DeleteConfirmDlg.h"
+#include "store/ContactStore.h"
 
 namespace quill {
 
@@ -24,6 +25,7 @@ void DeleteEveryone(CScreen& screen) {
 
 void Configure(CContactsView& view) {
   CScreen& screen = *ScreenAround(&view);
+  if (!g_store.Provider) LoadSettings(g_settings);  // the start-up ended before
   // Saved and laid out also after a Cancel: intended.
   CConfigDlg(screen, {.DeleteAll = [&screen] { DeleteEveryone(screen); },
                       .Receive = [] { ReceiveContacts(g_list); }})

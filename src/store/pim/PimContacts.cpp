@@ -59,6 +59,12 @@ Oid PimContacts::OidAt(const ContactCollection& collection, int position) {
   return m_reader.OidAt(collection, position);
 }
 
+bool PimContacts::Has(Oid oid) {
+  Query query = m_database.Prepare("SELECT 1 FROM contact WHERE Oid = ?1");
+  query.BindNumber(1, oid);
+  return query.Next();
+}
+
 bool PimContacts::ReadListRow(Oid oid, ContactRecord& record) {
   Query query = m_database.Prepare(m_sql.ReadListRow);
   query.BindNumber(1, oid);

@@ -21,6 +21,7 @@ class PimContacts : public ContactsFolder {
                                             const QString& restriction) override;
   int Count(const ContactCollection& collection) override;
   Oid OidAt(const ContactCollection& collection, int position) override;
+  bool Has(Oid oid) override;
   bool ReadListRow(Oid oid, ContactRecord& record) override;
   bool Read(Oid oid, ContactItem& item) override;
   Oid Save(Oid oid, const ContactRecord& record, const QByteArray& bodyInk) override;
