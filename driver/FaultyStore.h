@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "driver/FaultTable.h"
-#include "support/ForwardingStore.h"
+#include "driver/ForwardingStore.h"
 
 namespace quill::driver {
 

@@ -9,7 +9,7 @@ namespace quill {
 void CardCategories::Note(const ContactRecord& record) {
   for (const QString& name : SplitCategories(record[ContactField::Categories])) {
     if (m_noted.size() == kMaxLibrary) return;
-    if (name.size() <= kMaxName && !m_noted.contains(name)) m_noted.append(name);
+    if (name.size() <= kCategoryNameLimit && !m_noted.contains(name)) m_noted.append(name);
   }
 }
 

@@ -10,7 +10,6 @@ namespace quill {
 class CardCategories {
  public:
   static constexpr qsizetype kMaxLibrary = 1'000;  // an import makes no library longer than this
-  static constexpr qsizetype kMaxName = 128;       // characters of a name that can be chosen
 
   // The library outlives this.
   explicit CardCategories(CategoryLibrary& library) : m_library(library) {}

@@ -20,9 +20,9 @@
 namespace quill {
 
 struct ObexInboxLimits {
-  quint16 Packet = kObexLongestLimit;           // bytes; at least kObexShortestLimit
-  qsizetype Object = 8 * qsizetype(1'048'576);  // bytes
-  int Cards = kObexMostCards;                   // in all objects of the connection
+  quint16 Packet = kObexLongestLimit;  // bytes; at least kObexShortestLimit
+  qsizetype Object = kObexLargestObject;
+  int Cards = kObexMostCards;  // in all objects of the connection
 };
 
 enum class ObexVerdict {

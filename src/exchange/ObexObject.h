@@ -15,7 +15,8 @@ struct ObexObject {
   int Cards = 0;     // in it
 };
 
-inline constexpr int kObexMostCards = 1'000;  // taken in one receive
+inline constexpr int kObexMostCards = 1'000;                         // taken in one receive
+inline constexpr qint64 kObexLargestObject = 8 * qint64(1'048'576);  // bytes that are taken
 
 // Nothing when it is no card: it is one by its first line, and by its name when it has a card
 // further on. Stops counting cards one above the limit.

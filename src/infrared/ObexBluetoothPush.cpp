@@ -21,9 +21,9 @@ Q_LOGGING_CATEGORY(logBluetooth, "quill.infrared")
 std::optional<ObexObject> ReadObject(const QString& file, const QString& name, int mostCards) {
   const QFileInfo info(file);
   QFile device(file);
-  if (info.isSymLink() || !info.isFile() || info.size() > ObexBluetoothPush::kLargest) return {};
+  if (info.isSymLink() || !info.isFile() || info.size() > kObexLargestObject) return {};
   if (!device.open(QIODevice::ReadOnly)) return {};
-  return CardObject(name, device.read(ObexBluetoothPush::kLargest), mostCards);
+  return CardObject(name, device.read(kObexLargestObject), mostCards);
 }
 
 }  // namespace
@@ -52,7 +52,7 @@ void ObexBluetoothPush::TransferKnown(const QDBusMessage& reply) {
   m_name = transfer.value(QStringLiteral("Name")).toString();
   m_offer.Label = ObexLabel(m_name);
   const QString session = transfer.value(QStringLiteral("Session")).value<QDBusObjectPath>().path();
-  const bool isTooLarge = transfer.value(QStringLiteral("Size")).toLongLong() > kLargest;
+  const bool isTooLarge = transfer.value(QStringLiteral("Size")).toLongLong() > kObexLargestObject;
   if (session.isEmpty() || isTooLarge || m_host.Room() <= 0) return RejectAndEnd();
   obexbus::CallLater(m_bus, obexbus::GetAll(session, obexbus::kSession), *this,
                      [this](const QDBusMessage& answer) { SessionKnown(answer); });

@@ -14,8 +14,6 @@ namespace quill {
 
 class ObexBluetoothPush : public QObject, public ObexIncoming {
  public:
-  static constexpr qint64 kLargest = 8 * qint64(1'048'576);  // bytes
-
   // The request is answered later, exactly once. Host and watch outlive this.
   ObexBluetoothPush(const QDBusConnection& bus, ObexHost& host, ObexTransferWatch& watch,
                     const QDBusMessage& request);

@@ -52,7 +52,7 @@ void DeleteListedContacts(ListState& list) {
   if (NeedsSecondTest(list))
     DeleteEach(ShownOf(list, restricted));
   else
-    DeleteContacts(restricted);
+    DeleteContacts(restricted);  // a failure is on the log, and the list shows what is there
   list.Top = 0;
 }
 

@@ -13,7 +13,6 @@
 namespace quill {
 
 inline constexpr int kListHoldTimer = 6;
-inline constexpr int kListHoldMilliseconds = 500;
 
 enum class TapAction {
   None,

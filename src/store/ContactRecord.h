@@ -1,5 +1,5 @@
-// One contact as the program passes it around: 41 texts and two dates, a plain value. The Oid and
-// the ink notes are not part of it.
+// One contact as the program passes it around: the texts of ContactField and two dates, a plain
+// value. The Oid and the ink notes are not part of it.
 #pragma once
 
 #include <QString>

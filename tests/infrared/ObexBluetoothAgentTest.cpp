@@ -104,7 +104,7 @@ TEST_F(BluetoothAgent, StoresNothingThatIsNoCard) {
 
 TEST_F(BluetoothAgent, StoresNothingBeyondTheLimit) {
   Push();
-  const QString file = Come(ObexCard(ObexBluetoothPush::kLargest + 1));
+  const QString file = Come(ObexCard(kObexLargestObject + 1));
   m_service.SetStatus(kTransfer, u"complete"_qs);
   EXPECT_TRUE(IsGone(file));
   EXPECT_TRUE(m_host.Stored.isEmpty());

@@ -24,6 +24,7 @@
 #include "store/pim/PimStore.h"
 #include "support/DeviceHome.h"
 #include "support/FaultyStore.h"
+#include "support/FreshState.h"
 
 namespace quill::test {
 
@@ -45,10 +46,10 @@ class ViewFrame : public CWindow {
 
 class ViewFixture : public ScreenFixture {
  protected:
-  ViewFixture() : m_frame((ResetList(), std::make_unique<ViewFrame>(*m_screen))) {}
+  ViewFixture() : m_frame((ResetState(), std::make_unique<ViewFrame>(*m_screen))) {}
   ~ViewFixture() override {
     m_frame.reset();
-    ResetList();
+    ResetState();
   }
 
   CContactsView& View() { return m_frame->View; }
@@ -102,19 +103,6 @@ class ViewFixture : public ScreenFixture {
   PimStore m_pimStore{QStringLiteral(":memory:")};
   FaultyStore m_store{m_pimStore};
   std::unique_ptr<ViewFrame> m_frame;
-
- private:
-  static void ResetList() {
-    CloseSession();
-    g_store = {};
-    g_list = {};
-    g_categoryMenu = {};
-    g_pendingRequest = {};
-    g_memo = {};
-    g_settings = {};
-    g_sheet = {};
-    g_contactInk = {};
-  }
 };
 
 }  // namespace quill::test

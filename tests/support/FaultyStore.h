@@ -1,7 +1,7 @@
 // A store over another one that counts what is asked of its contacts and fails on demand.
 #pragma once
 
-#include "support/ForwardingStore.h"
+#include "driver/ForwardingStore.h"
 
 namespace quill::test {
 

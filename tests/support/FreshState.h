@@ -7,6 +7,7 @@
 #include "editor/SheetState.h"
 #include "editor/SummaryState.h"
 #include "list/CategoryMenu.h"
+#include "list/ContactPopup.h"
 #include "list/ListState.h"
 #include "list/PendingRequest.h"
 #include "memo/MemoState.h"
@@ -18,7 +19,8 @@
 
 namespace quill::test {
 
-inline void ResetProcessState() {
+// All but the services, which a fixture may have set already.
+inline void ResetState() {
   CloseSession();
   g_store = {};
   g_contactInk = {};
@@ -31,6 +33,11 @@ inline void ResetProcessState() {
   g_card = {};
   g_deleteScope = {};
   g_keyPanel = {};
+  g_linkedItems = {};
+}
+
+inline void ResetProcessState() {
+  ResetState();
   g_services = {};
 }
 

@@ -27,7 +27,7 @@ void IdleTurn::Cancel() {
 }
 
 void IdleTurn::OnTimer(int) {
-  if (!m_screen.IsIdle() || m_screen.IsPenDown()) return;
+  if (!m_screen.IsUndisturbed()) return;
   m_timers.KillAll(*this);
   if (const auto call = std::exchange(m_call, nullptr)) call();
 }

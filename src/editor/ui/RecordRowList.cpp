@@ -11,6 +11,7 @@
 #include "editor/RecordRowLayout.h"
 #include "editor/ui/RowMenu.h"
 #include "platform/Clock.h"
+#include "platform/Hold.h"
 #include "platform/InputPanel.h"
 #include "platform/Services.h"
 #include "platform/ui/InputCommit.h"
@@ -25,7 +26,6 @@ namespace quill {
 namespace {
 
 constexpr int kHoldTimer = 6;
-constexpr int kHoldMilliseconds = 500;
 
 }  // namespace
 

@@ -18,7 +18,7 @@ namespace {
 bool IsByMemo() { return g_list.Mode == ViewMode::ByMemo; }
 
 bool Confirm(CContactsView& view, DeleteScope scope) {
-  return ConfirmDeletion(*ScreenAround(&view), scope);
+  return ConfirmContactDeletion(*ScreenAround(&view), scope);
 }
 
 void DeleteSelected(CContactsView& view) {

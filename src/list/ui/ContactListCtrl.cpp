@@ -9,6 +9,7 @@
 #include "list/ListLayout.h"
 #include "list/Selection.h"
 #include "memo/MemoState.h"
+#include "platform/Hold.h"
 #include "platform/Services.h"
 #include "platform/ui/RowPainter.h"
 #include "store/ContactStore.h"
@@ -80,7 +81,7 @@ void CContactListCtrl::OnTimer(int id) {
 
 void CContactListCtrl::CarryOut(const TapIntention& intention) {
   if (intention.Timer == TapTimer::Start)
-    g_services.Timers->Set(*this, kListHoldTimer, kListHoldMilliseconds);
+    g_services.Timers->Set(*this, kListHoldTimer, kHoldMilliseconds);
   if (intention.Timer == TapTimer::Stop) g_services.Timers->Kill(*this, kListHoldTimer);
   if (intention.Action == TapAction::None) return;
   ApplyTap(g_list, intention);

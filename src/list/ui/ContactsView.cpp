@@ -1,6 +1,5 @@
 #include "list/ui/ContactsView.h"
 
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPushButton>
@@ -73,7 +72,6 @@ CContactsView::CContactsView(QWidget* frame)
 
 CContactsView::~CContactsView() {
   if (g_services.Timers) g_services.Timers->KillAll(*this);
-  ShowWaiting(false);
 }
 
 void CContactsView::MakeControls() {
@@ -154,17 +152,18 @@ void CContactsView::OnTimer(int id) {
   if (g_list.Mode != ViewMode::ByMemo) Rebuild();
 }
 
-// What a menu or a pen is about stays where it is until that is over.
+// What a menu or a pen is about stays where it is until that is over. A dialog has its contact in
+// hand, and the list below follows.
 bool CContactsView::IsInUse() {
   const CScreen* const screen = ScreenAround(this);
   return screen && (screen->Popup() || screen->IsPenDown());
 }
 
 void CContactsView::ShowWaiting(bool waiting) {
-  if (m_waiting == waiting) return;
-  m_waiting = waiting;
-  waiting ? QGuiApplication::setOverrideCursor(Qt::WaitCursor)
-          : QGuiApplication::restoreOverrideCursor();
+  if (!waiting)
+    m_waiting.reset();
+  else if (!m_waiting)
+    m_waiting.emplace();
 }
 
 bool CContactsView::OnCopyData(int kind, const QString& text) {

@@ -12,6 +12,7 @@
 #include "list/Scrolling.h"
 #include "platform/CommandTarget.h"
 #include "platform/Timers.h"
+#include "platform/ui/WaitCursor.h"
 #include "platform/ui/Window.h"
 #include "store/StoreProvider.h"
 
@@ -95,7 +96,7 @@ class CContactsView : public QWidget, public TimerTarget {
   CContactListCtrl* m_list;
   QScrollBar* m_scrollBar;
   ControlMap m_controls;
-  bool m_waiting = false;                       // the wait cursor is this view's
+  std::optional<WaitCursor> m_waiting;
   std::unique_ptr<CContactSummaryCard> m_card;  // once it was asked for
   std::unique_ptr<CommandTarget> m_contactCommands;
   std::unique_ptr<CommandTarget> m_linkedItemCommands;

@@ -15,7 +15,7 @@ constexpr int kDelay = 500;  // milliseconds after the last change
 // What a dialog asks about stays where it is listed.
 bool IsInUse(CContactsView& view) {
   const CScreen* const screen = ScreenAround(&view);
-  return screen && (!screen->IsIdle() || screen->IsPenDown());
+  return screen && !screen->IsUndisturbed();
 }
 
 }  // namespace

@@ -49,7 +49,7 @@ void RequestOpening::OnTimer(int) {
 
 bool RequestOpening::IsIdle() const {
   const CScreen* const screen = ScreenAround(&m_view);
-  return !screen || (screen->IsIdle() && !screen->IsPenDown());
+  return !screen || screen->IsUndisturbed();
 }
 
 void RequestOpening::TellNobodyFound() {

@@ -18,7 +18,7 @@ namespace {
 // Whatever the filter, other than the list's own command. The list is built again when the
 // configuration closes.
 void DeleteEveryone(CScreen& screen) {
-  if (g_list.Total <= 0 || !ConfirmDeletion(screen, DeleteScope::All)) return;
+  if (g_list.Total <= 0 || !ConfirmContactDeletion(screen, DeleteScope::All)) return;
   const WaitCursor waiting;
   DeleteEveryContact();
 }

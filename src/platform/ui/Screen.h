@@ -75,6 +75,8 @@ class CScreen : public QWidget {
   bool IsIdle() const;
   // True while a pen touches any window: nothing may open or change under it then.
   bool IsPenDown() const { return m_penWatch.IsDown(); }
+  // Neither: what nobody at the screen asked for may happen.
+  bool IsUndisturbed() const { return IsIdle() && !IsPenDown(); }
   const PenWatch& Pens() const { return m_penWatch; }
   // Ends popup and modal windows from the top with Cancel, then calls Closed.
   void CloseAll();

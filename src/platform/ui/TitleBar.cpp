@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/Hold.h"
 #include "platform/Services.h"
 #include "platform/ui/InputCommit.h"
 #include "platform/ui/Screen.h"
@@ -11,7 +12,6 @@ namespace quill {
 namespace {
 
 constexpr int kHoldTimer = 1;
-constexpr int kHoldMilliseconds = 500;
 constexpr int kHoldTolerance = 6;  // pixels that a held pen may tremble
 
 }  // namespace

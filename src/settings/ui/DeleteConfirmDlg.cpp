@@ -26,7 +26,7 @@ void CDeleteConfirmDlg::OnInitDialog() {
   message->setText(DeleteQuestion(g_deleteScope));
 }
 
-bool ConfirmDeletion(CScreen& screen, DeleteScope scope) {
+bool ConfirmContactDeletion(CScreen& screen, DeleteScope scope) {
   g_deleteScope = scope;
   return CDeleteConfirmDlg(screen).DoModal() == kResultOK;
 }

@@ -17,6 +17,6 @@ class CDeleteConfirmDlg : public CDialog {
 };
 
 // Sets g_deleteScope and asks. True when the contacts shall go.
-bool ConfirmDeletion(CScreen& screen, DeleteScope scope);
+bool ConfirmContactDeletion(CScreen& screen, DeleteScope scope);
 
 }  // namespace quill

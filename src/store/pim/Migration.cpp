@@ -41,7 +41,7 @@ int CopyStore(const QString& path, qint64 version) {
   Query vacuum = source.Prepare("VACUUM INTO ?1");
   vacuum.BindText(1, copy);
   if (vacuum.Run()) return SQLITE_OK;
-  QFile::remove(copy);
+  QFile::remove(copy);  // a part that stays is passed by: the next try has another name
   return source.FailureCode();
 }
 
