@@ -129,6 +129,15 @@ TEST_F(AppointmentScript, ARowBehindTheInputPanelIsRevealedToo) {
   }
 }
 
+TEST_F(AppointmentScript, ADateThatIsHalfTypedAtOKIsTheOneThatWasMeant) {
+  ChooseFromPopup(32819);
+  Run("reveal", 1026);
+  m_driver.Do(R"({"op":"type","text":"030520"})");
+  OK();
+  const QJsonValue stored = m_driver.Result(R"({"op":"appointments"})", u"appointments");
+  EXPECT_EQ(stored[0][u"fields"][u"Start"].toString().left(10), QStringLiteral("2020-03-05"));
+}
+
 TEST_F(AppointmentScript, TheWizardMakesOneRecur) {
   ChooseFromPopup(32819);
   Set(1020, R"("index":8)");

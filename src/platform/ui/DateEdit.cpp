@@ -105,7 +105,6 @@ void CDateEdit::PutNoted(int year) {
   if (noted != date()) setDate(noted);
 }
 
-// Where no more digits come, also the two that a year could begin with are one.
 void CDateEdit::TakeShortYear() {
   if (m_year.size() == 2) setDate(Noted(YearOfTwoDigits(std::exchange(m_year, {}))));
 }

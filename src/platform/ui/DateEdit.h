@@ -12,6 +12,8 @@ class CDateEdit : public CSectionEdit {
  public:
   explicit CDateEdit(QWidget* parent);
 
+  // No more digits come: two that a year could begin with are one.
+  void TakeShortYear();
   // Up and down are the parent's then, as in a list of rows, and step nothing.
   void HandOnUpAndDown() { m_handsOn = true; }
 
@@ -27,7 +29,6 @@ class CDateEdit : public CSectionEdit {
   void NoteDigit(const QString& digit);
   bool IsShortYearBegun() const;
   void PutNoted(int year);
-  void TakeShortYear();
   QDate Noted(int year) const;
   void Forget();
 

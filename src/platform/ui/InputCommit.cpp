@@ -4,12 +4,15 @@
 #include <QInputMethod>
 #include <QLineEdit>
 
+#include "platform/ui/DateEdit.h"
 #include "platform/ui/PreeditWatch.h"
 #include "platform/ui/Screen.h"
 
 namespace quill {
 
 void CommitInput() {
+  if (auto* const date = qobject_cast<CDateEdit*>(QApplication::focusWidget()))
+    date->TakeShortYear();
   if (const CScreen* const screen = ScreenAround(QApplication::focusWidget()))
     screen->Preedit().Commit();
   else
